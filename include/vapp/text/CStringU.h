@@ -1,0 +1,254 @@
+/// @file
+/// CStringU: the one text type of the system.
+///
+/// Every name, path, message and keyword that crosses a class boundary is a CStringU. It is a CString whose
+/// bytes are UTF-8, with one addition: text that holds a non-ASCII character but begins with an ASCII one has
+/// a marker byte, 0x80, in front. So the first stored byte alone tells whether a text is pure ASCII, and pure
+/// ASCII text takes the plain byte path everywhere. The text behind the marker is the payload; everything
+/// that leaves for the outside (an interpreter, a file, printf) is the payload, never the stored bytes.
+///
+/// The marker invariant:
+///  - no byte >= 0x80: no marker;
+///  - a non-ASCII character in it, the first one ASCII: one marker, at the very front;
+///  - the first character non-ASCII: no marker, for its own lead byte (0xC0 and above) says the same.
+/// A text of the marker alone can come about; it counts as empty in every length, blank and iteration
+/// operation, though HasNonAscii is true of it, which is harmless.
+///
+/// Characters are UTF-16 units of 16 bits; offsets are bytes of the payload; counts of characters are counts
+/// of units, so that a surrogate pair counts two and takes six bytes. How units become bytes stands in
+/// text/Codec.h. Embedded NULs are not supported: every text ends at its first one.
+///
+/// The surprises: a narrow `const char*` with high bytes is in the active code page, not in UTF-8. Malformed
+/// UTF-8 never fails, and comes out as its bits say. There is no order by locale: `<` puts the shorter
+/// payload first, then goes by bytes. Where `wchar_t` is wider than 16 bits, a value above 0xFFFF comes in as
+/// a surrogate pair, and each unit goes out as one `wchar_t`.
+#pragma once
+
+#include <compare>
+#include <concepts>
+#include <cstdarg>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "vapp/Export.h"
+#include "vapp/text/CString.h"
+#include "vapp/text/CStringUPos.h"
+#include "vapp/text/TextEncoding.h"
+
+/// What printf takes: numbers, enumerators and pointers. A text is passed by its Payload() or GetString().
+template <typename Type>
+concept FormatArgument = std::is_arithmetic_v<Type> || std::is_enum_v<Type> || std::is_pointer_v<Type>;
+
+class VAPP_EXPORT CStringU {
+public:
+    // --- Construction and assignment -------------------------------------------------------------------
+
+    /// Empty text.
+    CStringU() noexcept = default;
+    CStringU(std::nullptr_t) noexcept {}
+    /// Narrow text: ASCII stays, and with a high byte in it the whole is read in the active code page
+    /// (TextEncoding::AnsiAuto). A null pointer gives empty text.
+    CStringU(const char* text);
+    CStringU(const CString& text);
+    /// Narrow text in a named encoding; see Assign.
+    CStringU(const char* text, TextEncoding encoding, int length = -1);
+    /// UTF-16, to its NUL or `count` units; see AssignWide.
+    CStringU(const char16_t* text, int count = -1);
+    CStringU(const wchar_t* text, int count = -1);
+    explicit CStringU(std::u16string_view text);
+    /// One character; 0 gives empty text.
+    explicit CStringU(char16_t unit);
+    explicit CStringU(wchar_t character);
+
+    CStringU& operator=(const char* text);
+    CStringU& operator=(const CString& text);
+    CStringU& operator=(const char16_t* text) { return AssignWide(text); }
+    CStringU& operator=(const wchar_t* text) { return AssignWide(text); }
+    CStringU& operator=(char16_t unit);
+    CStringU& operator=(wchar_t character);
+
+    /// Reads bytes as `encoding` says: exactly `length` of them, or up to the NUL where `length` is negative;
+    /// never beyond a NUL. A null pointer gives empty text.
+    CStringU& Assign(const char* text, TextEncoding encoding, int length = -1);
+    /// Encodes UTF-16, up to `count` units or the NUL, and puts the marker in front where it is due. A null
+    /// pointer gives empty text.
+    CStringU& AssignWide(const char16_t* text, int count = -1);
+    CStringU& AssignWide(const wchar_t* text, int count = -1);
+    CStringU& AssignWide(std::u16string_view text);
+    /// Encodes UTF-16 of the other byte order, up to its NUL.
+    CStringU& AssignWideSwapped(const char16_t* text);
+    CStringU& AssignWideSwapped(const wchar_t* text);
+    /// Converts bytes of a named code page, always, ASCII or not.
+    CStringU& AssignAnsi(const char* text, unsigned codePage, int length = -1);
+    /// Copies pure ASCII, converts anything else as AssignAnsi.
+    CStringU& AssignAnsiAuto(const char* text, unsigned codePage, int length = -1);
+    /// Takes a narrow text known to be UTF-8: the marker in front if its first byte is ASCII (so also on pure
+    /// ASCII), otherwise the text as it stands, sharing its bytes.
+    CStringU& AssignMarked(const CString& utf8);
+    /// Makes the text empty.
+    void Empty() noexcept { m_stored.Empty(); }
+
+    // --- Read-only views -------------------------------------------------------------------------------
+
+    /// The bytes behind any marker, NUL at the end. Valid until this text is changed or destroyed.
+    [[nodiscard]] const char* Payload() const noexcept {
+        const char* stored = m_stored.GetString();
+        return stored + static_cast<int>(*stored == cnMarker);
+    }
+    /// The payload with its length.
+    [[nodiscard]] std::string_view PayloadView() const noexcept {
+        return {Payload(), static_cast<std::size_t>(GetByteLength())};
+    }
+    /// True if the first stored byte has its high bit set.
+    [[nodiscard]] bool HasNonAscii() const noexcept {
+        return static_cast<signed char>(*m_stored.GetString()) < 0;
+    }
+    /// Bytes of the payload.
+    [[nodiscard]] int GetByteLength() const noexcept {
+        return m_stored.GetLength() - static_cast<int>(*m_stored.GetString() == cnMarker);
+    }
+    /// Characters of the payload, counted by decoding; at once for ASCII.
+    [[nodiscard]] int GetCharCount() const noexcept;
+    /// True for no text, and for a marker alone.
+    [[nodiscard]] bool IsEmpty() const noexcept { return GetByteLength() == 0; }
+    /// The bytes as they are stored, marker included; for tests and for keeping a text as it is.
+    [[nodiscard]] const CString& Stored() const noexcept { return m_stored; }
+
+    // --- Conversions out -------------------------------------------------------------------------------
+
+    /// The payload as plain narrow text; shares storage where there is no marker.
+    [[nodiscard]] CString StripMarker() const;
+    [[nodiscard]] std::u16string ToWide() const;
+    /// ToWide with the two bytes of every unit swapped.
+    [[nodiscard]] std::u16string ToWideSwapped() const;
+    /// The text in a code page; what it can't express becomes its default character. Ends at an overlong NUL.
+    [[nodiscard]] CString ToAnsi(unsigned codePage) const;
+    /// The text in the active code page.
+    [[nodiscard]] CString ToAnsi() const;
+    /// ToWide, one `wchar_t` for each unit.
+    [[nodiscard]] std::wstring ToStdWstring() const;
+
+    // --- Concatenation ---------------------------------------------------------------------------------
+
+    /// Appends the other payload; then the marker goes in front if `other` HasNonAscii and the first stored
+    /// byte here is ASCII.
+    CStringU& AppendU(const CStringU& other);
+    CStringU& operator+=(const CStringU& other) { return AppendU(other); }
+    /// Appends one character, with the marker where it becomes due; 0 appends nothing.
+    CStringU& operator+=(char16_t unit);
+    CStringU& operator+=(wchar_t character);
+    /// Appends the byte as it stands, without a thought for the marker: for ASCII only. 0 appends nothing.
+    CStringU& operator+=(char ascii);
+    friend CStringU operator+(CStringU left, const CStringU& right) { return std::move(left.AppendU(right)); }
+    friend CStringU operator+(CStringU left, char16_t right) { return std::move(left += right); }
+    friend CStringU operator+(CStringU left, wchar_t right) { return std::move(left += right); }
+    friend CStringU operator+(CStringU left, char right) { return std::move(left += right); }
+
+    // --- Positions -------------------------------------------------------------------------------------
+
+    [[nodiscard]] CStringUPos Begin() const noexcept { return {0, this}; }
+    [[nodiscard]] CStringUPos End() const noexcept { return {GetByteLength(), this}; }
+
+    // --- Substrings: each result gets or loses the marker by its own content ---------------------------
+
+    /// The first `byteCount` bytes of the payload.
+    [[nodiscard]] CStringU Left(std::int64_t byteCount) const;
+    /// The text before, and from, a position.
+    [[nodiscard]] CStringU Head(const CStringUPos& pos) const { return Left(pos.offset); }
+    [[nodiscard]] CStringU Tail(const CStringUPos& pos) const;
+    /// `count` characters from a position.
+    [[nodiscard]] CStringU Mid(const CStringUPos& pos, std::int64_t count) const;
+    /// The first two characters: where a path has its drive.
+    [[nodiscard]] CStringU Prefix2() const;
+    /// The bytes of the first two characters; always 2 for ASCII text, however short.
+    [[nodiscard]] int PrefixBytes2() const noexcept;
+    /// The last character; 0 for empty text.
+    [[nodiscard]] char16_t LastChar() const noexcept;
+
+    // --- Editing at a position: each gives the new count of characters ---------------------------------
+
+    int Insert(const CStringUPos& pos, char16_t unit);
+    int Insert(const CStringUPos& pos, wchar_t character);
+    int Insert(const CStringUPos& pos, const CStringU& text);
+    /// Removes `count` characters from a position.
+    int Erase(const CStringUPos& pos, std::int64_t count);
+    /// Removes what stands between two positions, in either order.
+    int Erase(const CStringUPos& pos1, const CStringUPos& pos2);
+
+    // --- Formatting ------------------------------------------------------------------------------------
+
+    /// A printf result, with the payload of `format` as the format, classified by TextEncoding::Utf8Auto.
+    /// Sizes may be written "%Iu" (see CString::FormatV). Texts are passed by Payload(): a CStringU itself
+    /// does not compile.
+    template <FormatArgument... Arguments>
+    [[nodiscard]] static CStringU Formatted(const CStringU& format, Arguments... arguments) {
+        return FormattedRaw(format.Payload(), arguments...);
+    }
+    /// Formatted, in place.
+    template <FormatArgument... Arguments>
+    void Format(const CStringU& format, Arguments... arguments) {
+        *this = FormattedRaw(format.Payload(), arguments...);
+    }
+    [[nodiscard]] static CStringU FormattedV(const CStringU& format, va_list arguments);
+
+    // --- Comparing and searching -----------------------------------------------------------------------
+
+    /// The sign says the order without regard to case, the magnitude nothing. Narrow text is read by the
+    /// plain narrow rule (see the constructor).
+    [[nodiscard]] int CompareNoCase(const CStringU& other) const;
+    [[nodiscard]] int CompareNoCase(const char* narrow) const;
+    [[nodiscard]] bool EqualsNoCase(const CStringU& other) const { return CompareNoCase(other) == 0; }
+    [[nodiscard]] bool EqualsNoCase(const char* narrow) const { return CompareNoCase(narrow) == 0; }
+
+    /// The first hit at or behind `from`; the end position for none.
+    [[nodiscard]] CStringUPos FindChar(char16_t unit, bool caseSensitive, CStringUPos from) const;
+    /// The nearest hit going backward from `from`; the end position for none.
+    [[nodiscard]] CStringUPos FindCharBack(char16_t unit, bool caseSensitive, CStringUPos from) const;
+    /// The first hit of the needle's *stored* bytes, so that a marked needle is not found; the end position
+    /// for none.
+    [[nodiscard]] CStringUPos FindTextNoCase(const CStringU& needle) const;
+
+    [[nodiscard]] bool StartsWithNoCase(const CStringU& prefix) const;
+    /// Empty text ends every text.
+    [[nodiscard]] bool EndsWith(const CStringU& suffix) const;
+    [[nodiscard]] bool EndsWith(const char* narrow) const;
+    [[nodiscard]] bool EndsWithNoCase(const CStringU& suffix) const;
+
+    /// Equal payload bytes.
+    friend bool operator==(const CStringU& left, const CStringU& right) noexcept {
+        return left.PayloadView() == right.PayloadView();
+    }
+    /// Equal to narrow text by the plain narrow rule.
+    friend bool operator==(const CStringU& left, const char* right) { return left.EqualsNarrow(right); }
+    /// The plain order: the shorter payload first, then the order of the bytes.
+    friend std::strong_ordering operator<=>(const CStringU& left, const CStringU& right) noexcept {
+        const auto byLength = left.GetByteLength() <=> right.GetByteLength();
+        return byLength != 0 ? byLength : left.PayloadView() <=> right.PayloadView();
+    }
+
+private:
+    static constexpr char cnMarker = '\x80';
+
+    [[nodiscard]] static CStringU FormattedRaw(const char* format, ...);
+    [[nodiscard]] bool EqualsNarrow(const char* text) const;
+    [[nodiscard]] CStringU Piece(std::int64_t first, std::int64_t behind) const;
+    [[nodiscard]] std::int64_t ClampOffset(std::int64_t offset) const noexcept;
+    void AppendBytes(std::string_view bytes, bool bringsNonAscii);
+
+    CString m_stored;
+};
+
+static_assert(sizeof(CStringU) == 8, "a text is one pointer wide: rows and nodes count on it");
+
+/// Hashes the payload, in step with ==.
+template <>
+struct std::hash<CStringU> {
+    std::size_t operator()(const CStringU& text) const noexcept {
+        return std::hash<std::string_view>()(text.PayloadView());
+    }
+};
