@@ -1,0 +1,113 @@
+/// @file
+/// A list of rows of text with multiple selection: the control behind the library list.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "vapp/toolkit/CFont.h"
+#include "vapp/toolkit/CWnd.h"
+#include "vapp/toolkit/InputTypes.h"
+#include "vapp/toolkit/RowCursor.h"
+
+/// State bits of a row.
+inline constexpr UINT cnListFocused = 1;
+inline constexpr UINT cnListSelected = 2;
+/// Extended styles: select across all columns; paint without flicker.
+inline constexpr UINT cnListFullRowSelect = 0x20;
+inline constexpr UINT cnListDoubleBuffer = 0x10000;
+
+/// How a row is to be painted: decided by the control at the moment of painting, drawn by the peer.
+struct ListItemLook {
+    CStringU text;
+    COLORREF textColor = cnNoColor;
+    COLORREF backColor = cnNoColor;
+    CFont font;
+    bool highlighted = false;  ///< fill the whole row with backColor
+    bool focusRect = false;    ///< draw the focus rectangle
+    int textIndent = 2;        ///< pixels from the left to the text
+    UINT icons[2] = {0, 0};    ///< resource numbers drawn over one another, 0 for none
+};
+
+/// A one-column report list. Rows are held here (libraries are few); texts are UTF-8 texts of the system.
+class VAPP_EXPORT CListCtrl : public CWnd {
+public:
+    CListCtrl();
+    ~CListCtrl() override;
+
+    int InsertItem(int index, const CStringU& text);
+    void DeleteAllItems();
+    [[nodiscard]] int GetItemCount() const { return static_cast<int>(m_items.size()); }
+    [[nodiscard]] const CStringU& GetItemText(int index) const;
+
+    [[nodiscard]] UINT GetItemState(int index, UINT mask) const;
+    /// Sets the masked bits; index -1 means all rows. The parent is told (cnListItemChanged) once per changed
+    /// row.
+    void SetItemState(int index, UINT state, UINT mask);
+    /// First row behind `start` (-1 to begin) that has all the state bits; -1 if none.
+    [[nodiscard]] int GetNextItem(int start, UINT state) const;
+    [[nodiscard]] int GetSelectedCount() const;
+
+    void InsertColumn(int index, const CString& caption);
+    [[nodiscard]] int GetColumnCount() const { return static_cast<int>(m_columns.size()); }
+    [[nodiscard]] CString GetColumnCaption(int index) const;
+    [[nodiscard]] int GetColumnWidth(int index) const;
+    void SetColumnWidth(int index, int width);
+
+    /// Extended styles under the mask; a mask of 0 means all of them.
+    void SetExtendedStyle(UINT mask, UINT style);
+    [[nodiscard]] UINT GetExtendedStyle() const { return m_extendedStyle; }
+    /// The control's own tool tips (of cut texts).
+    void ActivateToolTips(bool active) { m_toolTips = active; }
+    [[nodiscard]] bool AreToolTipsActive() const { return m_toolTips; }
+    [[nodiscard]] COLORREF GetBkColor() const { return m_backColor; }
+    void SetBkColor(COLORREF color);
+
+    /// First row shown.
+    [[nodiscard]] int GetTopIndex() const { return m_top; }
+    void SetTopIndex(int row);
+    void EnsureVisible(int row);
+    [[nodiscard]] int GetRowHeight() const { return m_rowHeight; }
+    /// The peer knows the height of its font.
+    void SetRowHeight(int pixels);
+    /// Whole rows that fit, at least 1.
+    [[nodiscard]] int GetCountPerPage() const;
+    /// Row under a client point, or -1.
+    [[nodiscard]] int HitTest(CPoint point) const;
+
+    /// What the user does, as peers report it.
+    void ClickedByUser(int row, TModifiers modifiers);
+    void KeyPressedByUser(TKey key, TModifiers modifiers);
+    /// Type-ahead: goes to the next row that begins with the typed text, without regard to case.
+    /// `milliseconds` is any steady clock; a pause of a second begins a new text.
+    void TypedByUser(const CStringU& text, std::int64_t milliseconds);
+
+    [[nodiscard]] const RowSelection& GetSelection() const { return m_cursor.GetSelection(); }
+    [[nodiscard]] int GetFocusedItem() const { return m_cursor.GetFocus(); }
+    /// Text of an empty list, asked of the parent (cnListEmptyMarkup).
+    [[nodiscard]] CStringU GetEmptyText();
+    /// How the row is to be painted now. The base gives text and default colours.
+    [[nodiscard]] virtual ListItemLook DrawItem(int index);
+
+protected:
+    std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
+
+private:
+    struct Column {
+        CString caption;
+        int width = 0;
+    };
+
+    void NotifyChanges(const RowSelection& before, int focusBefore);
+
+    std::vector<CStringU> m_items;
+    std::vector<Column> m_columns;
+    RowCursor m_cursor;
+    CStringU m_typed;
+    std::int64_t m_typedAt = 0;
+    COLORREF m_backColor = 0xFFFFFF;
+    UINT m_extendedStyle = 0;
+    int m_top = 0;
+    int m_rowHeight = 18;
+    bool m_toolTips = true;
+};

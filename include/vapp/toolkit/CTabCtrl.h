@@ -1,0 +1,32 @@
+/// @file
+/// A strip of tabs.
+#pragma once
+
+#include <vector>
+
+#include "vapp/toolkit/CWnd.h"
+
+/// A tab strip without pages: the parent decides what a tab means.
+class VAPP_EXPORT CTabCtrl : public CWnd {
+public:
+    CTabCtrl();
+    ~CTabCtrl() override;
+
+    void InsertItem(int index, const CString& text);
+    [[nodiscard]] int GetItemCount() const { return static_cast<int>(m_items.size()); }
+    [[nodiscard]] CString GetItemText(int index) const;
+    void SetItemText(int index, const CString& text);
+    /// Current tab, -1 for none.
+    [[nodiscard]] int GetCurSel() const { return m_current; }
+    /// Selects without notification; out of range selects none.
+    void SetCurSel(int index);
+    /// The user picked a tab: selects and notifies the parent (cnTabSelectionChanged) if it is another one.
+    void PickedByUser(int index);
+
+protected:
+    std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
+
+private:
+    std::vector<CString> m_items;
+    int m_current = -1;
+};

@@ -1,0 +1,29 @@
+/// @file
+/// A pane that shows a document.
+#pragma once
+
+#include <cstdint>
+
+#include "vapp/toolkit/CWnd.h"
+
+class CDocument;
+
+/// A child window with an optional document.
+class VAPP_EXPORT CView : public CWnd {
+public:
+    CView();
+    ~CView() override;
+
+    [[nodiscard]] CDocument* GetDocument() const { return m_document; }
+    /// Called once, after the window and its siblings exist.
+    virtual void OnInitialUpdate();
+    /// The document has changed.
+    virtual void OnUpdate(CView* sender, std::int64_t hint, CObject* hintObject);
+
+protected:
+    std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
+
+private:
+    friend class CDocument;
+    CDocument* m_document = nullptr;
+};

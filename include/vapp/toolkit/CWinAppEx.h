@@ -1,0 +1,47 @@
+/// @file
+/// The application object: its name, its main window, its settings.
+#pragma once
+
+#include <memory>
+
+#include "vapp/Export.h"
+#include "vapp/text/CString.h"
+#include "vapp/toolkit/CObject.h"
+#include "vapp/toolkit/ProfileStore.h"
+
+class CWnd;
+
+/// One per process; the first one constructed is the current one until it is destroyed.
+class VAPP_EXPORT CWinAppEx : public CObject {
+public:
+    /// Settings live in memory until `SetProfileStore`.
+    explicit CWinAppEx(const CString& appName = "");
+    ~CWinAppEx() override;
+
+    /// The current application object, or null.
+    [[nodiscard]] static CWinAppEx* GetApp();
+
+    [[nodiscard]] const CString& GetAppName() const { return m_appName; }
+    void SetAppName(const CString& name) { m_appName = name; }
+    [[nodiscard]] CWnd* GetMainWnd() const { return m_mainWnd; }
+    /// Not owned; null before it is destroyed.
+    void SetMainWnd(CWnd* window) { m_mainWnd = window; }
+
+    /// The store that the four profile operations use.
+    [[nodiscard]] ProfileStore& GetProfileStore() const { return *m_store; }
+    void SetProfileStore(std::unique_ptr<ProfileStore> store);
+
+    [[nodiscard]] CString GetProfileString(const CString& section, const CString& key,
+                                           const CString& defaultValue = "") const;
+    void WriteProfileString(const CString& section, const CString& key, const CString& value);
+    [[nodiscard]] int GetProfileInt(const CString& section, const CString& key, int defaultValue) const;
+    void WriteProfileInt(const CString& section, const CString& key, int value);
+
+private:
+    CString m_appName;
+    CWnd* m_mainWnd = nullptr;
+    std::unique_ptr<ProfileStore> m_store;
+};
+
+/// Main window of the current application, or null without an application or window.
+[[nodiscard]] VAPP_EXPORT CWnd* gGetMainWnd();

@@ -1,0 +1,133 @@
+/// @file
+/// The base of all windows: a place in a tree, a rectangle, a text, a few flags, messages. A window is plain
+/// state; its peer, if there is one, makes it visible.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "vapp/Export.h"
+#include "vapp/text/CStringU.h"
+#include "vapp/toolkit/BasicTypes.h"
+#include "vapp/toolkit/CObject.h"
+#include "vapp/toolkit/CRect.h"
+#include "vapp/toolkit/Notification.h"
+#include "vapp/toolkit/Peer.h"
+
+/// A window. All of it belongs to the thread that runs the windows.
+///
+/// Coordinates: `GetRect` is relative to the parent's client area; "screen" means relative to the screen's
+/// corner. Units are the pixels of the logic (device independent where the adapter scales).
+class VAPP_EXPORT CWnd : public CObject {
+public:
+    CWnd();
+    /// Destroys the window if that has not happened. A class that overrides `OnDestroy` calls `DestroyWindow`
+    /// in its own destructor, while the override still counts.
+    ~CWnd() override;
+
+    /// Makes the window: it joins the parent's children (not owned by it), takes the identifier and
+    /// rectangle, gets a peer if an adapter is installed, and `OnCreate` runs. False if it exists already, or
+    /// the parent does not.
+    bool Create(CWnd* parent, UINT id, const CRect& rect = {});
+    /// Ends the window: `OnDestroy`, then the children, then the peer. The object stays and can be created
+    /// again.
+    void DestroyWindow();
+    /// True between `Create` and the end of `DestroyWindow`.
+    [[nodiscard]] bool IsWindow() const { return m_created; }
+
+    [[nodiscard]] CWnd* GetParent() const { return m_parent; }
+    /// The topmost window of this tree.
+    [[nodiscard]] CWnd* GetTopLevelParent();
+    [[nodiscard]] const std::vector<CWnd*>& GetChildren() const { return m_children; }
+    [[nodiscard]] UINT GetDlgCtrlID() const { return m_id; }
+    /// The direct child with the identifier, or null.
+    [[nodiscard]] CWnd* GetDlgItem(UINT id) const;
+
+    [[nodiscard]] const CString& GetWindowText() const { return m_text; }
+    /// Text in the active code page.
+    void SetWindowText(const CString& text);
+    /// Name for assistive technology and tests; empty means the window text.
+    [[nodiscard]] const CString& GetAccessibleName() const { return m_accessibleName; }
+    void SetAccessibleName(const CString& name);
+
+    [[nodiscard]] const CRect& GetRect() const { return m_rect; }
+    /// The client area: left and top are 0.
+    [[nodiscard]] CRect GetClientRect() const { return {0, 0, m_rect.Width(), m_rect.Height()}; }
+    /// The rectangle on the screen.
+    [[nodiscard]] CRect GetWindowRect() const;
+    [[nodiscard]] CPoint ScreenToClient(CPoint point) const;
+    [[nodiscard]] CPoint ClientToScreen(CPoint point) const;
+    /// Moves and sizes within the parent; `OnSize` follows if the size is another.
+    void MoveWindow(const CRect& rect);
+    /// `MoveWindow` as the peer calls it after the user or the desktop resized: the peer isn't told again.
+    void MovedByPeer(const CRect& rect);
+
+    [[nodiscard]] bool IsWindowVisible() const { return m_visible; }
+    void ShowWindow(bool show);
+    [[nodiscard]] bool IsWindowEnabled() const { return m_enabled; }
+    void EnableWindow(bool enable);
+
+    /// The window that has the keyboard, or null.
+    [[nodiscard]] static CWnd* GetFocus();
+    /// Takes the keyboard; the peer follows.
+    void SetFocus();
+    /// `SetFocus` as the peer reports it.
+    void FocusedByPeer(bool focused);
+
+    /// While off, the peer isn't told of changes; turning it on tells everything once.
+    void SetRedraw(bool redraw);
+    [[nodiscard]] bool GetRedraw() const { return m_redraw; }
+    /// Asks for painting later. Counts up `GetInvalidateCount`, so that logic can be tested without pixels.
+    void Invalidate(bool erase = true);
+    [[nodiscard]] unsigned GetInvalidateCount() const { return m_invalidateCount; }
+    /// Paints now.
+    void UpdateWindow();
+
+    /// Delivers a message and gives the answer.
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// A control tells this window something. True when handled; `result` is the answer then.
+    bool SendNotify(Notification& notification, LRESULT& result);
+    /// Tells the parent; 0 if nobody handles it.
+    LRESULT NotifyParent(Notification& notification);
+
+    [[nodiscard]] Peer* GetPeer() const { return m_peer.get(); }
+
+protected:
+    /// Answers messages; a host's main window overrides this to answer WM_LN_... The base answers 0.
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    /// A child's notification. The base doesn't handle any.
+    virtual bool OnNotify(Notification& notification, LRESULT& result);
+    /// The window exists now; children are created here.
+    virtual void OnCreate();
+    /// The window is about to go.
+    virtual void OnDestroy();
+    /// The client size has changed.
+    virtual void OnSize(UINT type, int cx, int cy);
+    /// The keyboard came here.
+    virtual void OnSetFocus();
+    /// Makes the peer of this kind of window; the base makes none.
+    virtual std::unique_ptr<Peer> CreatePeer(PeerFactory& factory);
+
+    /// Tells the peer, unless redraw is off.
+    void TellPeer(UINT changes);
+
+private:
+    void RemoveChild(CWnd* child);
+
+    CWnd* m_parent = nullptr;
+    std::vector<CWnd*> m_children;
+    std::unique_ptr<Peer> m_peer;
+    CString m_text;
+    CString m_accessibleName;
+    CRect m_rect;
+    UINT m_id = 0;
+    UINT m_pendingChanges = 0;
+    unsigned m_invalidateCount = 0;
+    bool m_created = false;
+    bool m_visible = true;
+    bool m_enabled = true;
+    bool m_redraw = true;
+};
+
+/// Type word of `OnSize` for a minimised window.
+inline constexpr UINT cnSizeMinimized = 1;
