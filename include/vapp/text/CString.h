@@ -13,6 +13,7 @@
 #include <compare>
 #include <concepts>
 #include <cstdarg>
+#include <cstddef>
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -83,10 +84,12 @@ public:
 
     /// Makes the text empty and gives up its buffer.
     void Empty() noexcept;
+    void Swap(CString& other) noexcept { std::swap(m_text, other.m_text); }
 
     CString& Append(const char* text);
     CString& Append(const char* text, int length);
     CString& Append(const CString& other);
+    CString& Append(std::string_view text);
     CString& AppendChar(char character);
     CString& operator+=(const CString& other) { return Append(other); }
     CString& operator+=(const char* text) { return Append(text); }
@@ -203,6 +206,7 @@ private:
     void MakeWritable(std::size_t capacity, bool grow);
     void ReplaceRange(int first, int count, std::string_view text);
     CString& KeepRange(std::size_t first, std::size_t behind);
+    CString& TrimSet(std::string_view set, bool left, bool right);
 
     char* m_text;
 };

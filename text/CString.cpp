@@ -1,0 +1,185 @@
+/// @file
+/// CString's buffer: where the bytes live, who shares them, and when they are copied. What is done to the
+/// bytes stands in CStringEdit.cpp, CStringFind.cpp and CStringFormat.cpp.
+///
+/// The surprise: a writing operation may be handed a pointer into its own text (`text += text.GetString()`).
+/// Whoever appends or replaces first keeps a share of the old buffer, which copy on write then leaves alone.
+
+#include "vapp/text/CString.h"
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <new>
+
+namespace {
+
+// Header, bytes and NUL together must have a size that an int can count.
+constexpr std::size_t cnMaxLength = static_cast<std::size_t>(std::numeric_limits<int>::max()) - 64;
+
+int CheckedLength(std::size_t length) {
+    if (length > cnMaxLength) throw std::bad_alloc();
+    return static_cast<int>(length);
+}
+
+std::size_t ClampedToZero(int count) {
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+}
+
+}  // namespace
+
+constinit CString::EmptyBuffer CString::s_empty{{{1}, 0, 0}, '\0'};
+
+char* CString::Allocate(int capacity) {
+    static_assert(offsetof(EmptyBuffer, nul) == sizeof(Header), "the bytes follow their header");
+    const std::size_t size = sizeof(Header) + static_cast<std::size_t>(capacity) + 1;
+    char* const bytes = std::allocator<char>().allocate(size);
+    new (bytes) Header{{1}, 0, capacity};
+    char* const text = bytes + sizeof(Header);
+    *text = '\0';
+    return text;
+}
+
+void CString::Release() noexcept {
+    Header& header = GetHeader();
+    if (header.capacity == 0) return;
+    // The last owner must see what the others did to the buffer before they let go of it.
+    if (header.shares.fetch_sub(1, std::memory_order_acq_rel) != 1) return;
+    const std::size_t size = sizeof(Header) + static_cast<std::size_t>(header.capacity) + 1;
+    header.~Header();
+    std::allocator<char>().deallocate(m_text - sizeof(Header), size);
+}
+
+void CString::SetLength(int length) noexcept {
+    GetHeader().length = length;
+    m_text[length] = '\0';
+}
+
+// Makes the buffer one of this text alone, with room for `capacity` bytes and with the old bytes in it. With
+// `grow` a new buffer has room to spare, so that appending byte by byte stays linear.
+void CString::MakeWritable(std::size_t capacity, bool grow) {
+    const Header& header = GetHeader();
+    const std::size_t length = ClampedToZero(header.length);
+    const std::size_t held = ClampedToZero(header.capacity);
+    if (held > 0 && held >= capacity && !IsShared()) return;
+
+    std::size_t wanted = std::max({capacity, length, std::size_t{1}});
+    if (grow) wanted = std::max(wanted, std::min(length + length / 2, cnMaxLength));
+    char* const text = Allocate(CheckedLength(wanted));
+    std::memcpy(text, m_text, length);
+    Release();
+    m_text = text;
+    SetLength(static_cast<int>(length));
+}
+
+bool CString::OwnsBytesAt(const char* text) const noexcept {
+    const std::less<> before;
+    return !before(text, m_text) && !before(m_text + GetLength(), text);
+}
+
+CString::CString(const char* text) : CString(ViewOf(text)) {}
+
+CString::CString(const char* text, int length)
+    : CString(text != nullptr ? std::string_view(text, ClampedToZero(length)) : std::string_view()) {}
+
+CString::CString(std::string_view text) : m_text(EmptyText()) {
+    if (text.empty()) return;
+    m_text = Allocate(CheckedLength(text.size()));
+    std::memcpy(m_text, text.data(), text.size());
+    SetLength(static_cast<int>(text.size()));
+}
+
+CString::CString(char character, int count) : m_text(EmptyText()) {
+    if (count < 1) return;
+    m_text = Allocate(CheckedLength(static_cast<std::size_t>(count)));
+    std::memset(m_text, character, static_cast<std::size_t>(count));
+    SetLength(count);
+}
+
+CString::CString(const CString& other) noexcept : m_text(other.m_text) {
+    Header& header = GetHeader();
+    if (header.capacity != 0) header.shares.fetch_add(1, std::memory_order_relaxed);
+}
+
+CString& CString::operator=(const CString& other) noexcept {
+    CString(other).Swap(*this);
+    return *this;
+}
+
+CString& CString::operator=(CString&& other) noexcept {
+    CString(std::move(other)).Swap(*this);
+    return *this;
+}
+
+CString& CString::operator=(const char* text) {
+    CString(text).Swap(*this);
+    return *this;
+}
+
+void CString::SetAt(int index, char character) {
+    if (index < 0 || index >= GetLength()) return;
+    MakeWritable(0, false);
+    m_text[index] = character;
+}
+
+char* CString::GetBuffer(int minLength) {
+    MakeWritable(ClampedToZero(minLength), false);
+    return m_text;
+}
+
+void CString::ReleaseBuffer(int length) {
+    const Header& header = GetHeader();
+    if (header.capacity == 0) return;
+    const std::size_t room = ClampedToZero(header.capacity);
+    const std::size_t taken = length < 0 ? strnlen(m_text, room) : std::min(ClampedToZero(length), room);
+    MakeWritable(taken, false);
+    SetLength(static_cast<int>(taken));
+}
+
+char* CString::GetBufferSetLength(int length) {
+    const int old = GetLength();
+    const int wanted = std::max(length, 0);
+    MakeWritable(ClampedToZero(wanted), false);
+    if (wanted > old) std::memset(m_text + old, 0, static_cast<std::size_t>(wanted - old));
+    SetLength(wanted);
+    return m_text;
+}
+
+void CString::Reserve(int length) {
+    if (length > GetLength()) MakeWritable(ClampedToZero(length), false);
+}
+
+void CString::Empty() noexcept {
+    Release();
+    m_text = EmptyText();
+}
+
+CString& CString::Append(std::string_view text) {
+    if (text.empty()) return *this;
+    const CString keep = OwnsBytesAt(text.data()) ? *this : CString();
+    const std::size_t length = ClampedToZero(GetLength());
+    MakeWritable(length + text.size(), true);
+    std::memcpy(m_text + length, text.data(), text.size());
+    SetLength(static_cast<int>(length + text.size()));
+    return *this;
+}
+
+CString& CString::Append(const char* text) {
+    return Append(ViewOf(text));
+}
+
+CString& CString::Append(const char* text, int length) {
+    return text != nullptr ? Append(std::string_view(text, ClampedToZero(length))) : *this;
+}
+
+CString& CString::Append(const CString& other) {
+    // Nothing here yet and nothing reserved: share instead of copying.
+    if (GetHeader().capacity == 0) return *this = other;
+    return Append(other.View());
+}
+
+CString& CString::AppendChar(char character) {
+    return Append(std::string_view(&character, 1));
+}
