@@ -154,6 +154,10 @@ class CheckTreeTest(unittest.TestCase):
         self.expect("tests no source", {"tests/text/CMakeLists.txt": "vapp_test(t FoldTest.cpp GoneTest.cpp)\n",
                                         "tests/text/GoneTest.cpp": "\n"})
 
+    def test_the_tests_of_a_source_may_be_split(self):
+        self.expect_silence({"tests/text/CMakeLists.txt": "vapp_test(t FoldTest.cpp FoldModelTest.cpp)\n",
+                             "tests/text/FoldModelTest.cpp": "\n"})
+
     def test_a_scenario_over_several_sources_is_a_test_too(self):
         self.expect_silence({"tests/text/CMakeLists.txt": "vapp_test(t FoldTest.cpp HostileScenarioTest.cpp)\n",
                              "tests/text/HostileScenarioTest.cpp": "\n"})

@@ -7,7 +7,7 @@ from check_tree.tree import Finding, is_below
 # Where the sources of a test folder are; all others are found under the same name.
 SOURCES_OF = {"tests/qt": "toolkit/qt"}
 SOURCE_ENDINGS = (".cpp", ".h")
-# A test that walks through several sources at once says so in its name.
+# A source's tests may be split: NameAspectTest.cpp tests Name.cpp. A test of several sources at once says so.
 ACROSS = "ScenarioTest.cpp"
 
 
@@ -51,11 +51,20 @@ def check_tests(tree):
         folder, _, name = path.rpartition("/")
         room = SOURCES_OF.get(folder, folder[len("tests/"):])
         stem = name[:-len("Test.cpp")]
-        places = [f"{room}/{stem}", f"include/vapp/{room}/{stem}"]
-        if not any(place + ending in known for place in places for ending in SOURCE_ENDINGS):
+        if not any(is_source(known, room, front) for front in fronts(stem)):
             findings.append(Finding(path, 0, f"tests no source: there is no {room}/{stem}.cpp and no header of that name",
-                                    f"name it after the source that it tests, or NAME{ACROSS} if it tests several"))
+                                    f"name it after the source that it tests, or NAME{ACROSS} if it tests several sources"))
     return findings
+
+
+def fronts(stem):
+    """The name itself, then what is left of it without its last words: CStringModel, CString."""
+    return [stem] + [stem[:match.start()] for match in re.finditer(r"(?<=[a-z0-9])(?=[A-Z])", stem)]
+
+
+def is_source(known, room, name):
+    return any(f"{folder}/{name}{ending}" in known
+               for folder in (room, f"include/vapp/{room}") for ending in SOURCE_ENDINGS)
 
 
 def check_readmes(tree):
