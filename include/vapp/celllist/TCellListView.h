@@ -1,0 +1,126 @@
+/// @file
+/// TCellListView: the middle pane of the navigator, with filter row, report of cells, tabs and status line.
+///
+/// It holds the widgets around the report and the mark that a refresh is due. Nothing here refreshes by
+/// itself: requests only set the mark, and the host's idle call to `TLibraryBrowser::Populate` does the work,
+/// so that many requests cost one refresh.
+///
+/// Not here: rows and columns (TCellNamesReportCtrl).
+#pragma once
+
+#include <cstddef>
+
+#include "vapp/Export.h"
+#include "vapp/celllist/TCellNamesReportCtrl.h"
+#include "vapp/celllist/TUpdateCellListReason.h"
+#include "vapp/toolkit/CButton.h"
+#include "vapp/toolkit/CComboBox.h"
+#include "vapp/toolkit/CEdit.h"
+#include "vapp/toolkit/CFormView.h"
+#include "vapp/toolkit/CStatic.h"
+#include "vapp/toolkit/CTabCtrl.h"
+
+namespace vapp_library_browser {
+
+class TLibraryView;
+class TSymbolPreview;
+
+class VAPP_EXPORT TCellListView : public CFormView {
+public:
+    // Identifiers of the pane's controls.
+    static constexpr UINT cnFilterCombo = 7701;
+    static constexpr UINT cnFilterEdit = 7695;
+    static constexpr UINT cnFilterButton = 7843;
+    static constexpr UINT cnReport = 7702;
+    static constexpr UINT cnTabs = 7718;
+    static constexpr UINT cnStatus = 7719;
+
+    TCellListView();
+    ~TCellListView() override;
+
+    void OnInitialUpdate() override;
+
+    // The other panes; not owned, null until the browser wires them.
+    void SetLibraryView(TLibraryView* view) { m_libraryView = view; }
+    [[nodiscard]] TLibraryView* GetLibraryView() const { return m_libraryView; }
+    void SetPreviewView(TSymbolPreview* preview) { m_previewView = preview; }
+    [[nodiscard]] TSymbolPreview* GetPreviewView() const { return m_previewView; }
+    [[nodiscard]] TCellNamesReportCtrl& GetReport() { return m_report; }
+    [[nodiscard]] const TCellNamesReportCtrl& GetReport() const { return m_report; }
+
+    // --- Refresh ---------------------------------------------------------------------------------------
+
+    /// Marks the list for a refresh. With UpdateIfFilterSaysSo the host is asked whether the change matters
+    /// for the filter type that is selected.
+    void RequestDelayedPopulate(TUpdateCellListReason reason);
+    /// Refreshes if marked, and takes the mark away.
+    void Populate();
+    [[nodiscard]] bool NeedsPopulate() const { return m_needsPopulate; }
+    /// Sets the mark or takes it away. It can't be taken away while a refresh is running, nor after one
+    /// during which a further one was asked for: that one is still due.
+    void SetNeedsPopulate(bool needsPopulate);
+    /// Number of rows.
+    [[nodiscard]] std::size_t GetCellViewCount() const { return m_report.GetCellViewCount(); }
+    /// The line below the list.
+    void SetStatusText(const CStringU& text);
+
+    // --- Filter ----------------------------------------------------------------------------------------
+
+    /// Adds a type to the drop-down; the first one is selected.
+    void AddFilterType(const CStringU& name);
+    /// The selected type; empty without one. It goes into lines as it stands.
+    [[nodiscard]] CStringU GetDropDownFilter() const;
+    /// The sub-string that rows must hold, in the active code page; empty for all rows.
+    [[nodiscard]] CString GetFilterText() const { return m_filterEdit.GetWindowText(); }
+    /// Selects the first type and empties the sub-string.
+    void ResetFilter();
+    /// The views that hosts are asked to leave out, divided by semicolons and blanks.
+    [[nodiscard]] const CStringU& GetExcludeViews() const { return m_report.GetExcludeViews(); }
+
+    // --- Tabs ------------------------------------------------------------------------------------------
+
+    /// Selects a tab, with no other effect.
+    void SwitchSetupTab(int tab) { m_tabs.SetCurSel(tab); }
+    /// The current tab.
+    [[nodiscard]] int GetSetupTab() const { return m_tabs.GetCurSel(); }
+    void SetCellTabsText(int tab, const CString& text) { m_tabs.SetItemText(tab, text); }
+
+    // --- Selection -------------------------------------------------------------------------------------
+
+    [[nodiscard]] TCellNamesReportCtrl::TSelectedColl GetSelectedCells() const {
+        return m_report.GetSelected();
+    }
+    [[nodiscard]] bool AreAnyCellsSelected() const { return m_report.AreAnyCellsSelected(); }
+    [[nodiscard]] TLibCellView GetFocusedCell() const { return m_report.GetFocusedCell(); }
+
+    // --- Handlers --------------------------------------------------------------------------------------
+
+    /// The sub-string has changed: takes effect with the next refresh.
+    void OnEditFilterChange();
+    /// The drop-down closed: marks the list and gives the keyboard to the main window.
+    void OnCbnCloseupFilterCombo();
+    /// Selection or focus changed: tells the main window, unless a refresh is due, and the preview.
+    void OnReportSelectionChanged();
+    /// The user sorted by a header: refreshes at once.
+    void OnReportSortOrderChanged();
+
+protected:
+    void OnCreate() override;
+    void OnDestroy() override;
+    void OnSize(UINT type, int cx, int cy) override;
+    void OnSetFocus() override;
+    bool OnNotify(Notification& notification, LRESULT& result) override;
+
+private:
+    TComboBoxCtrl m_filterCombo;
+    CXTPEdit m_filterEdit;
+    CXTPButton m_filterButton;
+    TCellNamesReportCtrl m_report;
+    CTabCtrl m_tabs;
+    CStatic m_status;
+    TLibraryView* m_libraryView = nullptr;
+    TSymbolPreview* m_previewView = nullptr;
+    bool m_needsPopulate = true;
+};
+
+}  // namespace vapp_library_browser

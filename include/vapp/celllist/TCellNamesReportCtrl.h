@@ -1,0 +1,313 @@
+/// @file
+/// TCellNamesReportCtrl: the report of the cell list, one row for each library, cell and view.
+///
+/// It knows the names of the rows and nothing else. Text, icon, font and colours of a row are asked of the
+/// host's interpreter each time that the row is measured or painted, so that a row is never out of date; a
+/// population renews the rows themselves. Both run host script, and host script may call any operation here.
+///
+/// The surprise: a population that is asked for while one is running does not run. The running one finishes
+/// and leaves the list marked, so that the next idle refresh does the work.
+///
+/// Not here: the widgets around the report, and the mark (TCellListView); what the report looks like on a
+/// screen (its peer).
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <set>
+#include <vector>
+
+#include "vapp/Export.h"
+#include "vapp/browser/TLibCellView.h"
+#include "vapp/text/CStringIU.h"
+#include "vapp/toolkit/CXTPReportControl.h"
+
+namespace vapp_library_browser {
+
+class CellRows;
+class TCellListView;
+
+class VAPP_EXPORT TCellNamesReportCtrl : public CXTPReportControl {
+public:
+    /// The three named arrangements of the columns.
+    enum TColSetup : int { Setup1 = 0, Setup2 = 1, Setup3 = 2 };
+    static constexpr int cnSetupCount = 3;
+
+    /// Text of a host's column, made by a function of the host.
+    using TGetText = CStringU (*)(const TLibCellView&);
+
+    // --- Columns ---------------------------------------------------------------------------------------
+
+    /// A column: what a row's cell says, how rows are ordered and filtered by it, how it shows at first.
+    class VAPP_EXPORT TColumn : public CXTPReportColumn {
+    public:
+        /// @param caption  header text; part of the names under which the layout is kept
+        TColumn(TCellNamesReportCtrl& report, int itemIndex, const CStringU& caption);
+        ~TColumn() override;
+
+        /// True if the column's text holds the other one: byte by byte, or without regard to case.
+        [[nodiscard]] virtual bool MatchesFilter(const TLibCellView& cell, const CStringU& text,
+                                                 bool caseSensitive);
+        /// Below, at or above 0: the natural order of the two texts, without regard to case.
+        [[nodiscard]] virtual int CompareCells(const TLibCellView& left, const TLibCellView& right);
+        /// The text in the row of the cell.
+        [[nodiscard]] virtual CStringU GetCellText(const TLibCellView& cell) = 0;
+        /// Index into the strip of row icons, -1 for none.
+        [[nodiscard]] virtual int GetCellIcon(const TLibCellView& cell);
+        /// Pixels. A setup that is none counts as the first.
+        [[nodiscard]] virtual int GetDefaultWidth(int setup);
+        [[nodiscard]] virtual bool GetDefaultVisible(int setup);
+
+    protected:
+        [[nodiscard]] TCellNamesReportCtrl& GetReport() const { return m_report; }
+
+        bool m_defaultVisible[cnSetupCount] = {true, true, true};
+        int m_defaultWidth[cnSetupCount] = {50, 50, 50};
+
+    private:
+        TCellNamesReportCtrl& m_report;
+    };
+
+    /// The cell's name, with the row's icon. Stays in place when the list scrolls sideways.
+    class VAPP_EXPORT TColCellName : public TColumn {
+    public:
+        TColCellName(TCellNamesReportCtrl& report, int itemIndex);
+        [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
+        [[nodiscard]] int GetCellIcon(const TLibCellView& cell) override;
+    };
+
+    /// The view's name.
+    class VAPP_EXPORT TColViewName : public TColumn {
+    public:
+        TColViewName(TCellNamesReportCtrl& report, int itemIndex);
+        [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
+    };
+
+    /// The library's name.
+    class VAPP_EXPORT TColLibName : public TColumn {
+    public:
+        TColLibName(TCellNamesReportCtrl& report, int itemIndex);
+        [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
+    };
+
+    /// A column of the host: its text comes from a Tcl command or from a function.
+    class VAPP_EXPORT TCustomColumn : public TColumn {
+    public:
+        /// Either the command or the function is given; a function wins.
+        TCustomColumn(TCellNamesReportCtrl& report, int itemIndex, const CStringU& caption,
+                      const CStringU& tclCommand, TGetText getText, bool sortForward, bool hideInThirdSetup);
+        /// Compares the sort keys of the two, which a sort fills for its first column only; so a host column
+        /// that stands further back finds all rows equal.
+        [[nodiscard]] int CompareCells(const TLibCellView& left, const TLibCellView& right) override;
+        [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
+        /// False turns the order of the header's arrow around.
+        [[nodiscard]] bool GetSortForward() const { return m_sortForward; }
+
+    private:
+        CStringU m_tclCommand;
+        std::function<CStringU(const TLibCellView&)> m_getText;
+        bool m_sortForward;
+    };
+
+    /// Adds a column of the host, filled by a Tcl command that receives design, library, cell and view. The
+    /// rows follow with the next population, the stored layout with the next `SerializeSetup(false)`.
+    void AddColumn(const CStringU& caption, const CStringU& tclCommand, bool sortForward,
+                   bool hideInThirdSetup);
+    /// The same, filled by a function.
+    void AddColumn(const CStringU& caption, TGetText getText, bool sortForward, bool hideInThirdSetup);
+    using CXTPReportControl::AddColumn;
+
+    // --- Record and header -----------------------------------------------------------------------------
+
+    /// The one record that answers for all rows.
+    class VAPP_EXPORT TRecord : public CXTPReportRecord {
+    public:
+        /// Has one item for each column that the report has now.
+        explicit TRecord(TCellNamesReportCtrl& report);
+        void GetItemMetrics(const CXTPReportRecordItemDrawArgs& drawArgs,
+                            CXTPReportRecordItemMetrics& metrics) override;
+
+    private:
+        TCellNamesReportCtrl& m_report;
+    };
+
+    /// Tells the report of changed columns before anybody else hears of them.
+    class VAPP_EXPORT TReportHeader : public CXTPReportHeader {
+    public:
+        explicit TReportHeader(TCellNamesReportCtrl& report);
+        void OnColumnsChanged(int change, CXTPReportColumn* column) override;
+
+    private:
+        TCellNamesReportCtrl& m_report;
+    };
+
+    // --- Life ------------------------------------------------------------------------------------------
+
+    /// @param pane  the pane that the report lives in; must outlive it
+    explicit TCellNamesReportCtrl(TCellListView& pane);
+    /// Stores the layout, as `SerializeSetup(true)`.
+    ~TCellNamesReportCtrl() override;
+
+    /// Looks and built-in columns; once, when the window exists.
+    void Init();
+
+    /// Stores (true) or loads (false) the layout of the active setup and the options of the list. To be
+    /// called with false once all columns, also the host's, are there.
+    void SerializeSetup(bool write);
+    /// Stores the active setup, loads the other and populates; nothing if it is the active one.
+    void SwitchSetup(TColSetup setup);
+    /// `SwitchSetup` for the tabs 0, 1 and 2; nothing for any other.
+    void OnSwitchSetupTab(int tab);
+
+    // --- Rows ------------------------------------------------------------------------------------------
+
+    /// Asks the host for the rows anew, whatever the pane's mark says, and leaves that mark alone. While a
+    /// population is running it only notes that another one is wanted.
+    void Populate() override;
+    /// Number of rows.
+    [[nodiscard]] std::size_t GetCellViewCount() const;
+    /// Copy of a row; empty beyond the last one.
+    [[nodiscard]] TLibCellView GetCell(int row) const;
+    [[nodiscard]] TLibCellView GetCell(std::uint64_t row) const;
+    /// Copy of a row; empty without a row, and while the rows are not complete.
+    [[nodiscard]] TLibCellView GetCell(const CXTPReportRow* row) const;
+    /// The row with focus; empty without one.
+    [[nodiscard]] TLibCellView GetFocusedCell() const;
+    /// The row under a client point; empty without one. `area` receives the row's rectangle.
+    [[nodiscard]] TLibCellView HitTest(CPoint point, CRect* area = nullptr) const;
+    /// The column whose header is under a client point, or null.
+    [[nodiscard]] TColumn* HeaderHitTest(CPoint point) const;
+    /// True while a population runs: selection notifications mean nothing then.
+    [[nodiscard]] bool GetIgnoreSelectionChange() const { return m_ignoreSelectionChange; }
+    /// True if a population was asked for while another one was running, and none has begun since.
+    [[nodiscard]] bool IsPopulationPostponed() const { return m_postponed; }
+    /// True while a population runs.
+    [[nodiscard]] bool IsPopulating() const { return m_populating; }
+
+    /// Writes the table as lines of comma-separated texts, the captions first. No columns given: all visible
+    /// ones. A caption given by name is dumped even while its column is hidden; unknown ones are skipped.
+    /// Separators within texts are not escaped.
+    void DumpContents(const std::vector<CStringU>& columns, CStringU& out);
+
+    // --- Selection -------------------------------------------------------------------------------------
+
+    /// The selected rows, to be walked through. Valid until the next population or change of selection.
+    class VAPP_EXPORT TSelectedColl {
+    public:
+        class VAPP_EXPORT const_iterator {
+        public:
+            using iterator_category = std::input_iterator_tag;
+            using value_type = TLibCellView;
+            using difference_type = std::ptrdiff_t;
+            using pointer = void;
+            using reference = TLibCellView;
+
+            const_iterator() = default;
+            const_iterator(const TCellNamesReportCtrl& report, CXTPReportSelectedRowPosition position)
+                : m_report(&report), m_position(position) {}
+            [[nodiscard]] TLibCellView operator*() const;
+            const_iterator& operator++();
+            const_iterator operator++(int) {
+                const_iterator before = *this;
+                ++*this;
+                return before;
+            }
+            friend bool operator==(const const_iterator& left, const const_iterator& right) {
+                return left.m_position == right.m_position;
+            }
+
+        private:
+            const TCellNamesReportCtrl* m_report = nullptr;
+            CXTPReportSelectedRowPosition m_position = -1;
+        };
+
+        explicit TSelectedColl(const TCellNamesReportCtrl& report) : m_report(&report) {}
+        [[nodiscard]] const_iterator begin() const;
+        [[nodiscard]] const_iterator end() const { return {*m_report, -1}; }
+        [[nodiscard]] bool empty() const { return begin() == end(); }
+
+    private:
+        const TCellNamesReportCtrl* m_report;
+    };
+
+    [[nodiscard]] TSelectedColl GetSelected() const { return TSelectedColl(*this); }
+    [[nodiscard]] bool AreAnyCellsSelected() const;
+    /// Takes the keyboard and selects every row.
+    void OnSelectAll();
+    /// Takes the keyboard and adds the rows of the set to the selection.
+    void AddToCellListSelections(const std::set<TLibCellView>& cells);
+    /// First row of the library and cell, without regard to case; cnNotFound if there is none.
+    [[nodiscard]] std::size_t Find(const CStringU& library, const CStringU& cell) const;
+    static constexpr std::size_t cnNotFound = static_cast<std::size_t>(-1);
+    /// Selects and focuses the row that `Find` gives, and scrolls to it.
+    void HighlightCellInList(const CStringU& library, const CStringU& cell);
+    /// The cell of every row, each followed by "\r\n".
+    [[nodiscard]] CStringU GetShownCellList() const;
+    /// Library, cell and view of every row, each followed by "\r\n".
+    [[nodiscard]] CStringU GetShownCellViewList() const;
+
+    // --- Options ---------------------------------------------------------------------------------------
+
+    /// The views that hosts are asked to leave out, divided by semicolons and blanks.
+    [[nodiscard]] const CStringU& GetExcludeViews() const { return m_excludeViews; }
+    /// Name of the active setup; empty before the first `SerializeSetup`.
+    [[nodiscard]] const CStringU& GetActiveSetup() const { return m_activeSetup; }
+
+    /// What the user has set for this list; kept by `SerializeSetup`.
+    struct TOptions {
+        bool showHiddenCells = false;
+        bool showVias = true;
+        std::set<CStringIU> viewFilter;  ///< only these views; empty for all
+        bool filterCaseSensitive = false;
+        bool filterAllColumns = false;
+        bool filterCellName = true;
+        bool filterViewName = false;
+        bool colorFilteredList = true;
+        bool colorReservedCells = true;
+        bool colorHiddenCells = true;
+        bool colorUnresolvedCells = true;
+    };
+    [[nodiscard]] const TOptions& GetOptions() const { return m_options; }
+    /// Takes effect with the next population, colours with the next painting.
+    void SetOptions(TOptions options) { m_options = std::move(options); }
+
+    [[nodiscard]] TCellListView& GetPane() const { return m_pane; }
+
+    void OnColumnsChanged(int change, CXTPReportColumn* column) override;
+    [[nodiscard]] CStringU GetTypeAheadText(int row) const override;
+
+private:
+    class SavedView;
+
+    void FetchRows();
+    void ShowRows(const SavedView& saved);
+    void ShowRowsAsBefore(const SavedView& saved);
+    void ShowHighlight(const TLibCellView& cell);
+    void ApplyTheme(bool dark);
+    void WordStatus(std::size_t rows, std::size_t total, bool dark);
+    void BlankStatus();
+    [[nodiscard]] bool FilterRows(CellRows& rows);
+    void SortRows(CellRows& rows);
+    [[nodiscard]] int GetActiveSetupIndex() const;
+    void SerializeOptions(bool write);
+    void SerializeColumns(bool write);
+    void AddBuiltInColumns();
+    void KeepCellColumnFrozen(int count);
+    [[nodiscard]] TColCellName* FindCellColumn() const;
+
+    TCellListView& m_pane;
+    std::unique_ptr<CellRows> m_cells;
+    TOptions m_options;
+    CStringU m_activeSetup;
+    CStringU m_excludeViews;
+    int m_columnCounter = 0;
+    bool m_populated = false;
+    bool m_populating = false;
+    bool m_postponed = false;
+    bool m_ignoreSelectionChange = false;
+};
+
+}  // namespace vapp_library_browser
