@@ -1,0 +1,38 @@
+/// @file
+/// TLibraryListCtrl: the list of libraries in the library pane. It decides how a row looks; its rows are
+/// filled by TLibraryView, and pixels are drawn by a peer.
+///
+/// The surprise: nothing about a row is remembered. Each painting of a row asks the database again, one line
+/// outside of the editor mode and up to three in it.
+#pragma once
+
+#include "vapp/Export.h"
+#include "vapp/toolkit/CListCtrl.h"
+
+namespace vapp_library_browser {
+
+class TLibraryView;
+
+/// Icons that mark a library in the editor mode.
+inline constexpr UINT cnIconUnresolvedLibrary = 366;
+inline constexpr UINT cnIconReadOnlyLibrary = 367;
+
+/// The owner-drawn list; a child of a TLibraryView (without one, rows have the base class's look).
+class VAPP_EXPORT TLibraryListCtrl : public CListCtrl {
+public:
+    TLibraryListCtrl();
+    ~TLibraryListCtrl() override;
+
+    /// Asks the database and words the look of the row: the top library of the design in the window's text
+    /// colour and the others in blue, reserved libraries on a tint, those with unsaved changes also bold.
+    /// cnNoColor stands for the desktop's own colour of the place. Empty for a row that isn't there.
+    [[nodiscard]] ListItemLook DrawItem(int index) override;
+
+private:
+    struct EditorState;
+
+    [[nodiscard]] static EditorState AskEditorState(const TLibraryView& view, const CStringU& library);
+    [[nodiscard]] static COLORREF AskTextColor(const TLibraryView& view, const CStringU& library);
+};
+
+}  // namespace vapp_library_browser
