@@ -1,0 +1,100 @@
+// What the platform gives to text. The same rows must hold on every system.
+
+#include "text/PlatformText.h"
+
+#include <gtest/gtest.h>
+
+#include "TextHelpers.h"
+
+namespace {
+
+using namespace vapp_platform;  // NOLINT(google-build-using-namespace): the whole test is about it
+using text_test::TCodePageGuard;
+
+TEST(PlatformText, CaseIsOneCharacterForOne) {
+    EXPECT_EQ(LowerCaseChar(u'\u00C9'), u'\u00E9');
+    EXPECT_EQ(UpperCaseChar(u'\u00E9'), u'\u00C9');
+    EXPECT_EQ(LowerCaseChar(u'\u0414'), u'\u0434');
+    EXPECT_EQ(LowerCaseChar(u'\u03A3'), u'\u03C3');
+    EXPECT_EQ(UpperCaseChar(u'\u00DF'), u'\u00DF') << "no one-character capital";
+    EXPECT_EQ(LowerCaseChar(u'\u4E2D'), u'\u4E2D');
+    EXPECT_EQ(LowerCaseChar(0xD801), 0xD801) << "half a pair has no case";
+    EXPECT_EQ(UpperCaseChar(0xDC28), 0xDC28);
+}
+
+TEST(PlatformText, CodePagesThereAndBack) {
+    struct TRow {
+        unsigned codePage;
+        const char* bytes;
+        const char16_t* text;
+    };
+    const TRow rows[] = {
+        {437, "\x80", u"\u00C7"},
+        {850, "\x9B", u"\u00F8"},
+        {866, "\x80", u"\u0410"},
+        {874, "\xA1", u"\u0E01"},
+        {932, "\x83\x41", u"\u30A2"},
+        {936, "\xD6\xD0", u"\u4E2D"},
+        {949, "\xB0\xA1", u"\uAC00"},
+        {950, "\xA4\xA4", u"\u4E2D"},
+        {1250, "\xB9", u"\u0105"},
+        {1251, "\xC4", u"\u0414"},
+        {1252, "\x80", u"\u20AC"},
+        {1253, "\xE1", u"\u03B1"},
+        {20127, "a", u"a"},
+        {20866, "\xC1", u"\u0430"},
+        {28591, "\xE9", u"\u00E9"},
+        {28605, "\xA4", u"\u20AC"},
+        {51932, "\xA5\xA2", u"\u30A2"},
+        {54936, "\xD6\xD0", u"\u4E2D"},
+        {65001, "\xC3\xA9", u"\u00E9"},
+        {65001, "\xF0\x9F\x98\x80", u"\U0001F600"},
+    };
+    for (const TRow& row : rows) {
+        EXPECT_EQ(CodePageToUtf16(row.codePage, row.bytes), row.text) << "code page " << row.codePage;
+        EXPECT_EQ(Utf16ToCodePage(row.codePage, row.text), row.bytes) << "code page " << row.codePage;
+    }
+}
+
+TEST(PlatformText, InvalidInputGivesReplacements) {
+    EXPECT_EQ(CodePageToUtf16(65001, "a\xFFz"), u"a\uFFFDz");
+    EXPECT_EQ(CodePageToUtf16(65001, "a\xE4"), u"a\uFFFD");
+    EXPECT_EQ(Utf16ToCodePage(65001, std::u16string(1, char16_t{0xD83D})), "\xEF\xBF\xBD");
+    EXPECT_EQ(Utf16ToCodePage(1252, u"a\u4E2Dz"), "a?z");
+    EXPECT_EQ(Utf16ToCodePage(20127, u"\u00E9"), "?");
+    EXPECT_EQ(CodePageToUtf16(932, "\x83").size(), 1U) << "cut off in the middle";
+}
+
+TEST(PlatformText, UnknownCodePagesAndEmptyTextsGiveEmptyText) {
+    EXPECT_EQ(CodePageToUtf16(99999, "abc"), u"");
+    EXPECT_EQ(Utf16ToCodePage(99999, u"abc"), "");
+    EXPECT_EQ(CodePageToUtf16(1252, ""), u"");
+    EXPECT_EQ(Utf16ToCodePage(65001, u""), "");
+}
+
+TEST(PlatformText, EveryByteAndUnitConvertsWithoutFailing) {
+    std::string bytes;
+    std::u16string units;
+    for (int value = 0; value < 256; ++value) {
+        bytes += static_cast<char>(value);
+    }
+    for (unsigned value = 0; value <= 0xFFFF; ++value) {
+        units += static_cast<char16_t>(value);
+    }
+    for (const unsigned codePage : {437U, 932U, 936U, 1252U, 1255U, 20866U, 54936U, 65000U, 65001U}) {
+        EXPECT_FALSE(CodePageToUtf16(codePage, bytes).empty()) << codePage;
+        EXPECT_FALSE(Utf16ToCodePage(codePage, units).empty()) << codePage;
+    }
+}
+
+TEST(PlatformText, ActiveCodePageCanBeSetAndReturned) {
+    const unsigned own = ActiveCodePage();
+    EXPECT_NE(own, 0U);
+    {
+        const TCodePageGuard guard(1251);
+        EXPECT_EQ(ActiveCodePage(), 1251U);
+    }
+    EXPECT_EQ(ActiveCodePage(), own);
+}
+
+}  // namespace
