@@ -8,7 +8,6 @@
 #include "text/PlatformText.h"
 
 #include <langinfo.h>
-#include <locale.h>
 #include <unicode/uchar.h>
 #include <unicode/ucnv.h>
 #include <unicode/ustring.h>
@@ -17,6 +16,7 @@
 #include <array>
 #include <atomic>
 #include <climits>
+#include <clocale>
 #include <memory>
 
 namespace vapp_platform {
