@@ -1,0 +1,265 @@
+/// Reading and answering `database cells`. An answer may have a million triples: libraries, cells and views
+/// share one object for each name, and a name's lower-case form is made once for each name.
+
+#include "host/CellsQuery.h"
+
+#include <QString>
+#include <algorithm>
+#include <array>
+#include <unordered_map>
+#include <vector>
+
+namespace navigator {
+
+namespace {
+
+constexpr std::array<FilterType, 5> csFilterTypes{{
+    {"All", FilterKind::All, false},
+    {"Symbols", FilterKind::Symbols, false},
+    {"Schematics", FilterKind::Schematics, false},
+    {"Unresolved", FilterKind::Unresolved, true},
+    {"Modified", FilterKind::Modified, true},
+}};
+
+enum Option {
+    LcvOption,
+    LibraryOption,
+    CountOption,
+    FilterOption,
+    HiddenOption,
+    ViasOption,
+    LibrariesOption,
+    ViewsOption,
+    TabOption
+};
+constexpr std::array<const char*, 10> csOptions{
+    "-lcv",      "-library",   "-count", "-filter", "-showhiddencells",
+    "-showvias", "-libraries", "-views", "-tab",    nullptr};
+
+std::string LowerCase(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toLower().toStdString();
+}
+
+std::optional<Option> FindOption(Tcl_Obj* word) {
+    const std::string_view text = gTextOf(word);
+    for (std::size_t option = 0; csOptions[option] != nullptr; ++option) {
+        if (text == csOptions[option]) return static_cast<Option>(option);
+    }
+    return std::nullopt;
+}
+
+/// The options of one call, read from left to right.
+class QueryParser {
+public:
+    QueryParser(Tcl_Interp* interp, TclWords words, CellsQuery& query)
+        : m_interp(interp), m_words(words), m_query(query) {}
+
+    int Parse() {
+        while (m_next < m_words.size()) {
+            const std::optional<Option> option = FindOption(m_words[m_next]);
+            if (!option) {
+                return gTclFailure(m_interp, "unknown option \"" + std::string(gTextOf(m_words[m_next])) +
+                                                 "\" of database cells");
+            }
+            ++m_next;
+            const int code = Take(*option);
+            if (code != TCL_OK) return code;
+        }
+        if (!m_hasDesign) return gTclFailure(m_interp, "database cells needs -library and a design");
+        return TCL_OK;
+    }
+
+private:
+    int Take(Option option) {
+        switch (option) {
+            case LcvOption:
+                return TCL_OK;
+            case CountOption:
+                m_query.isCount = true;
+                return TCL_OK;
+            case HiddenOption:
+                m_query.showHiddenCells = true;
+                return TCL_OK;
+            case ViasOption:
+                m_query.showVias = true;
+                return TCL_OK;
+            case FilterOption:
+                TakeFilter();
+                return TCL_OK;
+            default:
+                break;
+        }
+        if (m_next == m_words.size())
+            return gTclFailure(m_interp, std::string("option ") + csOptions[option] + " needs a value");
+        Tcl_Obj* const value = m_words[m_next++];
+        switch (option) {
+            case LibrariesOption:
+                return TakeNames(value, m_query.libraries);
+            case ViewsOption:
+                return TakeNames(value, m_query.views);
+            case TabOption:
+                return Tcl_GetIntFromObj(m_interp, value, &m_query.tab);
+            default:
+                break;
+        }
+        m_query.design = gTextOf(value);
+        m_hasDesign = true;
+        return TCL_OK;
+    }
+
+    void TakeFilter() {
+        m_query.filter.clear();
+        for (; m_next < m_words.size() && !FindOption(m_words[m_next]); ++m_next) {
+            if (!m_query.filter.empty()) m_query.filter += ' ';
+            m_query.filter += gTextOf(m_words[m_next]);
+        }
+    }
+
+    int TakeNames(Tcl_Obj* list, std::optional<std::unordered_set<std::string>>& names) {
+        int count = 0;
+        Tcl_Obj** elements = nullptr;
+        const int code = Tcl_ListObjGetElements(m_interp, list, &count, &elements);
+        if (code != TCL_OK) return code;
+        names.emplace();
+        for (int element = 0; element < count; ++element)
+            names->insert(LowerCase(gTextOf(elements[element])));
+        return TCL_OK;
+    }
+
+    Tcl_Interp* m_interp;
+    TclWords m_words;
+    CellsQuery& m_query;
+    std::size_t m_next = 0;
+    bool m_hasDesign = false;
+};
+
+/// Objects that are made here and given away as a list.
+class ObjectHold {
+public:
+    ObjectHold() = default;
+    ~ObjectHold() { Set(nullptr); }
+    ObjectHold(const ObjectHold&) = delete;
+    ObjectHold& operator=(const ObjectHold&) = delete;
+
+    void Set(Tcl_Obj* object) {
+        if (object != nullptr) Tcl_IncrRefCount(object);
+        if (m_object != nullptr) Tcl_DecrRefCount(m_object);
+        m_object = object;
+    }
+    Tcl_Obj* Get() const { return m_object; }
+
+private:
+    Tcl_Obj* m_object = nullptr;
+};
+
+struct ViewName {
+    bool isWanted = false;
+    ObjectHold object;
+};
+
+/// One walk over a design's views.
+class CellsAnswer {
+public:
+    CellsAnswer(DesignStore& store, const CellsQuery& query)
+        : m_store(store), m_query(query), m_filter(gFindFilterType(query.filter).kind) {}
+
+    void Walk(const Design& design) {
+        for (const Library& library : design.libraries) {
+            if (m_query.libraries && !m_query.libraries->contains(LowerCase(library.name))) continue;
+            m_libraryName.Set(gTclText(library.name));
+            WalkLibrary(design, library);
+        }
+    }
+
+    std::size_t Count() const { return m_count; }
+    Tcl_Obj* TakeList() { return Tcl_NewListObj(static_cast<int>(m_triples.size()), m_triples.data()); }
+
+private:
+    void WalkLibrary(const Design& design, const Library& library) {
+        const std::string* cell = nullptr;
+        for (const ViewFile& file : library.files) {
+            ViewName& view = ViewOf(file.view);
+            if (!view.isWanted || !IsListed({&design, &library, &file})) continue;
+            ++m_count;
+            if (m_query.isCount) continue;
+            if (cell == nullptr || *cell != file.cell) {
+                cell = &file.cell;
+                m_cellName.Set(gTclText(file.cell));
+            }
+            Tcl_Obj* const triple[3] = {m_libraryName.Get(), m_cellName.Get(), view.object.Get()};
+            m_triples.push_back(Tcl_NewListObj(3, triple));
+        }
+    }
+
+    ViewName& ViewOf(const std::string& name) {
+        const auto [found, isNew] = m_views.try_emplace(std::string_view(name));
+        if (isNew) {
+            found->second.isWanted = !m_query.views || m_query.views->contains(LowerCase(name));
+            found->second.object.Set(gTclText(name));
+        }
+        return found->second;
+    }
+
+    bool IsListed(const CellViewRef& view) {
+        if (!m_query.showHiddenCells && m_store.Flag(view, CellKey::IsHiddenInLists)) return false;
+        if (!m_query.showVias &&
+            (m_store.Flag(view, CellKey::IsStdViaDef) || m_store.Flag(view, CellKey::IsCustomViaDef)))
+            return false;
+        return m_query.isCount || PassesFilter(view);
+    }
+
+    bool PassesFilter(const CellViewRef& view) {
+        switch (m_filter) {
+            case FilterKind::All:
+                return true;
+            case FilterKind::Symbols:
+                return view.file->format == ViewFormat::Symbol;
+            case FilterKind::Schematics:
+                return view.file->format == ViewFormat::Schematic;
+            case FilterKind::Unresolved:
+                return m_store.CacheWord(view) != "Normal";
+            case FilterKind::Modified:
+                return m_store.Flag(view, CellKey::IsModified);
+        }
+        return true;
+    }
+
+    DesignStore& m_store;
+    const CellsQuery& m_query;
+    FilterKind m_filter;
+    ObjectHold m_libraryName;
+    ObjectHold m_cellName;
+    std::unordered_map<std::string_view, ViewName> m_views;
+    std::vector<Tcl_Obj*> m_triples;
+    std::size_t m_count = 0;
+};
+
+}  // namespace
+
+std::span<const FilterType> gFilterTypes() {
+    return csFilterTypes;
+}
+
+const FilterType& gFindFilterType(std::string_view text) {
+    const auto* const found = std::find_if(csFilterTypes.begin(), csFilterTypes.end(),
+                                           [text](const FilterType& type) { return type.text == text; });
+    return found == csFilterTypes.end() ? csFilterTypes.front() : *found;
+}
+
+int gParseCellsQuery(Tcl_Interp* interp, TclWords words, CellsQuery& query) {
+    return QueryParser(interp, words, query).Parse();
+}
+
+int gAnswerCellsQuery(Tcl_Interp* interp, DesignStore& store, const CellsQuery& query) {
+    const Design* const design = store.FindDesign(query.design);
+    if (design == nullptr) return gTclFailure(interp, "no design \"" + query.design + "\" is open");
+    CellsAnswer answer(store, query);
+    answer.Walk(*design);
+    if (query.isCount)
+        Tcl_SetObjResult(interp, Tcl_NewWideIntObj(static_cast<Tcl_WideInt>(answer.Count())));
+    else
+        Tcl_SetObjResult(interp, answer.TakeList());
+    return TCL_OK;
+}
+
+}  // namespace navigator

@@ -1,0 +1,53 @@
+#pragma once
+/// The two other Tcl commands that the navigator sends: `logaction`, which keeps and runs what the user did,
+/// and `librarynavigator`, by which the preview pane asks for a picture. The picture itself is drawn by
+/// whoever sets the preview handler.
+
+#include <deque>
+#include <functional>
+#include <span>
+#include <string>
+
+#include "host/DesignStore.h"
+#include "host/TclCommand.h"
+
+namespace navigator {
+
+/// What the preview pane asks for.
+struct PreviewRequest {
+    CellViewName name;  ///< The design is empty if the pane names none.
+    int width = 0;      ///< Of the picture, in pixels of the pane; 0 or above, at most cnLargestPreview.
+    int height = 0;
+};
+
+inline constexpr int cnLargestPreview = 16384;
+
+class HostCommands {
+public:
+    /// Registers both commands.
+    explicit HostCommands(Tcl_Interp* interp);
+
+    /// Called while the line runs.
+    void SetPreviewHandler(std::function<void(const PreviewRequest&)> handler) {
+        m_preview = std::move(handler);
+    }
+
+    /// The last logged lines, the oldest first; at most cnLinesKept.
+    const std::deque<std::string>& Log() const { return m_log; }
+
+    static constexpr std::size_t cnLinesKept = 1000;
+
+    /// Both commands.
+    static std::span<const CommandHelp> Help();
+
+private:
+    int LogAction(Tcl_Interp* interp, TclWords words);
+    int LibraryNavigator(Tcl_Interp* interp, TclWords words) const;
+
+    std::function<void(const PreviewRequest&)> m_preview;
+    std::deque<std::string> m_log;
+    TclCommand m_logAction;
+    TclCommand m_libraryNavigator;
+};
+
+}  // namespace navigator
