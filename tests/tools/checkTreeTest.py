@@ -130,17 +130,17 @@ class CheckTreeTest(unittest.TestCase):
         self.expect("the name points outside", {"text/p" + "art1_2.txt": "x\n"})
 
     def test_finds_a_header_that_is_not_named_after_its_class(self):
-        answer = self.run_on({"include/vapp/text/CText.h": "#pragma once\nclass CWord {\n};\n"})
+        answer = self.run_on({"include/vapp/text/CText.h": "#pragma once\nclass VAPP_EXPORT CWord {\n};\n"})
         self.assertEqual(answer.returncode, 1)
         self.assertIn("has CWord and not CText", answer.stdout)
 
     def test_finds_a_second_class_in_an_exported_header(self):
-        self.expect("a second class, CMore", {"include/vapp/text/CText.h":
-                    "#pragma once\nclass CLater;\nclass CText {\n};\nclass VAPP_EXPORT CMore : public CText {\n};\n"})
+        self.expect("a second exported class, CMore", {"include/vapp/text/CText.h":
+                    "#pragma once\nclass CLater;\nclass VAPP_EXPORT CText {\n};\nclass VAPP_EXPORT CMore : public CText {\n};\n"})
 
-    def test_nested_classes_and_plain_structs_stand_beside_the_class(self):
+    def test_nested_classes_and_helpers_without_code_stand_beside_the_class(self):
         self.expect_silence({"include/vapp/text/CText.h":
-                             "#pragma once\nstruct TPlace {\n};\nclass CText {\n    class TNested {\n    };\n};\n"})
+                             "#pragma once\nstruct TPlace {\n};\nclass TLess {\n};\nclass VAPP_EXPORT CText {\n    class TNested {\n    };\n};\n"})
 
     def test_finds_a_header_without_guard(self):
         self.expect("no #pragma once", {"include/vapp/text/CText.h": "class CText {\n};\n"})
@@ -149,6 +149,12 @@ class CheckTreeTest(unittest.TestCase):
         self.expect("no CMakeLists.txt names it", {"text/Lost.cpp": "int g;\n"})
         self.expect("no CMakeLists.txt names it",
                     {"platform/CMakeLists.txt": "target_sources(objects PRIVATE ${VAPP_TWIN}/Other.cpp)\n"})
+
+    def test_a_list_may_name_a_source_of_another_folder_from_the_root(self):
+        other = {"fuzz/README.md": "Fuzzers.\n", "fuzz/Replay.cpp": "int g;\n"}
+        self.expect("no CMakeLists.txt names it", other)
+        self.expect_silence({**other, "tests/text/CMakeLists.txt":
+                             "vapp_test(t FoldTest.cpp ${PROJECT_SOURCE_DIR}/fuzz/Replay.cpp)\n"})
 
     def test_finds_a_test_without_source(self):
         self.expect("tests no source", {"tests/text/CMakeLists.txt": "vapp_test(t FoldTest.cpp GoneTest.cpp)\n",

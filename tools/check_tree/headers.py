@@ -1,7 +1,7 @@
 """Exported headers: one class a header, and the header named after it, so that a name is found without a search.
 
-A header of free functions, constants, enumerations and small plain structs may carry any name: these have no code in
-the library, and some only make sense side by side.
+Small things may stand beside the class: constants, functions, enumerations, and structs and classes that are not
+exported. A header of such things alone may carry any name.
 """
 import pathlib
 import re
@@ -12,7 +12,7 @@ from check_tree.tree import Finding, is_below
 MANY_CLASSES = {"include/vapp/toolkit/BasicTypes.h", "include/vapp/toolkit/Peer.h"}
 COMMENTS = re.compile(r"//[^\n]*|/\*.*?\*/", re.DOTALL)
 # Namespaces are not indented here: a definition at the left margin is one at namespace level.
-CLASS = re.compile(r"^(?:template\s*<[^;{]*?>\s*)?(?:class\s+(?:VAPP_EXPORT\s+)?|struct\s+VAPP_EXPORT\s+)"
+CLASS = re.compile(r"^(?:template\s*<[^;{]*?>\s*)?(?:class|struct)\s+VAPP_EXPORT\s+"
                    r"(?P<name>\w+)[^;{(]*\{", re.MULTILINE)
 ALIAS = re.compile(r"^(?:template\s*<[^;{]*?>\s*)?using\s+(\w+)\s*=", re.MULTILINE)
 
@@ -40,5 +40,5 @@ def check_classes(path, text):
         findings.append(Finding(path, 0, f"has {', '.join(classes)} and not {name}", "name the header after its class"))
     for other in classes:
         if other != name:
-            findings.append(Finding(path, 0, f"a second class, {other}", f"give {other} a header of its own"))
+            findings.append(Finding(path, 0, f"a second exported class, {other}", f"give {other} a header of its own"))
     return findings

@@ -21,11 +21,17 @@ def check_listed(tree):
              if path == "CMakeLists.txt" or path.endswith("/CMakeLists.txt")}
     findings = []
     for path, _ in tree.cpp_files():
-        if path.endswith(".cpp") and not any(
-                path.startswith(folder) and names(text, path[len(folder):]) for folder, text in lists.items()):
+        if path.endswith(".cpp") and not any(is_named(path, folder, text) for folder, text in lists.items()):
             findings.append(Finding(path, 0, "no CMakeLists.txt names it: it is never compiled",
                                     "add it to the list of its folder, or remove it"))
     return findings
+
+
+def is_named(path, folder, text):
+    """A list names a file from its own folder on, or by its whole path behind a variable for the root."""
+    if path.startswith(folder) and names(text, path[len(folder):]):
+        return True
+    return re.search(rf"\$\{{(CMAKE|PROJECT)_SOURCE_DIR\}}/{re.escape(path)}(?![\w.])", text) is not None
 
 
 def names(text, relative):
