@@ -19,7 +19,8 @@ public:
     [[nodiscard]] int GetCount() const { return static_cast<int>(m_items.size()); }
     /// The item's text; empty out of range.
     [[nodiscard]] CStringU GetLBText(int index) const;
-    /// First item behind `start` that equals the text without regard to case, going round; -1 if none.
+    /// First item behind `start` that equals the text without regard to case, going round, `start` itself
+    /// last; -1 if none. A start out of range begins at the first item.
     [[nodiscard]] int FindStringExact(int start, const CStringU& text) const;
     [[nodiscard]] int GetCurSel() const { return m_current; }
     /// Selects without notification; -1 or out of range selects none.

@@ -20,7 +20,8 @@ public:
     void AddView(CView* view);
     void RemoveView(CView* view);
     [[nodiscard]] const std::vector<CView*>& GetViews() const { return m_views; }
-    /// Calls `OnUpdate` of all views but the sender, in order. A view may leave during the walk.
+    /// Calls `OnUpdate` of all views but the sender, in order. During the walk views may leave, which are not
+    /// called any more, and join, which are called the next time.
     void UpdateAllViews(CView* sender, std::int64_t hint = 0, CObject* hintObject = nullptr);
 
 private:

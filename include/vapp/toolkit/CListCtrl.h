@@ -9,6 +9,7 @@
 #include "vapp/toolkit/CWnd.h"
 #include "vapp/toolkit/InputTypes.h"
 #include "vapp/toolkit/RowCursor.h"
+#include "vapp/toolkit/TypeAhead.h"
 
 /// State bits of a row.
 inline constexpr UINT cnListFocused = 1;
@@ -35,14 +36,18 @@ public:
     CListCtrl();
     ~CListCtrl() override;
 
+    /// Inserts a row (the index is kept within 0 and the count) and gives its index. Selection and focus stay
+    /// with their rows; no notification.
     int InsertItem(int index, const CStringU& text);
+    /// Deletes the rows, and selection and focus with them, without notification.
     void DeleteAllItems();
     [[nodiscard]] int GetItemCount() const { return static_cast<int>(m_items.size()); }
+    /// The row's text; empty out of range.
     [[nodiscard]] const CStringU& GetItemText(int index) const;
 
     [[nodiscard]] UINT GetItemState(int index, UINT mask) const;
-    /// Sets the masked bits; index -1 means all rows. The parent is told (cnListItemChanged) once per changed
-    /// row.
+    /// Sets the masked bits; index -1 means all rows (which can lose the focus, but not all have it). The
+    /// parent is told (cnListItemChanged) once per changed row.
     void SetItemState(int index, UINT state, UINT mask);
     /// First row behind `start` (-1 to begin) that has all the state bits; -1 if none.
     [[nodiscard]] int GetNextItem(int start, UINT state) const;
@@ -70,6 +75,9 @@ public:
     [[nodiscard]] int GetRowHeight() const { return m_rowHeight; }
     /// The peer knows the height of its font.
     void SetRowHeight(int pixels);
+    /// Height of the captions above the rows, for peers that show them; 0 at first.
+    [[nodiscard]] int GetHeaderHeight() const { return m_headerHeight; }
+    void SetHeaderHeight(int pixels);
     /// Whole rows that fit, at least 1.
     [[nodiscard]] int GetCountPerPage() const;
     /// Row under a client point, or -1.
@@ -77,6 +85,7 @@ public:
 
     /// What the user does, as peers report it.
     void ClickedByUser(int row, TModifiers modifiers);
+    void ContextClickedByUser(int row);
     void KeyPressedByUser(TKey key, TModifiers modifiers);
     /// Type-ahead: goes to the next row that begins with the typed text, without regard to case.
     /// `milliseconds` is any steady clock; a pause of a second begins a new text.
@@ -84,12 +93,13 @@ public:
 
     [[nodiscard]] const RowSelection& GetSelection() const { return m_cursor.GetSelection(); }
     [[nodiscard]] int GetFocusedItem() const { return m_cursor.GetFocus(); }
-    /// Text of an empty list, asked of the parent (cnListEmptyMarkup).
+    /// Text of an empty list, asked of the parent (cnListEmptyMarkup); empty while there are rows.
     [[nodiscard]] CStringU GetEmptyText();
     /// How the row is to be painted now. The base gives text and default colours.
     [[nodiscard]] virtual ListItemLook DrawItem(int index);
 
 protected:
+    void OnSize(UINT type, int cx, int cy) override;
     std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
 
 private:
@@ -98,16 +108,17 @@ private:
         int width = 0;
     };
 
-    void NotifyChanges(const RowSelection& before, int focusBefore);
+    void CursorChanged(const RowCursor& before);
+    void NotifyChanges(const RowCursor& before);
 
     std::vector<CStringU> m_items;
     std::vector<Column> m_columns;
     RowCursor m_cursor;
-    CStringU m_typed;
-    std::int64_t m_typedAt = 0;
+    TypeAhead m_typeAhead;
     COLORREF m_backColor = 0xFFFFFF;
     UINT m_extendedStyle = 0;
     int m_top = 0;
     int m_rowHeight = 18;
+    int m_headerHeight = 0;
     bool m_toolTips = true;
 };

@@ -2,13 +2,15 @@
 /// A window divided into rows with bars that the user can move.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
 #include "vapp/toolkit/CRuntimeClass.h"
 #include "vapp/toolkit/CView.h"
 
-/// A static splitter of several rows and one or more columns. It owns its panes.
+/// A static splitter of several rows and one or more columns. It owns its panes, from `CreateView` to the end
+/// of the window. Columns share the width evenly.
 class VAPP_EXPORT CSplitterWnd : public CWnd {
 public:
     /// Height of the bar between two rows.
@@ -17,15 +19,24 @@ public:
     CSplitterWnd();
     ~CSplitterWnd() override;
 
-    /// Makes the splitter's window with empty cells. False if it has rows already.
+    /// The most rows, and the most columns.
+    static constexpr int cnMaxCells = 16;
+    /// Identifier of the first pane; row by row, `cnMaxCells` to a row, the others follow.
+    static constexpr UINT cnFirstPaneID = 0xE900;
+
+    /// Makes the splitter's window with empty cells, over the whole client area of the parent. False if it
+    /// has rows already, a number is out of 1 to `cnMaxCells`, or the window can't be made.
     bool CreateStatic(CWnd* parent, int rows, int columns, UINT id);
-    /// Makes the pane of a cell. A width or height of 0 lets the splitter decide.
+    /// Makes the pane of a cell, places it and calls its `OnInitialUpdate` at once. A positive height becomes
+    /// that of the row; otherwise the row keeps its height. The width is the splitter's to decide. False if
+    /// there is no such cell, it has a pane already, or the pane can't be made.
     bool CreateView(int row, int column, const CRuntimeClass& viewClass, CSize size);
     [[nodiscard]] int GetRowCount() const { return m_rows; }
     [[nodiscard]] int GetColumnCount() const { return m_columns; }
     /// The pane of the cell, or null if there is none.
     [[nodiscard]] CView* GetPane(int row, int column) const;
-    /// The height asked for a row; the last one takes what is left.
+    /// The height asked for a row, in pixels; 0 out of range. The last row really takes what is left, and
+    /// every row only what the rows above it leave.
     [[nodiscard]] int GetRowHeight(int row) const;
     /// As the user drags a bar; lays out anew. Negative heights count as 0.
     void SetRowHeight(int row, int height);
@@ -38,6 +49,11 @@ protected:
     std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
 
 private:
+    [[nodiscard]] bool IsCell(int row, int column) const;
+    [[nodiscard]] std::size_t CellIndex(int row, int column) const;
+    void PlaceRow(int row, int top, int height, int width);
+    void ReleasePanes();
+
     int m_rows = 0;
     int m_columns = 0;
     std::vector<std::unique_ptr<CView>> m_panes;

@@ -12,13 +12,15 @@ public:
     CTabCtrl();
     ~CTabCtrl() override;
 
+    /// Adds a tab (the index is kept within 0 and the count). The current tab stays current; the first tab of
+    /// all becomes it.
     void InsertItem(int index, const CString& text);
     [[nodiscard]] int GetItemCount() const { return static_cast<int>(m_items.size()); }
     [[nodiscard]] CString GetItemText(int index) const;
     void SetItemText(int index, const CString& text);
     /// Current tab, -1 for none.
     [[nodiscard]] int GetCurSel() const { return m_current; }
-    /// Selects without notification; out of range selects none.
+    /// Selects without notification; out of range selects none, and GetCurSel then gives -1.
     void SetCurSel(int index);
     /// The user picked a tab: selects and notifies the parent (cnTabSelectionChanged) if it is another one.
     void PickedByUser(int index);

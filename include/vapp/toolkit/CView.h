@@ -15,9 +15,10 @@ public:
     ~CView() override;
 
     [[nodiscard]] CDocument* GetDocument() const { return m_document; }
-    /// Called once, after the window and its siblings exist.
+    /// Called once, as soon as the window and its children exist (see CSplitterWnd::CreateView). Panes that
+    /// come later don't exist yet, and nobody has wired them: what needs them waits for its first refresh.
     virtual void OnInitialUpdate();
-    /// The document has changed.
+    /// The document has changed. The base asks for painting.
     virtual void OnUpdate(CView* sender, std::int64_t hint, CObject* hintObject);
 
 protected:

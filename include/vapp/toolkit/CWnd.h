@@ -26,11 +26,13 @@ public:
     ~CWnd() override;
 
     /// Makes the window: it joins the parent's children (not owned by it), takes the identifier and
-    /// rectangle, gets a peer if an adapter is installed, and `OnCreate` runs. False if it exists already, or
-    /// the parent does not.
+    /// rectangle, gets a peer if an adapter is installed, and `OnCreate` runs, when children's peers find
+    /// this one. `OnSize` does not follow. False if it exists already, or the parent does not or is about to
+    /// go.
     bool Create(CWnd* parent, UINT id, const CRect& rect = {});
-    /// Ends the window: `OnDestroy`, then the children, then the peer. The object stays and can be created
-    /// again.
+    /// Ends the window: `OnDestroy`, then the children, then the peer; then it leaves its parent. The
+    /// keyboard goes to nobody, and the application has no main window any more, if this was it. The object
+    /// stays and can be created again. A call in the middle of it does nothing.
     void DestroyWindow();
     /// True between `Create` and the end of `DestroyWindow`.
     [[nodiscard]] bool IsWindow() const { return m_created; }
@@ -74,7 +76,7 @@ public:
     /// `SetFocus` as the peer reports it.
     void FocusedByPeer(bool focused);
 
-    /// While off, the peer isn't told of changes; turning it on tells everything once.
+    /// While off, the peer isn't told of changes; turning it on tells all of them at once and paints anew.
     void SetRedraw(bool redraw);
     [[nodiscard]] bool GetRedraw() const { return m_redraw; }
     /// Asks for painting later. Counts up `GetInvalidateCount`, so that logic can be tested without pixels.
@@ -97,7 +99,7 @@ protected:
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     /// A child's notification. The base doesn't handle any.
     virtual bool OnNotify(Notification& notification, LRESULT& result);
-    /// The window exists now; children are created here.
+    /// The window and its peer exist now; children are created here.
     virtual void OnCreate();
     /// The window is about to go.
     virtual void OnDestroy();
@@ -112,6 +114,8 @@ protected:
     void TellPeer(UINT changes);
 
 private:
+    void Place(const CRect& rect, bool tellPeer);
+    void DestroyChildren();
     void RemoveChild(CWnd* child);
 
     CWnd* m_parent = nullptr;
@@ -124,6 +128,7 @@ private:
     UINT m_pendingChanges = 0;
     unsigned m_invalidateCount = 0;
     bool m_created = false;
+    bool m_destroying = false;
     bool m_visible = true;
     bool m_enabled = true;
     bool m_redraw = true;

@@ -7,10 +7,13 @@
 #include "vapp/toolkit/CObject.h"
 
 class CXTPReportControl;
+enum class TColumnsChange : int;
 
 /// A column; owned by its report once added.
 class VAPP_EXPORT CXTPReportColumn : public CObject {
 public:
+    static constexpr int cnMinShownWidth = 8;
+
     /// @param itemIndex  number of the record item that the column shows; also its lasting identity
     /// @param caption    text of the header, in the active code page
     /// @param internalName  name that doesn't change with the language
@@ -25,8 +28,10 @@ public:
     [[nodiscard]] const CString& GetCaption() const { return m_caption; }
     [[nodiscard]] const CString& GetInternalName() const { return m_internalName; }
     [[nodiscard]] int GetWidth() const { return m_width; }
-    /// Pixels, taken as they stand; the peer shows at least a few pixels.
+    /// Pixels, taken as they stand, even below 0: what was stored comes back.
     void SetWidth(int width);
+    /// The width that is shown and hit: at least `cnMinShownWidth`, so that no column gets out of reach.
+    [[nodiscard]] int GetShownWidth() const { return m_width < cnMinShownWidth ? cnMinShownWidth : m_width; }
     [[nodiscard]] bool IsVisible() const { return m_visible; }
     void SetVisible(bool visible);
     [[nodiscard]] bool IsSortable() const { return m_sortable; }
@@ -40,6 +45,8 @@ public:
 private:
     friend class CXTPReportColumns;
     friend class CXTPReportColumnOrder;
+
+    void TellHeader(TColumnsChange change);
 
     CString m_caption;
     CString m_internalName;

@@ -20,7 +20,8 @@ public:
     /// Place of the column, or -1.
     [[nodiscard]] int IndexOf(const CXTPReportColumn* column) const;
     void Clear();
-    /// Adds the column behind the others; one that is there only changes its direction.
+    /// Adds the column behind the others; one that is there only changes its direction. A column of another
+    /// report, or null, is left alone.
     void Add(CXTPReportColumn* column, bool increasing);
 
 private:

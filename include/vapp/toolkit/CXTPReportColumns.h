@@ -28,7 +28,8 @@ public:
     [[nodiscard]] int GetVisibleIndex(const CXTPReportColumn* column) const;
     /// The visible column with that number among the visible ones, or null.
     [[nodiscard]] CXTPReportColumn* GetVisibleAt(int visibleIndex) const;
-    /// Moves a column to a position; -1 if there is no such column, else its new position.
+    /// Moves a column to a position, which is kept within 0 and the last one; -1 if there is no such column,
+    /// else its new position.
     int ChangeColumnOrder(int position, const CXTPReportColumn* column);
 
     [[nodiscard]] CXTPReportColumnOrder& GetSortOrder() { return m_sortOrder; }

@@ -17,6 +17,7 @@
 #include "vapp/toolkit/CXTPReportSelectedRows.h"
 #include "vapp/toolkit/InputTypes.h"
 #include "vapp/toolkit/RowCursor.h"
+#include "vapp/toolkit/TypeAhead.h"
 
 /// All rows by number.
 class CXTPReportRows {
@@ -45,6 +46,7 @@ public:
     /// Adds a column behind the others; the report owns it.
     CXTPReportColumn* AddColumn(std::unique_ptr<CXTPReportColumn> column);
     [[nodiscard]] CXTPReportHeader& GetReportHeader() const { return *m_header; }
+    /// Replaces the header; null is ignored.
     void SetReportHeader(std::unique_ptr<CXTPReportHeader> header);
     /// The first visible columns that stay in place when the rest scrolls sideways.
     [[nodiscard]] int GetFreezeColumnsCount() const { return m_freezeCount; }
@@ -58,7 +60,7 @@ public:
 
     // Rows
     /// One record for all rows. The report owns it and drops the former one. Selection and focus beyond the
-    /// count are dropped; `Populate` shows the rows.
+    /// count are dropped, and the parent told if there were any; `Populate` shows the rows.
     void SetVirtualMode(std::unique_ptr<CXTPReportRecord> record, int rowCount);
     [[nodiscard]] CXTPReportRecord* GetVirtualRecord() const { return m_record.get(); }
     /// Tells the peer that the rows are others. Overridden by reports that fetch their rows.
@@ -68,7 +70,7 @@ public:
     [[nodiscard]] const CXTPReportSelectedRows& GetSelectedRows() const { return m_selectedRows; }
     [[nodiscard]] std::optional<CXTPReportRow> GetFocusedRow() const;
     /// Focus without selection; scrolls the row into view if asked. Tells the parent
-    /// (cnReportSelectionChanged).
+    /// (cnReportSelectionChanged). The row becomes the anchor of ranges; one out of range is ignored.
     void SetFocusedRow(const CXTPReportRow& row, bool ensureVisible = true);
     /// First row shown.
     [[nodiscard]] int GetTopRowIndex() const { return m_top; }
@@ -81,10 +83,12 @@ public:
     [[nodiscard]] int GetHeaderHeight() const { return m_headerHeight; }
     void SetRowMetrics(int rowHeight, int headerHeight);
     [[nodiscard]] int GetScrollX() const { return m_scrollX; }
+    /// Sideways scrolling, kept within 0 and what the shown columns need beyond the client width.
     void SetScrollX(int pixels);
     /// Whole rows that fit, at least 1.
     [[nodiscard]] int GetCountPerPage() const;
-    /// Row under a client point, or nothing; `area` receives its rectangle.
+    /// Row under a client point, or nothing (the header, below the last row, outside); `area` then receives
+    /// its rectangle, as wide as the client area.
     [[nodiscard]] std::optional<CXTPReportRow> HitTestRow(CPoint point, CRect* area = nullptr) const;
 
     /// Between the two no notification goes out and the peer is told nothing; the last end tells once.
@@ -97,9 +101,11 @@ public:
     void SetImageList(UINT resource, int width, COLORREF maskColor);
     [[nodiscard]] UINT GetImageListResource() const { return m_imageResource; }
     [[nodiscard]] int GetImageWidth() const { return m_imageWidth; }
+    [[nodiscard]] COLORREF GetImageMaskColor() const { return m_imageMask; }
     /// Clipboard format and permissions of dragging rows out.
     void EnableDragDrop(const CString& format, UINT flags);
     [[nodiscard]] const CString& GetDragFormat() const { return m_dragFormat; }
+    [[nodiscard]] UINT GetDragFlags() const { return m_dragFlags; }
 
     /// Asks the record how an item looks now; false if the row or the record isn't there. What the record
     /// asks of a host may come back here and populate anew: the record that is being asked lives on until the
@@ -117,13 +123,16 @@ public:
 
     /// Text that type-ahead compares for a row; must be cheap. The base has none.
     [[nodiscard]] virtual CStringU GetTypeAheadText(int row) const;
-    /// Columns were added, moved, hidden, shown or resized.
+    /// For headers that want their report to know: columns were added, moved, hidden, shown or resized. The
+    /// base header does not call it, and the base does nothing.
     virtual void OnColumnsChanged(int change, CXTPReportColumn* column);
 
     /// For the report's own parts: something changed.
     void PartChanged(UINT peerChanges);
     /// For the selection face: notifies after a change of selection or focus.
     void SelectionChanged(UINT peerChanges);
+    /// For the header: the user changed the sort order; notifies.
+    void SortChangedByUser();
     [[nodiscard]] RowCursor& GetCursor() { return m_cursor; }
     [[nodiscard]] const RowCursor& GetCursor() const { return m_cursor; }
 
@@ -132,6 +141,12 @@ protected:
     void OnSize(UINT type, int cx, int cy) override;
 
 private:
+    [[nodiscard]] int LastTopRow() const;
+    [[nodiscard]] int LastScrollX() const;
+    void ClampScroll();
+    void CursorChanged(int focusBefore);
+    void TellPending();
+
     CXTPReportColumns m_columns;
     std::unique_ptr<CXTPReportHeader> m_header;
     std::unique_ptr<CXTPReportRecord> m_record;
@@ -140,8 +155,7 @@ private:
     CXTPReportPaintManager m_paintManager;
     RowCursor m_cursor;
     CString m_dragFormat;
-    CStringU m_typed;
-    std::int64_t m_typedAt = 0;
+    TypeAhead m_typeAhead;
     COLORREF m_imageMask = cnNoColor;
     UINT m_imageResource = 0;
     UINT m_dragFlags = 0;
@@ -158,4 +172,5 @@ private:
     int m_measureDepth = 0;
     bool m_fullColumnScrolling = true;
     bool m_selectionPending = false;
+    bool m_sortPending = false;
 };

@@ -26,7 +26,7 @@ public:
 
     /// The user clicked a header: sorts by it, increasing at first, turning around at each further click;
     /// with control added behind the present sort columns. The report's parent is told
-    /// (cnReportSortOrderChanged).
+    /// (cnReportSortOrderChanged). A column that is not sortable, or not of this report, does nothing.
     void ClickedByUser(CXTPReportColumn* column, bool addToOrder);
     /// The user dragged a header to a position among all columns.
     void MovedByUser(CXTPReportColumn* column, int position);
@@ -34,7 +34,7 @@ public:
     void ResizedByUser(CXTPReportColumn* column, int width);
 
     /// Columns were added, moved, hidden, shown or resized; `change` is a TColumnsChange, the column may be
-    /// null.
+    /// null. Every change of the columns comes through here. The base tells the report's peer, nobody else.
     virtual void OnColumnsChanged(int change, CXTPReportColumn* column);
 
 private:

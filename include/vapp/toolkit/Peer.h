@@ -38,6 +38,7 @@ enum PeerChange : UINT {
     cnChangeSort = 1u << 9,       ///< sort order
     cnChangeLook = 1u << 10,      ///< colours, fonts, texts of emptiness, images
     cnChangeFocus = 1u << 11,     ///< the keyboard focus came to this control
+    cnChangeAll = (1u << 11) - 1  ///< all of the above but the focus: what a new peer is told
 };
 
 /// Shows one control. Destroyed by its control, before the control's window goes.
@@ -48,8 +49,9 @@ public:
     Peer& operator=(const Peer&) = delete;
     virtual ~Peer();
 
-    /// The named things changed; the peer reads them anew from its control. It must not call back any
-    /// operation that changes the control.
+    /// The named things changed; the peer reads them anew from its control. It must not destroy the control
+    /// from here. Whatever its widget reports meanwhile it may pass on: a control that is told what it has
+    /// already does nothing.
     virtual void Changed(UINT changes) = 0;
     /// Paint again when convenient; `erase` asks for the background too.
     virtual void Invalidate(bool erase) = 0;

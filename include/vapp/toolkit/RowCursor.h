@@ -9,8 +9,9 @@
 
 /// Selection, focused row and anchor of a multiple selection list.
 ///
-/// A plain click or arrow selects one row; with shift the range from the anchor; with control a click
-/// toggles, an arrow moves the focus alone and the space bar toggles.
+/// A plain click or arrow selects one row and makes it the anchor; with shift the range from the anchor,
+/// which stays; with control a click toggles, an arrow moves the focus alone and the space bar toggles; with
+/// both the range is added. Without an anchor a range begins at the focused row, or else at the row itself.
 class VAPP_EXPORT RowCursor {
 public:
     [[nodiscard]] const RowSelection& GetSelection() const { return m_selection; }
@@ -22,18 +23,24 @@ public:
     void SetAnchor(int row) { m_anchor = row; }
     /// Forgets everything.
     void Reset();
+    /// Drops what lies at or above the count; true if selection or focus changed.
+    bool Truncate(int rowCount);
+    /// A row was inserted: all that lies there or behind it moves with its row.
+    void RowInserted(int row);
 
     /// A click on a row (left button). A row of -1 is the empty area: without modifiers it clears the
     /// selection. True if selection or focus changed.
     bool Click(int row, TModifiers modifiers);
     /// A right click: a row outside the selection becomes the selection; inside, the selection stays.
     bool ContextClick(int row);
-    /// A key, for `rowCount` rows of which `pageRows` fit; true if selection or focus changed. Keys without
-    /// meaning here change nothing.
+    /// A key, for `rowCount` rows of which `pageRows` fit; true if selection or focus changed. A page key
+    /// leaves one row of the page in sight. Without a focused row every arrow goes to the first row. Keys
+    /// without meaning here change nothing.
     bool Key(TKey key, TModifiers modifiers, int rowCount, int pageRows);
 
 private:
-    bool MoveTo(int row, TModifiers modifiers);
+    bool Select(int row, TModifiers modifiers);
+    bool SelectRange(int row, bool keepOthers);
 
     RowSelection m_selection;
     int m_focus = -1;

@@ -19,10 +19,13 @@ public:
     };
 
     void Clear() { m_ranges.clear(); }
-    void Add(int first, int last);
-    void Remove(int first, int last);
-    /// Drops every row at or above the count.
-    void Truncate(int rowCount);
+    /// Adds, or removes, rows first to last, inclusive; true if that changed anything.
+    bool Add(int first, int last);
+    bool Remove(int first, int last);
+    /// Drops every row at or above the count; true if there was one.
+    bool Truncate(int rowCount);
+    /// Makes room for a new row, which is not selected: rows from this one on move up by one.
+    void InsertRow(int row);
     [[nodiscard]] bool Contains(int row) const;
     [[nodiscard]] bool IsEmpty() const { return m_ranges.empty(); }
     [[nodiscard]] std::size_t GetCount() const;

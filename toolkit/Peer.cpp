@@ -1,0 +1,23 @@
+/// @file
+/// The installed peer factory. It is not owned: an adapter keeps its own alive.
+#include "vapp/toolkit/Peer.h"
+
+namespace {
+
+PeerFactory* s_installed = nullptr;
+
+}  // namespace
+
+Peer::~Peer() = default;
+
+PeerFactory::~PeerFactory() {
+    if (s_installed == this) s_installed = nullptr;
+}
+
+PeerFactory* PeerFactory::Installed() {
+    return s_installed;
+}
+
+void PeerFactory::Install(PeerFactory* factory) {
+    s_installed = factory;
+}

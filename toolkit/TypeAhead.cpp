@@ -1,0 +1,37 @@
+/// @file
+/// The walk over the rows that type-ahead does.
+#include "vapp/toolkit/TypeAhead.h"
+
+int TypeAhead::Find(const CStringU& piece, std::int64_t milliseconds, int focus, int rowCount,
+                    const std::function<CStringU(int)>& rowText) {
+    if (piece.IsEmpty()) return -1;
+    const bool grown = Grow(piece, milliseconds);
+    if (rowCount <= 0) return -1;
+    // Only a text that grew may stay where it is; a new one, or a repeated letter, goes on.
+    int first = focus >= 0 && focus < rowCount ? focus : -1;
+    if (!grown || first < 0) first = first + 1 < rowCount ? first + 1 : 0;
+    const CStringU& wanted = m_repeated ? m_firstPiece : m_typed;
+    for (int step = 0; step < rowCount; ++step) {
+        const int row = step < rowCount - first ? first + step : step - (rowCount - first);
+        if (rowText(row).StartsWithNoCase(wanted)) return row;
+    }
+    return -1;
+}
+
+// True if the piece lengthens the text; false if it begins a new one or repeats the only letter of it.
+bool TypeAhead::Grow(const CStringU& piece, std::int64_t milliseconds) {
+    // A clock that goes backward counts as a pause; the difference is unsigned, which no clock can overflow.
+    const auto sinceLast = static_cast<std::uint64_t>(milliseconds) - static_cast<std::uint64_t>(m_typedAt);
+    const bool isNew = m_typed.IsEmpty() || sinceLast > static_cast<std::uint64_t>(cnPause);
+    m_typedAt = milliseconds;
+    if (isNew) {
+        m_typed = piece;
+        m_firstPiece = piece;
+        m_repeated = false;
+        return false;
+    }
+    const bool onlyOneLetter = m_repeated || m_typed == m_firstPiece;
+    m_repeated = onlyOneLetter && m_firstPiece.EqualsNoCase(piece);
+    m_typed += piece;
+    return !m_repeated;
+}
