@@ -58,8 +58,8 @@ CString CString::Mid(int first, int count) const {
 void CString::ReplaceRange(int first, int count, std::string_view text) {
     const CString keep = OwnsBytesAt(text.data()) ? *this : CString();
     const int tail = GetLength() - first - count;
-    const std::size_t head = static_cast<std::size_t>(first);
-    const std::size_t rest = static_cast<std::size_t>(tail);
+    const auto head = static_cast<std::size_t>(first);
+    const auto rest = static_cast<std::size_t>(tail);
     MakeWritable(head + text.size() + rest, true);
     std::memmove(m_text + head + text.size(), m_text + first + count, rest);
     if (!text.empty()) std::memcpy(m_text + head, text.data(), text.size());
