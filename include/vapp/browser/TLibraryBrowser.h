@@ -14,10 +14,11 @@
 /// Before Initialize, and after the window has gone, every operation does nothing and answers empty.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <map>
 #include <set>
 #include <utility>
+#include <vector>
 
 #include "vapp/Export.h"
 #include "vapp/browser/TLibCellView.h"
@@ -107,8 +108,16 @@ public:
                                bool sortForward, bool hideInThirdSetup);
     void AddCellViewListFilterType(const CStringU& name);
     void ResetCellViewListFilter();
+    void SetCellTabsText(int tab, const CString& text);
     [[nodiscard]] TLibCellView GetFocusedCell() const;
-    [[nodiscard]] int GetCellViewCount() const;
+    [[nodiscard]] std::vector<TLibCellView> GetSelectedCells() const;
+    [[nodiscard]] bool AreAnyCellsSelected() const;
+    void AddToCellListSelections(const std::set<TLibCellView>& cells);
+    /// Selects the library in the library list, and the first of the cell's rows that are shown now.
+    void HighlightCellInList(const CStringU& library, const CStringU& cell);
+    [[nodiscard]] std::size_t GetCellViewCount() const;
+    [[nodiscard]] CStringU GetShownCellList() const;
+    [[nodiscard]] CStringU GetShownCellViewList() const;
     [[nodiscard]] CStringU GetExcludeViews() const;
 
     // --- The preview -----------------------------------------------------------------------------------

@@ -27,12 +27,6 @@ public:
     /// colour and the others in blue, reserved libraries on a tint, those with unsaved changes also bold.
     /// cnNoColor stands for the desktop's own colour of the place. Empty for a row that isn't there.
     [[nodiscard]] ListItemLook DrawItem(int index) override;
-
-private:
-    struct EditorState;
-
-    [[nodiscard]] static EditorState AskEditorState(const TLibraryView& view, const CStringU& library);
-    [[nodiscard]] static COLORREF AskTextColor(const TLibraryView& view, const CStringU& library);
 };
 
 }  // namespace vapp_library_browser

@@ -159,10 +159,10 @@ private:
     void FillDesignCombo(const CStringU& wanted);
     void ShowPendingHighlight();
     void UpdateListBackground();
-    [[nodiscard]] const TPathOfLibrary& LibrariesOfSelectedDesign(const CStringU& design) const;
     [[nodiscard]] bool ListShows(const TPathOfLibrary& libraries) const;
     void FillList(const CStringU& design, const TPathOfLibrary& libraries);
     void SelectRow(int row);
+    bool FetchSelectedMaster();
     void MarkCellListDirty();
     void RefreshCellListNow();
 
@@ -183,6 +183,7 @@ private:
     TViewsOfLibrary m_modifiedLcvs;
     bool m_populating = false;
     bool m_requestedMeanwhile = false;
+    bool m_askingSelectedMaster = false;
 };
 
 }  // namespace vapp_library_browser

@@ -27,7 +27,8 @@ public:
     ~TSymbolPreview() override;
 
     /// Asks the host for a picture of the focused cell, of the picture's present size; clears picture and
-    /// caption, without a line, if no cell is focused.
+    /// caption, without a line, if no cell is focused. A call from inside the line is served once when the
+    /// line has ended, so that a host whose answer refreshes the navigator comes to an end.
     void DisplayNewPreview();
     /// The host's answer; may come from inside the line. The caption shows in the active code page, and is
     /// emptied with `clear`; the bitmap is taken in both cases, null shows none. The bitmap is not owned:
@@ -45,11 +46,14 @@ protected:
 
 private:
     void Layout(int cx, int cy);
+    void ShowFocusedCell();
     void SendPreviewLine(const TLibCellView& cell);
 
     TLibraryView* m_libraryView = nullptr;
     CStatic m_caption{CStatic::TKind::Text};
     CStatic m_picture{CStatic::TKind::Picture};
+    bool m_asking = false;
+    bool m_askedMeanwhile = false;
 };
 
 }  // namespace vapp_library_browser

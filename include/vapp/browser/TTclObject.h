@@ -38,6 +38,8 @@ public:
 
     /// The object, or null; the holder keeps its reference.
     [[nodiscard]] Tcl_Obj* Get() const noexcept { return m_object; }
+    /// Gives the reference away: the caller owns it now.
+    [[nodiscard]] Tcl_Obj* Release() noexcept { return std::exchange(m_object, nullptr); }
     explicit operator bool() const noexcept { return m_object != nullptr; }
 
 private:

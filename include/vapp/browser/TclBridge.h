@@ -51,6 +51,10 @@ namespace vapp_library_browser {
 /// @param result  may be null. Otherwise receives the answer with a reference that the caller must drop, for
 ///                TCL_OK and also for TCL_ERROR; null for every other code.
 VAPP_EXPORT int EvaluateTcl(Tcl_Interp* interp, const CStringU& line, Tcl_Obj** result);
+/// The most lines that may run inside one another. A line beyond fails at once: host script that comes back
+/// without end reaches its end here, and not at the end of the stack.
+inline constexpr int cnMaxNestedLines = 64;
+
 /// The same for a line without marker, the answer being held by an object; null where it isn't wanted.
 VAPP_EXPORT int EvaluateTcl(Tcl_Interp* interp, const char* line, TTclObject* result);
 
