@@ -113,6 +113,7 @@ private:
         if (stroke == nullptr) return;
         stroke->isClosed = true;
         stroke->isFilled = gProperty(box.properties, "fill").value_or("true") != "false";
+        stroke->isTinted = box.layer != cnPinLayer;
         if (box.layer == cnPinLayer) stroke->kind = StrokeKind::Pin;
     }
 

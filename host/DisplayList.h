@@ -22,6 +22,7 @@ struct Stroke {
     StrokeKind kind = StrokeKind::Line;
     bool isClosed = false;
     bool isFilled = false;
+    bool isTinted = false;  ///< Filled so lightly that what lies behind shows: boxes that mark an area.
     bool isDashed = false;
     bool isCurve = false;  ///< Made from an arc: its points are not to be snapped to pixels.
 };

@@ -100,9 +100,7 @@ private:
 
     static QBrush BrushOf(const Stroke& stroke, QColor colour) {
         if (!stroke.isFilled || stroke.kind == StrokeKind::Missing) return Qt::NoBrush;
-        const bool isSolid =
-            stroke.kind == StrokeKind::Pin || stroke.kind == StrokeKind::Junction || stroke.isCurve;
-        if (!isSolid) colour.setAlpha(48);
+        if (stroke.isTinted) colour.setAlpha(48);
         return colour;
     }
 
