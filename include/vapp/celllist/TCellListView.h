@@ -106,7 +106,6 @@ public:
 
 protected:
     void OnCreate() override;
-    void OnDestroy() override;
     void OnSize(UINT type, int cx, int cy) override;
     void OnSetFocus() override;
     bool OnNotify(Notification& notification, LRESULT& result) override;

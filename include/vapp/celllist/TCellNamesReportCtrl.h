@@ -28,7 +28,10 @@
 namespace vapp_library_browser {
 
 class CellRows;
+class CellSet;
 class TCellListView;
+struct CellQuery;
+struct RowOrder;
 
 class VAPP_EXPORT TCellNamesReportCtrl : public CXTPReportControl {
 public:
@@ -282,20 +285,21 @@ public:
 private:
     class SavedView;
 
-    void FetchRows();
+    [[nodiscard]] bool FetchRows();
+    [[nodiscard]] CellQuery MakeQuery(const CStringU& design) const;
+    void ArrangeRows(CellRows& rows, int total, bool dark);
+    static void SortRows(CellRows& rows, const RowOrder& order);
+    void ApplyTheme(bool dark);
+    void WordStatus(std::size_t rows, int answeredTotal, bool dark);
+    void BlankStatus();
     void ShowRows(const SavedView& saved);
     void ShowRowsAsBefore(const SavedView& saved);
     void ShowHighlight(const TLibCellView& cell);
-    void ApplyTheme(bool dark);
-    void WordStatus(std::size_t rows, std::size_t total, bool dark);
-    void BlankStatus();
-    [[nodiscard]] bool FilterRows(CellRows& rows);
-    void SortRows(CellRows& rows);
+    void SelectRows(const CellSet& cells);
     [[nodiscard]] int GetActiveSetupIndex() const;
     void SerializeOptions(bool write);
     void SerializeColumns(bool write);
     void AddBuiltInColumns();
-    void KeepCellColumnFrozen(int count);
     [[nodiscard]] TColCellName* FindCellColumn() const;
 
     TCellListView& m_pane;

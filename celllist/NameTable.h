@@ -1,0 +1,52 @@
+/// @file
+/// NameTable: gives each distinct name a small number.
+///
+/// A list of a million rows has far fewer names than rows. Rows keep numbers; what costs per name (keys,
+/// ranks, filter tests) is done once for each name.
+///
+/// Names are told apart by their bytes alone: "A" and "a" are two names here. Which of them count as the same
+/// is a matter of ranks (NameRanks.h).
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "vapp/text/CStringU.h"
+
+namespace vapp_library_browser {
+
+class NameTable {
+public:
+    /// Number of the name, which is added if it is new. Names have no NUL inside.
+    std::uint32_t Intern(std::string_view name);
+    /// Number of the name, or nothing if the table doesn't have it. Not after `Freeze`.
+    [[nodiscard]] std::optional<std::uint32_t> Find(std::string_view name) const;
+    [[nodiscard]] std::size_t Count() const { return m_ends.size(); }
+    /// The bytes of a name, NUL behind them; valid until the next name is added.
+    [[nodiscard]] std::string_view At(std::uint32_t number) const {
+        const std::size_t start = number == 0 ? 0 : m_ends[number - 1];
+        return {m_bytes.data() + start, m_ends[number] - start - 1};
+    }
+    /// The name as a text of the system.
+    [[nodiscard]] CStringU Text(std::uint32_t number) const;
+    /// Gives back what only `Intern` needs. No name may be added afterwards.
+    void Freeze();
+
+private:
+    struct Slot {
+        std::uint32_t hash = 0;
+        std::uint32_t numberPlusOne = 0;  ///< 0: empty
+    };
+
+    [[nodiscard]] std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    void Grow();
+
+    std::vector<char> m_bytes;
+    std::vector<std::size_t> m_ends;  ///< place behind the NUL of each name
+    std::vector<Slot> m_slots;        ///< open addressing; the count is a power of two
+};
+
+}  // namespace vapp_library_browser
