@@ -37,7 +37,8 @@ int main(int argc, char** argv) {
     vapp_library_browser::TLibraryBrowser navigator;
     navigator.Initialize(&frame, interp, nullptr);
     navigator.SerializeSetup(false);
-    // The host drives the navigator: it refreshes what is dirty whenever the event loop has nothing else to do.
+    // The host drives the navigator: it refreshes what is dirty whenever the event loop has nothing else to
+    // do.
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &qt,
                      [&navigator] { navigator.Populate(); });
     frame.ShowWindow(true);

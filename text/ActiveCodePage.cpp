@@ -6,6 +6,10 @@
 
 static_assert(cnUtf8CodePage == vapp_platform::cnCodePageUtf8);
 
-unsigned gGetActiveCodePage() { return vapp_platform::ActiveCodePage(); }
+unsigned gGetActiveCodePage() {
+    return vapp_platform::ActiveCodePage();
+}
 
-void gSetActiveCodePage(unsigned codePage) { vapp_platform::SetActiveCodePage(codePage); }
+void gSetActiveCodePage(unsigned codePage) {
+    vapp_platform::SetActiveCodePage(codePage);
+}

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "TextHelpers.h"
+#include "tests/text/TextHelpers.h"
 #include "vapp/text/CString.h"
 
 namespace {

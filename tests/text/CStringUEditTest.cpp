@@ -4,7 +4,7 @@
 
 #include <climits>
 
-#include "TextHelpers.h"
+#include "tests/text/TextHelpers.h"
 #include "vapp/text/CStringU.h"
 
 namespace {

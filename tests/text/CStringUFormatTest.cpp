@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "TextHelpers.h"
+#include "tests/text/TextHelpers.h"
 #include "vapp/text/CStringU.h"
 
 namespace {

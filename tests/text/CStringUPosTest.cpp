@@ -7,7 +7,7 @@
 #include <climits>
 #include <type_traits>
 
-#include "TextHelpers.h"
+#include "tests/text/TextHelpers.h"
 #include "vapp/text/CStringU.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <unordered_set>
 
-#include "TextHelpers.h"
+#include "tests/text/TextHelpers.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "TextHelpers.h"
+#include "tests/text/TextHelpers.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 /// @file
-/// The code page that narrow text with high bytes is in. Controls hold their captions in it, so that a host which
-/// wants every name unchanged sets UTF-8 before it makes its first window.
+/// The code page that narrow text with high bytes is in. Controls hold their captions in it, so that a host
+/// which wants every name unchanged sets UTF-8 before it makes its first window.
 #pragma once
 
 #include "vapp/Export.h"
@@ -8,8 +8,8 @@
 /// The number of the code page UTF-8.
 inline constexpr unsigned cnUtf8CodePage = 65001;
 
-/// The active code page's number: the one that was set, otherwise the system's (that of the locale; UTF-8 counts as
-/// 65001).
+/// The active code page's number: the one that was set, otherwise the system's (that of the locale; UTF-8
+/// counts as 65001).
 [[nodiscard]] VAPP_EXPORT unsigned gGetActiveCodePage();
 /// Sets it for the whole process; 0 returns to the system's own.
 VAPP_EXPORT void gSetActiveCodePage(unsigned codePage);

@@ -1,0 +1,122 @@
+/// Puts the host together, and translates what changed in the database into the navigator's requests.
+
+#include "host/Navigator.h"
+
+#include <array>
+#include <vector>
+
+#include "host/CellsQuery.h"
+#include "vapp/browser/Messages.h"
+#include "vapp/browser/TclBridge.h"
+#include "vapp/celllist/TCellListView.h"
+
+namespace navigator {
+
+namespace {
+
+CStringU TextOf(const std::string& utf8) {
+    return {utf8.c_str(), TextEncoding::Utf8Auto};
+}
+
+/// One Tcl word from any name: what a list of this one element looks like.
+CStringU QuoteTclWord(const CStringU& name) {
+    int flags = 0;
+    const int room = Tcl_ScanCountedElement(name.Payload(), name.GetByteLength(), &flags);
+    std::string word(static_cast<std::size_t>(room) + 1, '\0');
+    Tcl_ConvertCountedElement(name.Payload(), name.GetByteLength(), word.data(), flags);
+    return TextOf(word);
+}
+
+Tcl_Interp* CreateInterp() {
+    // Finds the interpreter's own library of scripts; a host without it still works, it only lacks its
+    // commands.
+    Tcl_FindExecutable(nullptr);
+    Tcl_Interp* const interp = Tcl_CreateInterp();
+    if (Tcl_Init(interp) != TCL_OK) Tcl_ResetResult(interp);
+    return interp;
+}
+
+}  // namespace
+
+Navigator::Navigator()
+    : m_app("navigator"),
+      m_interp(CreateInterp()),
+      m_database(m_interp.get(), m_store),
+      m_commands(m_interp.get()),
+      m_browser(std::make_unique<vapp_library_browser::TLibraryBrowser>()),
+      m_script(m_interp.get(), *m_browser) {
+    vapp::gSetTclSanitizeInputUPointer(&QuoteTclWord);
+    m_database.SetChangeHandler([this](DatabaseChange change) { OnDatabaseChange(change); });
+}
+
+Navigator::~Navigator() {
+    m_app.SetMainWnd(nullptr);
+}
+
+std::optional<std::string> Navigator::OpenFolder(const std::filesystem::path& folder) {
+    return m_store.OpenFolder(folder);
+}
+
+void Navigator::CreateWindow(int width, int height, bool dark) {
+    m_frame.SetDark(dark);
+    m_frame.CreateFrame("Library Navigator", CRect(0, 0, width, height));
+    m_app.SetMainWnd(&m_frame);
+    m_browser->Initialize(&m_frame, m_interp.get(), nullptr);
+    m_browser->AddViewsToDoc(&m_document);
+    for (const FilterType& type : gFilterTypes())
+        m_browser->AddCellViewListFilterType(TextOf(std::string(type.text)));
+    static constexpr std::array<const char*, 3> csTabs{"Compact", "Details", "Names"};
+    for (int tab = 0; tab < static_cast<int>(csTabs.size()); ++tab)
+        m_browser->GetCellListView()->SetCellTabsText(tab, csTabs[static_cast<std::size_t>(tab)]);
+}
+
+std::optional<std::string> Navigator::SourceScript(const std::string& file) {
+    // Not Tcl_EvalFile: its name for the script would be in the encoding of the system, and a failure would
+    // lose its place. "source" with the name as one word does both well.
+    const std::string line = std::string("source ") + QuoteTclWord(TextOf(file)).Payload();
+    if (Tcl_EvalEx(m_interp.get(), line.c_str(), -1, TCL_EVAL_GLOBAL) == TCL_OK) {
+        Tcl_ResetResult(m_interp.get());
+        return std::nullopt;
+    }
+    const char* const place = Tcl_GetVar(m_interp.get(), "errorInfo", TCL_GLOBAL_ONLY);
+    return std::string(place != nullptr ? place : Tcl_GetStringResult(m_interp.get()));
+}
+
+void Navigator::Rescan() {
+    if (!m_store.Rescan()) return;
+    OnDatabaseChange(DatabaseChange::Libraries);
+}
+
+void Navigator::OnDatabaseChange(DatabaseChange change) {
+    using namespace vapp_library_browser;
+    switch (change) {
+        case DatabaseChange::Libraries:
+            m_browser->RequestLibraryViewDelayedPopulate();
+            m_browser->RequestCellListViewDelayedPopulate(UpdateAlways);
+            break;
+        case DatabaseChange::CellState:
+            m_browser->RequestCellListViewDelayedPopulate(UpdateIfFilterSaysSo);
+            if (TCellListView* const pane = m_browser->GetCellListView()) pane->GetReport().Invalidate(false);
+            break;
+        case DatabaseChange::SelectedMaster:
+            m_document.UpdateAllViews(nullptr, cnHintSelectedMaster);
+            m_browser->RequestCellListViewDelayedPopulate(UpdateAlways);
+            break;
+    }
+}
+
+std::string Navigator::Dump() {
+    if (m_store.Designs().empty()) return {};
+    m_browser->Populate();
+    m_browser->SetSelectedDesign(TextOf(m_store.Designs().front().name));
+    m_browser->Populate();
+    auto& report = m_browser->GetCellListView()->GetReport();
+    std::vector<CStringU> captions;
+    for (int position = 0; position < report.GetColumns().GetCount(); ++position)
+        captions.emplace_back(report.GetColumns().GetAt(position)->GetCaption());
+    CStringU text;
+    report.DumpContents(captions, text);
+    return text.Payload();
+}
+
+}  // namespace navigator

@@ -1,0 +1,75 @@
+#pragma once
+/// The host put together: interpreter, design store, Tcl commands, application object, frame and navigator.
+/// It works without a screen; with peers installed before ShowWindow the same objects are on the screen. It
+/// draws nothing: whoever shows it sets the preview handler of Commands().
+
+#include <tcl.h>
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "host/DatabaseCommand.h"
+#include "host/DesignStore.h"
+#include "host/HostCommands.h"
+#include "host/NavigatorCommand.h"
+#include "host/NavigatorFrame.h"
+#include "vapp/browser/TLibraryBrowser.h"
+#include "vapp/toolkit/CDocument.h"
+#include "vapp/toolkit/CWinAppEx.h"
+
+namespace navigator {
+
+class Navigator {
+public:
+    Navigator();
+    ~Navigator();
+    Navigator(const Navigator&) = delete;
+    Navigator& operator=(const Navigator&) = delete;
+
+    /// Opens a folder as a design. Gives nothing on success, or else a sentence that says what failed.
+    [[nodiscard]] std::optional<std::string> OpenFolder(const std::filesystem::path& folder);
+    /// Makes frame and panes. Call once; afterwards scripts may add columns and filter types.
+    void CreateWindow(int width, int height, bool dark);
+    /// Sources a script at global level. Gives nothing on success, or else the script's error with its place.
+    [[nodiscard]] std::optional<std::string> SourceScript(const std::string& file);
+    /// Reads the stored layout; to be called when all columns are there.
+    void LoadSetup() { m_browser->SerializeSetup(false); }
+
+    /// Refreshes what is dirty; to be called when idle.
+    void Populate() { m_browser->Populate(); }
+    /// Reads the folders again and marks the panes if something has changed.
+    void Rescan();
+
+    /// The cell list of the first design that was opened: every column, all libraries, as comma-separated
+    /// lines.
+    [[nodiscard]] std::string Dump();
+
+    [[nodiscard]] NavigatorFrame& Frame() { return m_frame; }
+    [[nodiscard]] vapp_library_browser::TLibraryBrowser& Browser() { return *m_browser; }
+    [[nodiscard]] DesignStore& Store() { return m_store; }
+    [[nodiscard]] HostCommands& Commands() { return m_commands; }
+    [[nodiscard]] Tcl_Interp* Interp() const { return m_interp.get(); }
+
+private:
+    struct InterpDeleter {
+        void operator()(Tcl_Interp* interp) const { Tcl_DeleteInterp(interp); }
+    };
+
+    void OnDatabaseChange(DatabaseChange change);
+
+    // Order matters: windows go before the commands that they may still call, those before the interpreter.
+    CWinAppEx m_app;
+    DesignStore m_store;
+    std::unique_ptr<Tcl_Interp, InterpDeleter> m_interp;
+    DatabaseCommand m_database;
+    HostCommands m_commands;
+    CDocument m_document;
+    NavigatorFrame m_frame;
+    std::unique_ptr<vapp_library_browser::TLibraryBrowser> m_browser;
+    NavigatorCommand m_script;
+};
+
+}  // namespace navigator

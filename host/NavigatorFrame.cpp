@@ -1,0 +1,14 @@
+/// Answers to the navigator's messages. What is not answered counts as "no".
+
+#include "host/NavigatorFrame.h"
+
+#include "vapp/browser/Messages.h"
+
+namespace navigator {
+
+LRESULT NavigatorFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == vapp_library_browser::WM_LN_ISDARKTHEME) return m_dark ? 1 : 0;
+    return CFrameWnd::WindowProc(message, wParam, lParam);
+}
+
+}  // namespace navigator
