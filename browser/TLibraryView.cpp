@@ -136,12 +136,14 @@ void TLibraryView::SetSelectedDesign(const CStringU& name) {
 }
 
 void TLibraryView::SelectInLibraryList(const CStringU& library) {
-    bool found = false;
-    for (int row = 0; row < m_libraryList.GetItemCount(); ++row) {
-        const bool selected = !found && m_libraryList.GetItemText(row) == library;
-        m_libraryList.SetItemState(row, selected ? cnListSelected : 0, cnListSelected);
-        found = found || selected;
+    int found = -1;
+    for (int row = 0; row < m_libraryList.GetItemCount() && found < 0; ++row) {
+        if (m_libraryList.GetItemText(row) == library) found = row;
     }
+    const bool selected = m_libraryList.GetItemState(found, cnListSelected) != 0;
+    if (selected && m_libraryList.GetSelectedCount() == 1) return;
+    m_libraryList.SetItemState(-1, 0, cnListSelected);
+    if (found >= 0) m_libraryList.SetItemState(found, cnListSelected, cnListSelected);
 }
 
 std::set<CStringIU> TLibraryView::GetAllLibrariesSet() const {

@@ -173,8 +173,8 @@ void TLibraryView::FillList(const CStringU& design, const TPathOfLibrary& librar
     m_libraryList.DeleteAllItems();
     const auto add = [&](const CStringU& library) {
         const int row = m_libraryList.InsertItem(m_libraryList.GetItemCount(), library);
-        const UINT state = selected.contains(library) ? cnListSelected : 0;
-        m_libraryList.SetItemState(row, state, cnListSelected);
+        // New rows are not selected; each change of a state is a walk over all rows.
+        if (selected.contains(library)) m_libraryList.SetItemState(row, cnListSelected, cnListSelected);
     };
     if (m_alphabetical) {
         for (const auto& [library, path] : libraries)

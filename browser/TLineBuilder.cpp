@@ -27,7 +27,8 @@ TLineBuilder& TLineBuilder::Text(const CStringU& text) {
 
 TLineBuilder& TLineBuilder::Name(const CStringU& name) {
     const TSanitizeHook hook = GetSanitizeHook();
-    return hook == nullptr ? Text(name) : Text(hook(name));
+    // The hook is the host's code: it gets a text of its own, whatever becomes of ours meanwhile.
+    return hook == nullptr ? Text(name) : Text(hook(CStringU(name)));
 }
 
 TLineBuilder& TLineBuilder::Triple(const TLibCellView& cell) {

@@ -1,0 +1,144 @@
+#include "vapp/browser/TSymbolPreview.h"
+
+#include <gtest/gtest.h>
+#include <tcl.h>
+
+#include "tests/browser/NavigatorFixture.h"
+
+using namespace vapp_library_browser;
+
+class TSymbolPreviewTest : public NavigatorFixture {
+protected:
+    /// One cell in the list; with the focus on it.
+    void ShowFocusedCell() {
+        m_host.AnswerStart("database cells -lcv -library top -count", "1");
+        m_host.AnswerStart("database cells -lcv -library top -filter", "{lib inv layout}");
+        Show({"lib"});
+        ASSERT_EQ(m_browser.GetCellViewCount(), 1u);
+        Cells().GetReport().ClickedByUser(0, {});
+        ASSERT_EQ(m_browser.GetFocusedCell(), TLibCellView("lib", "inv", "layout"));
+        m_host.ClearLines();
+    }
+    [[nodiscard]] std::vector<std::string> PreviewLines() const {
+        return m_host.LinesStarting("librarynavigator");
+    }
+
+    HBITMAP m_bitmap = reinterpret_cast<HBITMAP>(&m_host);  // opaque: only its address is looked at
+};
+
+TEST_F(TSymbolPreviewTest, AsksForAPictureOfThePresentSize) {
+    ShowFocusedCell();
+    Preview().MoveWindow({0, 0, 208, 232});
+    m_host.ClearLines();
+    Preview().DisplayNewPreview();
+    m_browser.ModifyForQEdit();
+    Preview().DisplayNewPreview();
+    ExpectGolden("preview.txt", PreviewLines());
+}
+
+TEST_F(TSymbolPreviewTest, WithoutAFocusedCellPictureAndCaptionAreClearedAndNothingIsSent) {
+    Show({"lib"});
+    m_browser.SetPreview(false, "inv", m_bitmap);
+    m_host.ClearLines();
+    const unsigned paints = Preview().GetPicture().GetInvalidateCount();
+    Preview().DisplayNewPreview();
+    EXPECT_TRUE(m_host.Lines().empty());
+    EXPECT_EQ(Preview().GetPicture().GetImage(), nullptr);
+    EXPECT_TRUE(Preview().GetCaption().GetWindowText().IsEmpty());
+    EXPECT_GT(Preview().GetPicture().GetInvalidateCount(), paints);
+}
+
+TEST_F(TSymbolPreviewTest, TheEditorModeNamesNoDesign) {
+    ShowFocusedCell();
+    m_browser.ModifyForQEdit();
+    Preview().DisplayNewPreview();
+    ASSERT_EQ(PreviewLines().size(), 1u);
+    EXPECT_EQ(PreviewLines()[0].find("-primary"), std::string::npos);
+}
+
+TEST_F(TSymbolPreviewTest, NamesAreSanitisedOneByOne) {
+    m_host.AnswerStart("database cells -lcv -library top -count", "1");
+    m_host.AnswerStart("database cells -lcv -library top -filter", "{{my lib} {a b} {c d}}");
+    Show({"lib"});
+    Cells().GetReport().ClickedByUser(0, {});
+    m_host.ClearLines();
+    const HookGuard hook;
+    Preview().DisplayNewPreview();
+    ASSERT_EQ(PreviewLines().size(), 1u);
+    EXPECT_TRUE(PreviewLines()[0].starts_with(
+        "librarynavigator preview set -primary top -library {my lib} -cell {a b} -view {c d} -bmwidth "));
+}
+
+TEST_F(TSymbolPreviewTest, AResizeSendsOneLineWithTheNewSize) {
+    ShowFocusedCell();
+    Preview().MoveWindow({0, 0, 308, 332});
+    ASSERT_EQ(PreviewLines().size(), 1u);
+    EXPECT_TRUE(PreviewLines()[0].ends_with(" -bmwidth 300 -bmheight 300")) << PreviewLines()[0];
+    Preview().MoveWindow({10, 10, 318, 342});
+    EXPECT_EQ(PreviewLines().size(), 1u) << "the size is the same";
+}
+
+TEST_F(TSymbolPreviewTest, TheCaptionStandsBelowThePictureWithinTheMargins) {
+    Initialize();
+    Preview().MoveWindow({0, 0, 208, 232});
+    EXPECT_EQ(Preview().GetPicture().GetRect(), CRect(4, 4, 204, 204));
+    EXPECT_EQ(Preview().GetCaption().GetRect(), CRect(4, 208, 204, 228));
+}
+
+TEST_F(TSymbolPreviewTest, AWindowTooSmallForItsMarginsKeepsSaneSizes) {
+    ShowFocusedCell();
+    for (const CRect& rect :
+         {CRect(0, 0, 1, 1), CRect(0, 0, 3, 500), CRect(0, 0, 500, 3), CRect(0, 0, 0, 0)}) {
+        Preview().MoveWindow(rect);
+        EXPECT_GE(Preview().GetPicture().GetRect().Width(), 0);
+        EXPECT_GE(Preview().GetPicture().GetRect().Height(), 0);
+    }
+}
+
+TEST_F(TSymbolPreviewTest, TheHostAnswersFromInsideOfTheLine) {
+    ShowFocusedCell();
+    m_host.HandleStart("librarynavigator preview set", [this](Tcl_Interp*) {
+        m_browser.SetPreview(false, "inv", m_bitmap);
+        return TCL_OK;
+    });
+    Preview().DisplayNewPreview();
+    EXPECT_EQ(Preview().GetPicture().GetImage(), m_bitmap);
+    EXPECT_EQ(Preview().GetCaption().GetWindowText(), CString("inv"));
+}
+
+TEST_F(TSymbolPreviewTest, WithoutAnAnswerTheOldPictureStays) {
+    ShowFocusedCell();
+    m_browser.SetPreview(false, "old", m_bitmap);
+    m_host.AnswerCode("x", TCL_ERROR);
+    m_host.HandleStart("librarynavigator preview set", [](Tcl_Interp*) { return TCL_ERROR; });
+    Preview().DisplayNewPreview();
+    EXPECT_EQ(Preview().GetPicture().GetImage(), m_bitmap);
+    EXPECT_EQ(Preview().GetCaption().GetWindowText(), CString("old"));
+}
+
+TEST_F(TSymbolPreviewTest, ClearingTakesTheBitmapThatComesWithItAndNoCaption) {
+    Initialize();
+    m_browser.SetPreview(true, "caption", m_bitmap);
+    EXPECT_EQ(Preview().GetPicture().GetImage(), m_bitmap);
+    EXPECT_TRUE(Preview().GetCaption().GetWindowText().IsEmpty());
+}
+
+TEST_F(TSymbolPreviewTest, AHostThatRefreshesInEveryAnswerComesToAnEnd) {
+    ShowFocusedCell();
+    m_host.HandleStart("librarynavigator preview set", [this](Tcl_Interp*) {
+        Preview().DisplayNewPreview();
+        m_browser.RequestCellListViewDelayedPopulate(UpdateAlways);
+        m_browser.Populate();
+        return TCL_OK;
+    });
+    Preview().DisplayNewPreview();
+    EXPECT_EQ(PreviewLines().size(), 2u);
+}
+
+TEST_F(TSymbolPreviewTest, WithoutItsNeighboursItDoesNothing) {
+    TSymbolPreview preview;
+    preview.DisplayNewPreview();
+    ASSERT_TRUE(preview.Create(&m_frame, 1, {0, 0, 100, 100}));
+    preview.DisplayNewPreview();
+    EXPECT_EQ(preview.GetLibraryView(), nullptr);
+}
