@@ -10,7 +10,7 @@ namespace {
 
 // Where a key leads from the focused row; nothing for keys that move nowhere.
 bool FindTarget(TKey key, int focus, int rowCount, int pageRows, int& target) {
-    const int page = std::min(std::max(pageRows - 1, 1), rowCount);
+    const int page = std::min(std::max(pageRows, 2) - 1, rowCount);
     switch (key) {
         case TKey::Up:
             target = focus - 1;

@@ -1,0 +1,42 @@
+/// @file
+/// The tab strip.
+#include "vapp/toolkit/CTabCtrl.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/toolkit/RecordingParent.h"
+#include "tests/toolkit/RecordingPeers.h"
+
+TEST(CTabCtrl, FirstTabBecomesCurrentAndStaysSo) {
+    CTabCtrl tabs;
+    EXPECT_EQ(tabs.GetCurSel(), -1);
+    tabs.InsertItem(9, "b");
+    EXPECT_EQ(tabs.GetCurSel(), 0);
+    tabs.InsertItem(-1, "a");
+    EXPECT_EQ(tabs.GetItemText(0), "a");
+    EXPECT_EQ(tabs.GetCurSel(), 1) << "the tab, not the number, is current";
+    tabs.SetItemText(1, "B");
+    tabs.SetItemText(2, "nowhere");
+    EXPECT_EQ(tabs.GetItemText(1), "B");
+    EXPECT_EQ(tabs.GetItemText(2), "");
+}
+
+TEST(CTabCtrl, OnlyTheUsersPickIsToldToTheParent) {
+    RecordingPeers peers;
+    RecordingParent parent;
+    CTabCtrl tabs;
+    ASSERT_TRUE(tabs.Create(&parent, 7));
+    for (const char* text : {"a", "b", "c"})
+        tabs.InsertItem(3, text);
+    peers.ForgetAll();
+    tabs.SetCurSel(2);
+    EXPECT_EQ(peers.Of(tabs).changes, std::vector<UINT>{cnChangeSelection});
+    EXPECT_TRUE(parent.heard.empty());
+    tabs.PickedByUser(1);
+    tabs.PickedByUser(1);
+    tabs.PickedByUser(3);
+    EXPECT_EQ(tabs.GetCurSel(), 1);
+    EXPECT_EQ(parent.Count(cnTabSelectionChanged), 1);
+    tabs.SetCurSel(3);
+    EXPECT_EQ(tabs.GetCurSel(), -1);
+}
