@@ -27,7 +27,7 @@ enum class LinkState : unsigned char { Normal, Unresolved, Cycle };
 
 struct FileFacts {
     FileStamp stamp;
-    bool isLocked = false;  ///< The file cannot be written by this user.
+    std::optional<bool> isLocked;  ///< The file cannot be written by this user; none until asked.
     bool isHeadRead = false;
     std::string type;       ///< Property `type`.
     bool isHidden = false;  ///< Property `hidden`.

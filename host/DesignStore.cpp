@@ -274,11 +274,15 @@ std::shared_ptr<const Symbol> DesignStore::Load(const CellViewRef& view) {
 FileFacts& DesignStore::FactsOf(const Library& library, const ViewFile& file) const {
     if (file.facts == nullptr) {
         file.facts = std::make_unique<FileFacts>();
-        const fs::path path = FileOf(library, file);
-        file.facts->stamp = gStampOf(path);
-        file.facts->isLocked = gIsLocked(path, file.facts->stamp);
+        file.facts->stamp = gStampOf(FileOf(library, file));
     }
     return *file.facts;
+}
+
+bool DesignStore::IsLocked(const Library& library, const ViewFile& file) const {
+    FileFacts& facts = FactsOf(library, file);
+    if (!facts.isLocked) facts.isLocked = gIsLocked(FileOf(library, file), facts.stamp);
+    return *facts.isLocked;
 }
 
 /// The facts of the file that speaks for the whole cell.
@@ -314,7 +318,7 @@ const std::string* DesignStore::FindMark(const CellViewRef& view, CellKey key) c
 bool DesignStore::Flag(const CellViewRef& view, CellKey key) const {
     if (!view) return false;
     if (const std::string* mark = FindMark(view, key)) return IsTrueMark(*mark);
-    if (key == CellKey::IsLockedByUser) return FactsOf(*view.library, *view.file).isLocked;
+    if (key == CellKey::IsLockedByUser) return IsLocked(*view.library, *view.file);
     if (key == CellKey::IsModified || key == CellKey::IsReserved || key == CellKey::Cache) return false;
     const FileFacts& head = HeadOf(view);
     if (key == CellKey::IsHiddenInLists) return head.isHidden;

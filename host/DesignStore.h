@@ -123,6 +123,7 @@ private:
     };
 
     FileFacts& FactsOf(const Library& library, const ViewFile& file) const;
+    bool IsLocked(const Library& library, const ViewFile& file) const;
     const FileFacts& HeadOf(const CellViewRef& view) const;
     const std::string* FindMark(const CellViewRef& view, CellKey key) const;
     void SettleLinks(const CellViewRef& view);

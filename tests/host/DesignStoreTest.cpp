@@ -208,6 +208,16 @@ TEST(DesignStore, RescanFindsWhatHasChangedAndNothingElse) {
     EXPECT_FALSE(open.store.Rescan());
 }
 
+TEST(DesignStore, AFileMadeReadOnlyIsLockedAfterARescan) {
+    OpenStore open;
+    const auto path = open.folder.Write("d/l/a.sym", "");
+    open.Open();
+    EXPECT_FALSE(open.store.Flag(open.Find("l", "a", "symbol"), CellKey::IsLockedByUser));
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    EXPECT_TRUE(open.store.Rescan());
+    EXPECT_TRUE(open.store.Flag(open.Find("l", "a", "symbol"), CellKey::IsLockedByUser));
+}
+
 TEST(DesignStore, LibrariesAndDesignsThatVanishAreNoFailure) {
     OpenStore open;
     open.folder.Write("d/l/a.sch", SchematicOf("x"));
