@@ -206,7 +206,7 @@ private:
         if (stroke == nullptr) return;
         stroke->isClosed = true;
         stroke->kind = StrokeKind::Missing;
-        SymbolText name{instance.reference, 0, 0, 0, false, 0.25, 0.25, "hcenter=true vcenter=true"};
+        SymbolText name{instance.reference, 0, 24, 0, false, 0.25, 0.25, "hcenter=true"};
         PlaceText(name, QString::fromStdString(instance.reference), inside);
     }
 
