@@ -1,5 +1,5 @@
 /// @file
-/// Colours, the no-items text and the shared fonts.
+/// Colours and the no-items text.
 #include "vapp/toolkit/CXTPReportPaintManager.h"
 
 #include "vapp/toolkit/CXTPReportControl.h"
@@ -23,14 +23,4 @@ void CXTPReportPaintManager::SetNoItemsText(const CString& text) {
     if (m_noItemsText == text) return;
     m_noItemsText = text;
     m_control.PartChanged(cnChangeLook);
-}
-
-const CFont& XTPPaintManager::GetRegularFont() {
-    static constexpr CFont font;
-    return font;
-}
-
-const CFont& XTPPaintManager::GetRegularBoldFont() {
-    static constexpr CFont font{.bold = true, .italic = false};
-    return font;
 }

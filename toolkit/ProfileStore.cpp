@@ -1,29 +1,5 @@
 /// @file
-/// The store in memory. A key holds one value, a text or an integer: writing the one forgets the other, as it
-/// is in the stores that keep settings for good.
+/// The one destructor that gives ProfileStore's table of virtual functions its home.
 #include "vapp/toolkit/ProfileStore.h"
 
 ProfileStore::~ProfileStore() = default;
-
-std::optional<CString> MemoryProfileStore::ReadText(const CString& section, const CString& key) const {
-    const auto found = m_texts.find({section, key});
-    return found == m_texts.end() ? std::nullopt : std::optional<CString>(found->second);
-}
-
-void MemoryProfileStore::WriteText(const CString& section, const CString& key, const CString& value) {
-    ++m_writes;
-    m_integers.erase({section, key});
-    m_texts.insert_or_assign({section, key}, value);
-}
-
-std::optional<std::int32_t> MemoryProfileStore::ReadInteger(const CString& section,
-                                                            const CString& key) const {
-    const auto found = m_integers.find({section, key});
-    return found == m_integers.end() ? std::nullopt : std::optional<std::int32_t>(found->second);
-}
-
-void MemoryProfileStore::WriteInteger(const CString& section, const CString& key, std::int32_t value) {
-    ++m_writes;
-    m_texts.erase({section, key});
-    m_integers.insert_or_assign({section, key}, value);
-}

@@ -1,5 +1,5 @@
 /// @file
-/// Colours, the no-items text, the shared fonts.
+/// Colours and the no-items text.
 #include "vapp/toolkit/CXTPReportPaintManager.h"
 
 #include "tests/toolkit/TestReport.h"
@@ -34,10 +34,4 @@ TEST_F(CXTPReportPaintManagerTest, NoItemsTextIsToldOnce) {
     report.GetPaintManager().SetNoItemsText("No cells");
     EXPECT_EQ(report.GetPaintManager().GetNoItemsText(), "No cells");
     EXPECT_EQ(Told().changes, std::vector<UINT>{cnChangeLook});
-}
-
-TEST_F(CXTPReportPaintManagerTest, FontsAreSharedAndDifferInWeight) {
-    EXPECT_EQ(&XTPPaintManager::GetRegularFont(), &XTPPaintManager::GetRegularFont());
-    EXPECT_FALSE(XTPPaintManager::GetRegularFont().bold);
-    EXPECT_TRUE(XTPPaintManager::GetRegularBoldFont().bold);
 }

@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #if defined(_WIN32)
-struct HBITMAP__;
+struct HBITMAP__;  // NOLINT(bugprone-reserved-identifier): the name that the system gives it
 using HBITMAP = HBITMAP__*;
 using UINT = unsigned int;
 using DWORD = unsigned long;
@@ -17,7 +17,7 @@ using LPARAM = long long;
 using LRESULT = long long;
 #else
 /// Opaque picture; a toolkit adapter says what stands behind the pointer.
-struct HBITMAP__;
+struct HBITMAP__;  // NOLINT(bugprone-reserved-identifier): the name that the system gives it
 using HBITMAP = HBITMAP__*;
 using UINT = std::uint32_t;
 using DWORD = std::uint32_t;

@@ -7,6 +7,7 @@
 #include "vapp/Export.h"
 #include "vapp/text/CString.h"
 #include "vapp/toolkit/CObject.h"
+#include "vapp/toolkit/MemoryProfileStore.h"
 #include "vapp/toolkit/ProfileStore.h"
 
 class CWnd;

@@ -18,6 +18,7 @@
 #include "vapp/toolkit/InputTypes.h"
 #include "vapp/toolkit/RowCursor.h"
 #include "vapp/toolkit/TypeAhead.h"
+#include "vapp/toolkit/XTPPaintManager.h"
 
 /// All rows by number.
 class CXTPReportRows {

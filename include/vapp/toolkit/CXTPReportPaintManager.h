@@ -5,7 +5,6 @@
 #include "vapp/Export.h"
 #include "vapp/text/CString.h"
 #include "vapp/toolkit/BasicTypes.h"
-#include "vapp/toolkit/CFont.h"
 
 class CXTPReportControl;
 
@@ -53,11 +52,4 @@ private:
     CXTPReportControl& m_control;
     CXTPPaintManagerColor m_colors[cnColorCount];
     CString m_noItemsText;
-};
-
-/// Fonts that all reports share.
-class VAPP_EXPORT XTPPaintManager {
-public:
-    [[nodiscard]] static const CFont& GetRegularFont();
-    [[nodiscard]] static const CFont& GetRegularBoldFont();
 };

@@ -14,7 +14,7 @@ class CXTPReportColumn;
 class CXTPReportControl;
 
 /// One item of a record. In virtual mode it holds nothing: its place says which column it belongs to.
-class VAPP_EXPORT CXTPReportRecordItem {};
+class CXTPReportRecordItem {};
 
 /// What is being measured or painted.
 struct CXTPReportRecordItemDrawArgs {

@@ -1,6 +1,6 @@
 /// @file
 /// The store in memory.
-#include "vapp/toolkit/ProfileStore.h"
+#include "vapp/toolkit/MemoryProfileStore.h"
 
 #include <gtest/gtest.h>
 
