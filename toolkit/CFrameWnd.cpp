@@ -2,7 +2,9 @@
 /// A top-level window, which keeps its first child as large as itself.
 #include "vapp/toolkit/CFrameWnd.h"
 
-CFrameWnd::CFrameWnd() = default;
+CFrameWnd::CFrameWnd() {
+    ShowWindow(false);
+}
 
 CFrameWnd::~CFrameWnd() {
     DestroyWindow();

@@ -39,7 +39,7 @@ bool CWnd::Create(CWnd* parent, UINT id, const CRect& rect) {
 void CWnd::DestroyWindow() {
     if (!m_created || m_destroying) return;
     m_destroying = true;
-    OnDestroy();
+    OnDestroy();  // NOLINT(clang-analyzer-optin.cplusplus.VirtualCall): see the destructor in the header
     DestroyChildren();
     if (s_focused == this) s_focused = nullptr;
     // The widget's end may report to this window, which then has no peer to answer to.
@@ -49,6 +49,7 @@ void CWnd::DestroyWindow() {
     }
     if (m_parent != nullptr) m_parent->RemoveChild(this);
     m_parent = nullptr;
+    m_reserved = {};
     m_pendingChanges = 0;
     m_redraw = true;
     m_created = false;
@@ -97,8 +98,15 @@ void CWnd::SetAccessibleName(const CString& name) {
     TellPeer(cnChangeText);
 }
 
+CRect CWnd::GetClientRect() const {
+    const auto without = [](int whole, int reserved) {
+        return whole > 0 ? std::max(whole - reserved, 0) : whole;
+    };
+    return {0, 0, without(m_rect.Width(), m_reserved.cx), without(m_rect.Height(), m_reserved.cy)};
+}
+
 CRect CWnd::GetWindowRect() const {
-    return GetClientRect().Offset(ClientToScreen({}));
+    return CRect(0, 0, m_rect.Width(), m_rect.Height()).Offset(ClientToScreen({}));
 }
 
 CPoint CWnd::ScreenToClient(CPoint point) const {
@@ -127,7 +135,14 @@ void CWnd::Place(const CRect& rect, bool tellPeer) {
     const bool resized = m_rect.Size() != rect.Size();
     m_rect = rect;
     if (tellPeer) TellPeer(cnChangeRect);
-    if (resized && m_created) OnSize(0, m_rect.Width(), m_rect.Height());
+    if (resized && m_created) OnSize(0, GetClientRect().Width(), GetClientRect().Height());
+}
+
+void CWnd::ReservedByPeer(CSize bars) {
+    const CSize before = GetClientRect().Size();
+    m_reserved = {std::max(bars.cx, 0), std::max(bars.cy, 0)};
+    const CSize now = GetClientRect().Size();
+    if (now != before && m_created) OnSize(0, now.cx, now.cy);
 }
 
 void CWnd::ShowWindow(bool show) {

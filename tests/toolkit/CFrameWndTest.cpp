@@ -35,3 +35,11 @@ TEST(CFrameWnd, MinimisedFrameLeavesItsChildAlone) {
     frame.OnSize(cnSizeMinimized, 0, 0);
     EXPECT_EQ(child.GetRect(), CRect(0, 0, 100, 50));
 }
+
+TEST(CFrameWnd, StaysHiddenUntilItIsShown) {
+    CFrameWnd frame;
+    ASSERT_TRUE(frame.CreateFrame("title", {0, 0, 100, 50}));
+    EXPECT_FALSE(frame.IsWindowVisible());
+    frame.ShowWindow(true);
+    EXPECT_TRUE(frame.IsWindowVisible());
+}

@@ -345,3 +345,20 @@ TEST(CWnd, MainWindowThatEndsIsTheApplicationsNoMore) {
     window.DestroyWindow();
     EXPECT_EQ(gGetMainWnd(), nullptr);
 }
+
+TEST(CWnd, ClientAreaLeavesOutWhatThePeerReserves) {
+    Probe window;
+    window.Create(nullptr, 1, {10, 10, 110, 60});
+    window.calls.clear();
+    window.ReservedByPeer({15, 12});
+    EXPECT_EQ(window.GetClientRect(), CRect(0, 0, 85, 38));
+    EXPECT_EQ(window.GetWindowRect(), CRect(10, 10, 110, 60)) << "the window is as large as before";
+    window.ReservedByPeer({15, 12});
+    window.MovedByPeer({0, 0, 200, 100});
+    EXPECT_EQ(window.calls, (std::vector<std::string>{"size 0 85x38", "size 0 185x88"}));
+
+    window.ReservedByPeer({-5, 5000});
+    EXPECT_EQ(window.GetClientRect(), CRect(0, 0, 200, 0)) << "never below nothing";
+    window.MovedByPeer({0, 0, -3, -4});
+    EXPECT_EQ(window.GetClientRect(), CRect(0, 0, -3, -4)) << "a reversed rectangle stays as it is";
+}

@@ -10,7 +10,8 @@ public:
     CFrameWnd();
     ~CFrameWnd() override;
 
-    /// Makes the frame without a parent.
+    /// Makes the frame without a parent. It stays hidden until `ShowWindow`, so that nobody sees it half
+    /// filled.
     bool CreateFrame(const CString& title, const CRect& rect);
 
 protected:

@@ -53,8 +53,8 @@ public:
     void SetAccessibleName(const CString& name);
 
     [[nodiscard]] const CRect& GetRect() const { return m_rect; }
-    /// The client area: left and top are 0.
-    [[nodiscard]] CRect GetClientRect() const { return {0, 0, m_rect.Width(), m_rect.Height()}; }
+    /// The client area, without scroll bars: left and top are 0.
+    [[nodiscard]] CRect GetClientRect() const;
     /// The rectangle on the screen.
     [[nodiscard]] CRect GetWindowRect() const;
     [[nodiscard]] CPoint ScreenToClient(CPoint point) const;
@@ -63,6 +63,9 @@ public:
     void MoveWindow(const CRect& rect);
     /// `MoveWindow` as the peer calls it after the user or the desktop resized: the peer isn't told again.
     void MovedByPeer(const CRect& rect);
+    /// What the peer keeps of the rectangle at its right and its bottom, for scroll bars; nothing at first.
+    /// `OnSize` follows if the client area is another then.
+    void ReservedByPeer(CSize bars);
 
     [[nodiscard]] bool IsWindowVisible() const { return m_visible; }
     void ShowWindow(bool show);
@@ -124,6 +127,7 @@ private:
     CString m_text;
     CString m_accessibleName;
     CRect m_rect;
+    CSize m_reserved;
     UINT m_id = 0;
     UINT m_pendingChanges = 0;
     unsigned m_invalidateCount = 0;
