@@ -1,0 +1,199 @@
+#include "tests/celllist/CellListFixture.h"
+
+namespace {
+
+using namespace vapp_library_browser;
+using TLines = std::vector<std::string>;
+
+class ReportSetupTest : public CellListFixture {
+protected:
+    void SetUp() override { ShowCells({{"l1", "a", "v"}}); }
+
+    [[nodiscard]] CString Text(const char* section, const char* key) {
+        return m_app.GetProfileString(section, key, "missing");
+    }
+    [[nodiscard]] int Integer(const char* section, const char* key) {
+        return m_app.GetProfileInt(section, key, -1);
+    }
+    [[nodiscard]] unsigned Writes() {
+        return dynamic_cast<MemoryProfileStore&>(m_app.GetProfileStore()).GetWriteCount();
+    }
+    [[nodiscard]] TLines Captions() {
+        TLines captions;
+        for (int position = 0; position < Report().GetColumns().GetCount(); ++position)
+            captions.emplace_back(Report().GetColumns().GetAt(position)->GetCaption());
+        return captions;
+    }
+};
+
+TEST_F(ReportSetupTest, StartsWithDefaultsFromAnEmptyProfile) {
+    Report().AddColumn("State", "state", true, true);
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Report().GetActiveSetup(), "Setup1");
+    EXPECT_EQ(Cells().GetSetupTab(), 0);
+    const TReport::TOptions& options = Report().GetOptions();
+    EXPECT_FALSE(options.showHiddenCells);
+    EXPECT_TRUE(options.showVias);
+    EXPECT_TRUE(options.viewFilter.empty());
+    EXPECT_FALSE(options.filterCaseSensitive);
+    EXPECT_FALSE(options.filterAllColumns);
+    EXPECT_TRUE(options.filterCellName);
+    EXPECT_FALSE(options.filterViewName);
+    EXPECT_TRUE(options.colorFilteredList && options.colorReservedCells && options.colorHiddenCells &&
+                options.colorUnresolvedCells);
+    EXPECT_EQ(Column("Cell").GetWidth(), 140);
+    EXPECT_EQ(Column("Library").GetWidth(), 60);
+    EXPECT_TRUE(Column("View").IsVisible());
+    EXPECT_FALSE(Column("State").IsVisible());
+    EXPECT_EQ(Writes(), 0u);
+}
+
+TEST_F(ReportSetupTest, WritesOptionsAndColumns) {
+    Report().SerializeSetup(false);
+    SetOptions([](auto& options) {
+        options.showHiddenCells = true;
+        options.viewFilter = {"sym", "lay"};
+        options.colorReservedCells = false;
+    });
+    Column("View").SetVisible(false);
+    Column("Library").SetWidth(77);
+    Report().GetColumns().ChangeColumnOrder(0, &Column("Library"));
+    Report().SerializeSetup(true);
+    const char section[] = "LibraryNavigator";
+    EXPECT_EQ(Text(section, "ActiveSetup"), "Setup1");
+    EXPECT_EQ(Text(section, "ShowHiddenCells"), "true");
+    EXPECT_EQ(Text(section, "ShowVias"), "true");
+    EXPECT_EQ(Text(section, "ViewFilter"), "lay, sym");
+    EXPECT_EQ(Text(section, "Color\\ReservedCells"), "false");
+    EXPECT_EQ(Text("LibraryNavigator\\Setup1\\Columns\\View", "Visible"), "false");
+    EXPECT_EQ(Integer("LibraryNavigator\\Setup1\\Columns\\Library", "Width"), 77);
+    EXPECT_EQ(Integer("LibraryNavigator\\Setup1\\Columns\\Library", "Order"), 0);
+    EXPECT_EQ(Integer("LibraryNavigator\\Setup1\\Columns\\Cell", "Order"), 1);
+}
+
+TEST_F(ReportSetupTest, WritesTheFirstSetupIfNoneWasLoaded) {
+    Report().SerializeSetup(true);
+    EXPECT_EQ(Report().GetActiveSetup(), "Setup1");
+    EXPECT_EQ(Text("LibraryNavigator", "ActiveSetup"), "Setup1");
+}
+
+TEST_F(ReportSetupTest, LoadsTheStoredSetup) {
+    m_app.WriteProfileString("LibraryNavigator", "ActiveSetup", "Setup2");
+    m_app.WriteProfileInt("LibraryNavigator\\Setup2\\Columns\\Library", "Order", 5);
+    m_app.WriteProfileInt("LibraryNavigator\\Setup2\\Columns\\Cell", "Order", 7);
+    m_app.WriteProfileInt("LibraryNavigator\\Setup2\\Columns\\View", "Order", 9999);
+    m_app.WriteProfileInt("LibraryNavigator\\Setup2\\Columns\\View", "Width", -3);
+    Report().AddColumn("State", "state", true, true);
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Cells().GetSetupTab(), 1);
+    EXPECT_EQ(Captions(), (TLines{"Library", "Cell", "View", "State"}));
+    EXPECT_EQ(Report().GetFreezeColumnsCount(), 2);
+    EXPECT_TRUE(Column("State").IsVisible());
+    EXPECT_EQ(Column("View").GetWidth(), -3);
+}
+
+TEST_F(ReportSetupTest, PutsAColumnWithoutStoredOrderBehindTheOthers) {
+    Report().SerializeSetup(false);
+    Report().GetColumns().ChangeColumnOrder(0, &Column("Library"));
+    Report().SerializeSetup(true);
+    Report().AddColumn("Late", "late", true, false);
+    Report().GetColumns().ChangeColumnOrder(0, &Column("Late"));
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Captions(), (TLines{"Library", "Cell", "View", "Late"}));
+    EXPECT_FALSE(Column("Late").IsVisible());
+    EXPECT_EQ(Column("Late").GetWidth(), 50);
+}
+
+TEST_F(ReportSetupTest, ReplacesTheFirstOfTwoColumnsWithTheSameOrder) {
+    for (const char* caption : {"Cell", "View", "Library"}) {
+        m_app.WriteProfileInt((CString("LibraryNavigator\\Setup1\\Columns\\") + caption), "Order", 3);
+    }
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Captions().front(), "Library");
+}
+
+TEST_F(ReportSetupTest, ReadsTheSpellingsOfABoolean) {
+    struct Case {
+        const char* key;
+        const char* text;
+        bool value;
+    };
+    const Case cases[] = {{"ShowHiddenCells", "YES", true},   {"ShowHiddenCells", "Y", true},
+                          {"ShowHiddenCells", "yes ", false}, {"ShowVias", "N", false},
+                          {"ShowVias", "n", false},           {"ShowVias", "NO", false},
+                          {"ShowVias", "nay", true}};
+    for (const Case& row : cases) {
+        SCOPED_TRACE(row.text);
+        m_app.WriteProfileString("LibraryNavigator", row.key, row.text);
+        Report().SerializeSetup(false);
+        const TReport::TOptions& options = Report().GetOptions();
+        EXPECT_EQ(CString(row.key) == "ShowVias" ? options.showVias : options.showHiddenCells, row.value);
+    }
+}
+
+TEST_F(ReportSetupTest, KeepsTheBlankInFrontOfTheSecondViewOfTheFilter) {
+    Report().SerializeSetup(false);
+    SetOptions([](auto& options) { options.viewFilter = {"sym", "lay"}; });
+    Report().SerializeSetup(true);
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Report().GetOptions().viewFilter, (std::set<CStringIU>{"lay", " sym"}));
+}
+
+TEST_F(ReportSetupTest, SwitchingStoresTheOldOneAndLoadsTheNewOne) {
+    Report().SerializeSetup(false);
+    Column("View").SetWidth(99);
+    m_host.ClearLines();
+    Report().SwitchSetup(TReport::Setup3);
+    EXPECT_EQ(Report().GetActiveSetup(), "Setup3");
+    EXPECT_EQ(Column("View").GetWidth(), 50);
+    EXPECT_EQ(m_host.LinesStarting("database cells").size(), 2u);
+    Report().OnSwitchSetupTab(0);
+    EXPECT_EQ(Column("View").GetWidth(), 99);
+}
+
+TEST_F(ReportSetupTest, SwitchingToTheActiveOneDoesNothing) {
+    Report().SerializeSetup(false);
+    m_host.ClearLines();
+    Report().SwitchSetup(TReport::Setup1);
+    Report().OnSwitchSetupTab(0);
+    Report().OnSwitchSetupTab(3);
+    Report().OnSwitchSetupTab(-1);
+    EXPECT_EQ(Writes(), 0u);
+    EXPECT_EQ(m_host.Lines(), TLines());
+}
+
+TEST_F(ReportSetupTest, SwitchingToNoneLoadsTheStoredOne) {
+    Report().SerializeSetup(false);
+    Report().SwitchSetup(TReport::Setup2);
+    Cells().SwitchSetupTab(0);
+    Report().SwitchSetup(static_cast<TReport::TColSetup>(7));
+    EXPECT_EQ(Report().GetActiveSetup(), "Setup2");
+    EXPECT_EQ(Cells().GetSetupTab(), 1);
+}
+
+TEST_F(ReportSetupTest, FollowsATabThatTheUserPicks) {
+    Report().SerializeSetup(false);
+    dynamic_cast<CTabCtrl&>(*Cells().GetDlgItem(TCellListView::cnTabs)).PickedByUser(2);
+    EXPECT_EQ(Report().GetActiveSetup(), "Setup3");
+}
+
+TEST_F(ReportSetupTest, LosesTheLayoutOfARenamedColumn) {
+    Report().AddColumn("Old", "a", true, false);
+    Report().SerializeSetup(false);
+    Column("Old").SetWidth(123);
+    Report().SerializeSetup(true);
+    Report().AddColumn("New", "a", true, false);
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Column("New").GetWidth(), 50);
+    EXPECT_EQ(Column("Old").GetWidth(), 123);
+}
+
+TEST_F(ReportSetupTest, IsStoredWhenTheReportEnds) {
+    {
+        TCellListView pane;
+        pane.GetReport().Init();
+    }
+    EXPECT_EQ(Text("LibraryNavigator\\Setup1\\Columns\\Cell", "Visible"), "true");
+}
+
+}  // namespace
