@@ -8,7 +8,6 @@
 /// (docs/decisions/0010-reentry.md).
 #include <utility>
 
-#include "text/NaturalOrder.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/PendingHighlight.h"
 #include "vapp/browser/TLibraryView.h"
@@ -34,10 +33,6 @@ private:
 };
 
 }  // namespace
-
-bool TNaturalLess::operator()(const CStringU& left, const CStringU& right) const {
-    return vapp_text::CompareNatural(left, right, false) < 0;
-}
 
 void TLibraryView::RequestDelayedPopulate() {
     m_needsPopulate = true;

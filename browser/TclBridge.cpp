@@ -10,6 +10,8 @@
 
 #include <string_view>
 
+#include "browser/LineNesting.h"
+
 namespace vapp_library_browser {
 
 namespace {
@@ -57,7 +59,8 @@ bool EnsureTclBound(Tcl_Interp* interp) {
 
 int EvaluateTcl(Tcl_Interp* interp, const char* line, TTclObject* result) {
     if (result != nullptr) *result = TTclObject();
-    if (s_nestedLines >= cnMaxNestedLines || !EnsureTclBound(interp)) return TCL_ERROR;
+    if (s_nestedLines >= cnMaxNestedLines || MayNestTooDeep(line)) return TCL_ERROR;
+    if (!EnsureTclBound(interp)) return TCL_ERROR;
     const TNestingGuard nesting;
     const TSavedState saved(interp);
     // In the current call frame and not at global level: a line that is sent while a procedure of the host

@@ -307,7 +307,7 @@ TEST_F(TclBridge, ATripleIsSanitisedNameByName) {
 TEST_F(TclBridge, UsersCommandsAreLoggedAsOneWord) {
     const HookGuard hook;
     EXPECT_EQ(Bytes(WrapForActionLog("edit top lib")), "logaction {edit top lib}");
-    EXPECT_EQ(Bytes(WrapForActionLog(Utf8("edit caf\xC3\xA9"))), "logaction edit\\ caf\xC3\xA9");
+    EXPECT_EQ(Bytes(WrapForActionLog(Utf8("edit caf\xC3\xA9"))), "logaction {edit caf\xC3\xA9}");
 }
 
 TEST_F(TclBridge, TheNavigatorsOwnTrafficIsNotLogged) {

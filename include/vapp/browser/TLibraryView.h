@@ -21,6 +21,7 @@
 #include "vapp/browser/TLibCellView.h"
 #include "vapp/browser/TLibraryBrowserTclInterfaceStyle.h"
 #include "vapp/browser/TLibraryListCtrl.h"
+#include "vapp/browser/TNaturalLess.h"
 #include "vapp/text/CStringIU.h"
 #include "vapp/toolkit/CComboBox.h"
 #include "vapp/toolkit/CFormView.h"
@@ -33,11 +34,6 @@ namespace vapp_library_browser {
 class TCellListView;
 class TSymbolPreview;
 class TTclList;
-
-/// Natural order of names, digits by value, with case.
-struct VAPP_EXPORT TNaturalLess {
-    [[nodiscard]] bool operator()(const CStringU& left, const CStringU& right) const;
-};
 
 /// The library pane.
 class VAPP_EXPORT TLibraryView : public CFormView {
