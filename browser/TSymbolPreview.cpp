@@ -47,6 +47,16 @@ void TSymbolPreview::OnSize(UINT type, int cx, int cy) {
     }
 }
 
+// Wine copies the pixels of a moved pane from its old place, where a neighbour may have painted already: what
+// was in the way stays in the picture. Elsewhere it is one painting more.
+void TSymbolPreview::OnMove(int x, int y) {
+    CFormView::OnMove(x, y);
+    Invalidate(true);
+    m_picture.Invalidate(true);
+    m_caption.Invalidate(true);
+    UpdateWindow();
+}
+
 // The caption keeps its height and stands at the bottom; the picture takes what is left.
 void TSymbolPreview::Layout(int cx, int cy) {
     const CRect picture = m_picture.GetRect();

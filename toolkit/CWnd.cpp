@@ -132,9 +132,11 @@ void CWnd::MovedByPeer(const CRect& rect) {
 
 void CWnd::Place(const CRect& rect, bool tellPeer) {
     if (m_rect == rect) return;
+    const bool moved = m_rect.TopLeft() != rect.TopLeft();
     const bool resized = m_rect.Size() != rect.Size();
     m_rect = rect;
     if (tellPeer) TellPeer(cnChangeRect);
+    if (moved && m_created) OnMove(rect.left, rect.top);
     if (resized && m_created) OnSize(0, GetClientRect().Width(), GetClientRect().Height());
 }
 
@@ -233,6 +235,8 @@ void CWnd::OnCreate() {}
 void CWnd::OnDestroy() {}
 
 void CWnd::OnSize(UINT /*type*/, int /*cx*/, int /*cy*/) {}
+
+void CWnd::OnMove(int /*x*/, int /*y*/) {}
 
 void CWnd::OnSetFocus() {}
 

@@ -78,6 +78,18 @@ TEST_F(TSymbolPreviewTest, AResizeSendsOneLineWithTheNewSize) {
     EXPECT_EQ(PreviewLines().size(), 1u) << "the size is the same";
 }
 
+TEST_F(TSymbolPreviewTest, AMovedPaneIsRepaintedWhole) {
+    Initialize();
+    Preview().MoveWindow({0, 0, 208, 232});
+    const unsigned pane = Preview().GetInvalidateCount();
+    const unsigned picture = Preview().GetPicture().GetInvalidateCount();
+    const unsigned caption = Preview().GetCaption().GetInvalidateCount();
+    Preview().MoveWindow({0, 10, 208, 242});
+    EXPECT_EQ(Preview().GetInvalidateCount(), pane + 1);
+    EXPECT_EQ(Preview().GetPicture().GetInvalidateCount(), picture + 1);
+    EXPECT_EQ(Preview().GetCaption().GetInvalidateCount(), caption + 1);
+}
+
 TEST_F(TSymbolPreviewTest, TheCaptionStandsBelowThePictureWithinTheMargins) {
     Initialize();
     Preview().MoveWindow({0, 0, 208, 232});

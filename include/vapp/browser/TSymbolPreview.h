@@ -43,6 +43,8 @@ public:
 protected:
     void OnCreate() override;
     void OnSize(UINT type, int cx, int cy) override;
+    /// Repaints all of the pane at once.
+    void OnMove(int x, int y) override;
 
 private:
     void Layout(int cx, int cy);

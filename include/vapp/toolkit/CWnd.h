@@ -59,7 +59,8 @@ public:
     [[nodiscard]] CRect GetWindowRect() const;
     [[nodiscard]] CPoint ScreenToClient(CPoint point) const;
     [[nodiscard]] CPoint ClientToScreen(CPoint point) const;
-    /// Moves and sizes within the parent; `OnSize` follows if the size is another.
+    /// Moves and sizes within the parent; `OnMove` follows if the place is another, then `OnSize` if the size
+    /// is.
     void MoveWindow(const CRect& rect);
     /// `MoveWindow` as the peer calls it after the user or the desktop resized: the peer isn't told again.
     void MovedByPeer(const CRect& rect);
@@ -108,6 +109,8 @@ protected:
     virtual void OnDestroy();
     /// The client size has changed.
     virtual void OnSize(UINT type, int cx, int cy);
+    /// The window stands elsewhere in its parent.
+    virtual void OnMove(int x, int y);
     /// The keyboard came here.
     virtual void OnSetFocus();
     /// Makes the peer of this kind of window; the base makes none.
