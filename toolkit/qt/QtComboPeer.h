@@ -1,0 +1,56 @@
+/// @file
+/// A drop-down list.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QComboBox>
+
+#include "toolkit/qt/QtPeer.h"
+
+class CComboBox;
+
+namespace vapp_qt {
+
+/// The items, asked of the control when they are wanted. Only their number is kept, as Qt last heard of it.
+class QtComboModel : public QAbstractListModel {
+    Q_OBJECT
+public:
+    explicit QtComboModel(const CComboBox& combo) : m_combo(&combo) {}
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    /// The items are others now.
+    void Reset();
+    void Detach();
+
+private:
+    const CComboBox* m_combo;
+    int m_count = 0;
+};
+
+/// A combo box that tells when its list closes.
+class QtComboWidget : public QComboBox {
+    Q_OBJECT
+public:
+    using QComboBox::QComboBox;
+    void hidePopup() override;
+
+signals:
+    void Closed();
+};
+
+class QtComboPeer : public QtPeer {
+public:
+    explicit QtComboPeer(CComboBox& combo);
+    ~QtComboPeer() override;
+
+    void Changed(UINT changes) override;
+
+private:
+    void ApplyItems(bool reset);
+
+    CComboBox& m_combo;
+    QtComboModel m_model;
+};
+
+}  // namespace vapp_qt

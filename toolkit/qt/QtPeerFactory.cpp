@@ -1,0 +1,92 @@
+/// @file
+/// One peer for each kind of control.
+#include "vapp/toolkit/qt/QtPeerFactory.h"
+
+#include <QCursor>
+
+#include "toolkit/qt/QtButtonPeer.h"
+#include "toolkit/qt/QtComboPeer.h"
+#include "toolkit/qt/QtEditPeer.h"
+#include "toolkit/qt/QtFormPeer.h"
+#include "toolkit/qt/QtFramePeer.h"
+#include "toolkit/qt/QtListPeer.h"
+#include "toolkit/qt/QtReportPeer.h"
+#include "toolkit/qt/QtRowAccessible.h"
+#include "toolkit/qt/QtSplitterPeer.h"
+#include "toolkit/qt/QtStaticPeer.h"
+#include "toolkit/qt/QtTabPeer.h"
+#include "vapp/toolkit/CButton.h"
+#include "vapp/toolkit/CComboBox.h"
+#include "vapp/toolkit/CEdit.h"
+#include "vapp/toolkit/CFrameWnd.h"
+#include "vapp/toolkit/CListCtrl.h"
+#include "vapp/toolkit/CSplitterWnd.h"
+#include "vapp/toolkit/CStatic.h"
+#include "vapp/toolkit/CTabCtrl.h"
+#include "vapp/toolkit/CView.h"
+#include "vapp/toolkit/CXTPReportControl.h"
+
+using namespace vapp_qt;
+
+QtPeerFactory::QtPeerFactory() {
+    gInstallRowAccessibility();
+}
+
+QtPeerFactory::~QtPeerFactory() {
+    if (PeerFactory::Installed() == this) PeerFactory::Install(nullptr);
+}
+
+void QtPeerFactory::Install() {
+    static QtPeerFactory factory;
+    PeerFactory::Install(&factory);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateFrame(CFrameWnd& frame) {
+    return std::make_unique<QtFramePeer>(frame);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateSplitter(CSplitterWnd& splitter) {
+    return std::make_unique<QtSplitterPeer>(splitter);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateForm(CView& view) {
+    return std::make_unique<QtFormPeer>(view);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateStatic(CStatic& text) {
+    return std::make_unique<QtStaticPeer>(text);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateEdit(CEdit& edit) {
+    return std::make_unique<QtEditPeer>(edit);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateButton(CButton& button) {
+    return std::make_unique<QtButtonPeer>(button);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateTab(CTabCtrl& tab) {
+    return std::make_unique<QtTabPeer>(tab);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateCombo(CComboBox& combo) {
+    return std::make_unique<QtComboPeer>(combo);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateList(CListCtrl& list) {
+    return std::make_unique<QtListPeer>(list);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateReport(CXTPReportControl& report) {
+    return std::make_unique<QtReportPeer>(report);
+}
+
+CPoint QtPeerFactory::CursorPosition() const {
+    const QPoint position = QCursor::pos();
+    return {position.x(), position.y()};
+}
+
+QWidget* gWidgetOf(const CWnd& window) {
+    const auto* peer = dynamic_cast<const QtPeer*>(window.GetPeer());
+    return peer != nullptr ? peer->Widget() : nullptr;
+}

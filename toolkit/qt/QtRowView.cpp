@@ -1,0 +1,305 @@
+/// @file
+/// The common behaviour of the views of rows. The item view's own answers to mouse and keys are replaced
+/// throughout: they would change its selection model, and so begin a second truth.
+#include "toolkit/qt/QtRowView.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <chrono>
+
+#include "toolkit/qt/QtPeer.h"
+#include "toolkit/qt/QtText.h"
+
+namespace vapp_qt {
+
+namespace {
+
+constexpr int cnSidewaysStep = 20;
+
+struct KeyEntry {
+    int qt;
+    TKey key;
+};
+constexpr KeyEntry cnKeys[] = {
+    {Qt::Key_Up, TKey::Up},         {Qt::Key_Down, TKey::Down},     {Qt::Key_Left, TKey::Left},
+    {Qt::Key_Right, TKey::Right},   {Qt::Key_PageUp, TKey::PageUp}, {Qt::Key_PageDown, TKey::PageDown},
+    {Qt::Key_Home, TKey::Home},     {Qt::Key_End, TKey::End},       {Qt::Key_Space, TKey::Space},
+    {Qt::Key_Escape, TKey::Escape}, {Qt::Key_Return, TKey::Return}, {Qt::Key_Enter, TKey::Return},
+};
+
+TModifiers ModifiersOf(Qt::KeyboardModifiers modifiers) {
+    return {.shift = modifiers.testFlag(Qt::ShiftModifier),
+            .control = modifiers.testFlag(Qt::ControlModifier)};
+}
+
+// Text, and not the letter of a shortcut. Control and Alt together are how some keyboards reach a third
+// level.
+bool IsTyping(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers();
+    if (held.testFlag(Qt::MetaModifier)) return false;
+    if (held.testFlag(Qt::ControlModifier) != held.testFlag(Qt::AltModifier)) return false;
+    return !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+}  // namespace
+
+QtRowView::QtRowView(QtRowControl& control, QWidget* parent)
+    : QAbstractItemView(parent), m_control(&control) {
+    setFrameShape(QFrame::NoFrame);
+    setAutoScroll(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void QtRowView::Detach() {
+    m_control = nullptr;
+    viewport()->update();
+}
+
+// --- State of the control, on its way to Qt ------------------------------------------------------------
+
+void QtRowView::ApplyGeometry() {
+    viewport()->update();
+    if (m_control == nullptr || m_applyingBars) return;
+    m_applyingBars = true;
+    const CSize window = m_control->WindowSize();
+    const CSize bar = {verticalScrollBar()->sizeHint().width(), horizontalScrollBar()->sizeHint().height()};
+    bool down = false;
+    bool sideways = false;
+    // Each bar takes room from the other's direction; twice is enough, as a bar that was needed stays needed.
+    for (int round = 0; round < 2; ++round) {
+        const int height = window.cy - m_control->HeaderHeight() - (sideways ? bar.cy : 0);
+        down = m_control->RowCount() > std::max(height / m_control->RowHeight(), 1);
+        sideways = m_control->ContentWidth() > window.cx - (down ? bar.cx : 0);
+    }
+    sideways = sideways && m_control->ContentWidth() > 0;
+    m_control->Reserve({down ? bar.cx : 0, sideways ? bar.cy : 0});
+    setVerticalScrollBarPolicy(down ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(sideways ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    const int page = m_control->PageRows();
+    const int width = std::max(m_control->ClientSize().cx, 0);
+    ApplyBar(*verticalScrollBar(), m_control->RowCount() - page, page, 1, m_control->TopRow());
+    ApplyBar(*horizontalScrollBar(), sideways ? m_control->ContentWidth() - width : 0, width, cnSidewaysStep,
+             m_control->ScrollX());
+    m_applyingBars = false;
+}
+
+void QtRowView::ApplyBar(QScrollBar& bar, int last, int page, int step, int value) {
+    bar.setRange(0, std::max(last, 0));
+    bar.setPageStep(page);
+    bar.setSingleStep(step);
+    bar.setValue(value);
+}
+
+void QtRowView::ApplySelection() {
+    viewport()->update();
+    if (m_mirrorPending) return;
+    // Once for many changes in a row: a refresh restores a selection row by row.
+    m_mirrorPending = true;
+    QMetaObject::invokeMethod(this, &QtRowView::MirrorSelection, Qt::QueuedConnection);
+}
+
+void QtRowView::MirrorSelection() {
+    m_mirrorPending = false;
+    if (m_control == nullptr || model() == nullptr || selectionModel() == nullptr) return;
+    const int rows = model()->rowCount();
+    const int columns = model()->columnCount();
+    QItemSelection selection;
+    const std::vector<RowSelection::Range>& ranges = m_control->Selection().GetRanges();
+    const int lastShown = m_control->TopRow() + m_control->PageRows();
+    for (const RowSelection::Range& range : ranges) {
+        if (columns == 0 || range.first >= rows) break;
+        const bool shown = range.last >= m_control->TopRow() && range.first <= lastShown;
+        if (!shown && ranges.size() > cnMirroredRanges) continue;
+        selection.append(QItemSelectionRange(model()->index(range.first, 0),
+                                             model()->index(std::min(range.last, rows - 1), columns - 1)));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(model()->index(m_control->FocusedRow(), 0),
+                                      QItemSelectionModel::NoUpdate);
+}
+
+// --- Places --------------------------------------------------------------------------------------------
+
+int QtRowView::RowAt(const QPoint& point) const {
+    if (m_control == nullptr || !viewport()->rect().contains(point)) return -1;
+    const int below = point.y() / m_control->RowHeight();
+    return below < m_control->RowCount() - m_control->TopRow() ? m_control->TopRow() + below : -1;
+}
+
+QRect QtRowView::RowRect(int row) const {
+    if (m_control == nullptr) return {};
+    const qint64 top = (static_cast<qint64>(row) - m_control->TopRow()) * m_control->RowHeight();
+    constexpr qint64 farAway = 1 << 24;
+    return {0, static_cast<int>(std::clamp(top, -farAway, farAway)), viewport()->width(),
+            m_control->RowHeight()};
+}
+
+QRect QtRowView::visualRect(const QModelIndex& index) const {
+    if (!index.isValid()) return {};
+    return RowRect(index.row()) & ColumnRect(index.column()).adjusted(0, -(1 << 25), 0, 1 << 25);
+}
+
+QModelIndex QtRowView::indexAt(const QPoint& point) const {
+    const int row = RowAt(point);
+    const int column = ColumnAt(point.x());
+    return row >= 0 && column >= 0 && model() != nullptr ? model()->index(row, column) : QModelIndex();
+}
+
+void QtRowView::scrollTo(const QModelIndex& index, ScrollHint /*hint*/) {
+    if (m_control != nullptr && index.isValid()) m_control->EnsureVisible(index.row());
+}
+
+int QtRowView::horizontalOffset() const {
+    return m_control != nullptr ? m_control->ScrollX() : 0;
+}
+
+int QtRowView::verticalOffset() const {
+    return 0;
+}
+
+bool QtRowView::isIndexHidden(const QModelIndex& /*index*/) const {
+    return false;
+}
+
+QRegion QtRowView::visualRegionForSelection(const QItemSelection& /*selection*/) const {
+    return viewport()->rect();
+}
+
+// --- What the item view would do by itself -------------------------------------------------------------
+
+QModelIndex QtRowView::moveCursor(CursorAction /*action*/, Qt::KeyboardModifiers /*modifiers*/) {
+    return {};
+}
+
+void QtRowView::setSelection(const QRect& /*rect*/, QItemSelectionModel::SelectionFlags /*command*/) {}
+
+void QtRowView::selectAll() {
+    if (m_control != nullptr) m_control->Key(TKey::SelectAll, {});
+}
+
+void QtRowView::keyboardSearch(const QString& search) {
+    Type(search);
+}
+
+void QtRowView::currentChanged(const QModelIndex& current, const QModelIndex& /*previous*/) {
+    if (!QAccessible::isActive() || !current.isValid() || !hasFocus()) return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(current.row() * model()->columnCount() + current.column());
+    QAccessible::updateAccessibility(&event);
+}
+
+void QtRowView::selectionChanged(const QItemSelection& /*selected*/, const QItemSelection& /*deselected*/) {
+    if (!QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::SelectionWithin);
+    QAccessible::updateAccessibility(&event);
+}
+
+// --- Events --------------------------------------------------------------------------------------------
+
+bool QtRowView::viewportEvent(QEvent* event) {
+    switch (event->type()) {
+        // Nothing here changes under the pointer; the item view would paint rows anew, which asks the host.
+        case QEvent::HoverEnter:
+        case QEvent::HoverMove:
+        case QEvent::HoverLeave:
+            return QAbstractScrollArea::viewportEvent(event);
+        default:
+            return QAbstractItemView::viewportEvent(event);
+    }
+}
+
+void QtRowView::changeEvent(QEvent* event) {
+    QAbstractItemView::changeEvent(event);
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+    if (m_control == nullptr) return;
+    ApplyFont();
+    ApplyGeometry();
+}
+
+void QtRowView::resizeEvent(QResizeEvent* event) {
+    QAbstractItemView::resizeEvent(event);
+    ApplyGeometry();
+}
+
+void QtRowView::scrollContentsBy(int /*dx*/, int /*dy*/) {
+    if (m_control == nullptr || m_applyingBars) return;
+    const QtBusyScope busy;
+    m_control->Scroll(verticalScrollBar()->value(), horizontalScrollBar()->value());
+    // The bars show what the control made of it, also where it stayed as it was.
+    ApplyGeometry();
+}
+
+void QtRowView::mousePressEvent(QMouseEvent* event) {
+    if (m_control == nullptr) return;
+    const QtBusyScope busy;
+    const int row = RowAt(event->position().toPoint());
+    m_draggedTo = event->button() == Qt::LeftButton ? row : -1;
+    if (event->button() == Qt::LeftButton) m_control->Click(row, ModifiersOf(event->modifiers()));
+    if (event->button() == Qt::RightButton) m_control->ContextClick(row);
+}
+
+// Dragging over rows selects them, as shift and a click would; beyond an edge it scrolls row by row.
+void QtRowView::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (m_control == nullptr || m_draggedTo < 0 || !event->buttons().testFlag(Qt::LeftButton)) return;
+    const int row = DragTarget(event->position().toPoint().y());
+    if (row < 0 || row == m_draggedTo) return;
+    m_draggedTo = row;
+    const QtBusyScope busy;
+    m_control->Click(row, {.shift = true, .control = event->modifiers().testFlag(Qt::ControlModifier)});
+}
+
+int QtRowView::DragTarget(int y) const {
+    const int below = y < 0 ? -1 : std::min(y / m_control->RowHeight(), m_control->PageRows());
+    // Without rows there is none to drag to.
+    return std::min(std::max(m_control->TopRow() + below, 0), m_control->RowCount() - 1);
+}
+
+void QtRowView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    m_draggedTo = -1;
+}
+
+void QtRowView::mouseDoubleClickEvent(QMouseEvent* event) {
+    // To the rules of selection the second press is a press like any other.
+    mousePressEvent(event);
+}
+
+void QtRowView::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+    if (m_control == nullptr) return;
+    const QtBusyScope busy;
+    if (event->matches(QKeySequence::SelectAll)) {
+        event->accept();
+        m_control->Key(TKey::SelectAll, {});
+        return;
+    }
+    const auto* entry = std::find_if(std::begin(cnKeys), std::end(cnKeys),
+                                     [event](const KeyEntry& known) { return known.qt == event->key(); });
+    if (entry != std::end(cnKeys)) {
+        // These two are for dialogs around us as well.
+        if (entry->key != TKey::Escape && entry->key != TKey::Return) event->accept();
+        m_control->Key(entry->key, ModifiersOf(event->modifiers()));
+        if (m_control == nullptr) return;
+        if (entry->key == TKey::Left) horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
+        if (entry->key == TKey::Right) horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
+    } else if (IsTyping(*event)) {
+        event->accept();
+        Type(event->text());
+    }
+}
+
+void QtRowView::Type(const QString& text) {
+    if (m_control == nullptr) return;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    m_control->Type(gToText(text), std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+}
+
+}  // namespace vapp_qt

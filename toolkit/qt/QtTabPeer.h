@@ -1,0 +1,23 @@
+/// @file
+/// A strip of tabs below what they switch.
+#pragma once
+
+#include "toolkit/qt/QtPeer.h"
+
+class CTabCtrl;
+
+namespace vapp_qt {
+
+class QtTabPeer : public QtPeer {
+public:
+    explicit QtTabPeer(CTabCtrl& tabs);
+
+    void Changed(UINT changes) override;
+
+private:
+    void ApplyTabs();
+
+    CTabCtrl& m_tabs;
+};
+
+}  // namespace vapp_qt
