@@ -58,7 +58,7 @@ bool EndsWithPayload(std::string_view text, std::string_view suffix) noexcept {
 }  // namespace
 
 int CStringU::CompareNoCase(const CStringU& other) const {
-    return vapp_text::CompareNoCaseU(Payload(), other.Payload());
+    return vapp_text::CompareNoCaseU(*this, other);
 }
 
 int CStringU::CompareNoCase(const char* narrow) const {

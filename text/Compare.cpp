@@ -4,9 +4,12 @@
 /// with long common prefixes, and those are skipped by bytes before anything is decoded.
 #include "text/Compare.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 #include "text/Codec.h"
+#include "text/CommonBytes.h"
 #include "text/Fold.h"
 
 namespace vapp_text {
@@ -39,6 +42,38 @@ std::int32_t CompareWalk(const char* left, const RightUnit* right, std::size_t c
         if (a == 0 || b == 0) return 0;
     }
     return 0;
+}
+
+/// The small letter of each ASCII byte; 0 for NUL and for what is no ASCII.
+constexpr std::array<unsigned char, 256> cnSmallAscii = [] {
+    std::array<unsigned char, 256> small{};
+    for (char16_t c = 0; c < 0x80; ++c)
+        small[c] = static_cast<unsigned char>(FoldAsciiChar(c));
+    return small;
+}();
+
+/// The folded compare of two payloads that have their first `common` bytes in common.
+std::int32_t CompareNoCaseFrom(const char* left, const char* right, std::size_t common) noexcept {
+    const char* a = left + common;
+    const char* b = right + common;
+    while (*a == *b) {
+        if (*a == '\0') return 0;
+        ++a;
+        ++b;
+    }
+    // An ASCII byte is its own character boundary, so a pair of them needs no backing up: such pairs are
+    // folded as they stand until one decides or something else than ASCII turns up.
+    if (!IsAsciiByte(*a) || !IsAsciiByte(*b)) {
+        return CompareWalk<true>(CharBoundary(left, a), CharBoundary(right, b), cnUnlimited);
+    }
+    for (;; ++a, ++b) {
+        const unsigned char smallA = cnSmallAscii[static_cast<unsigned char>(*a)];
+        const unsigned char smallB = cnSmallAscii[static_cast<unsigned char>(*b)];
+        if (smallA == smallB && smallA != 0) continue;
+        if (!IsAsciiByte(*a) || !IsAsciiByte(*b)) break;
+        return Difference(smallA, smallB);
+    }
+    return CompareWalk<true>(a, b, cnUnlimited);
 }
 
 }  // namespace
@@ -74,27 +109,12 @@ const char* CharBoundary(const char* start, const char* at) noexcept {
 }
 
 std::int32_t CompareNoCaseU(const char* left, const char* right) noexcept {
-    const char* a = left;
-    const char* b = right;
-    while (*a == *b) {
-        if (*a == '\0') return 0;
-        ++a;
-        ++b;
-    }
-    // An ASCII byte is its own character boundary, so a pair of them needs no backing up: such pairs are
-    // folded as they stand until one decides or something else than ASCII turns up.
-    if (IsAsciiByte(*a) && IsAsciiByte(*b)) {
-        do {
-            const auto byteA = static_cast<unsigned char>(*a);
-            const auto byteB = static_cast<unsigned char>(*b);
-            const std::int32_t difference = Difference(FoldAsciiChar(byteA), FoldAsciiChar(byteB));
-            if (difference != 0 || byteA == 0) return difference;
-            ++a;
-            ++b;
-        } while (IsAsciiByte(*a) && IsAsciiByte(*b));
-        return CompareWalk<true>(a, b, cnUnlimited);
-    }
-    return CompareWalk<true>(CharBoundary(left, a), CharBoundary(right, b), cnUnlimited);
+    return CompareNoCaseFrom(left, right, 0);
+}
+
+std::int32_t CompareNoCaseU(std::string_view left, std::string_view right) noexcept {
+    const std::size_t common = CommonBytes(left.data(), right.data(), std::min(left.size(), right.size()));
+    return CompareNoCaseFrom(left.data(), right.data(), common);
 }
 
 }  // namespace vapp_text

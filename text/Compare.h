@@ -19,6 +19,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
+
+#include "text/PlatformText.h"
+#include "vapp/text/CStringU.h"
 
 namespace vapp_text {
 
@@ -33,6 +37,17 @@ namespace vapp_text {
 /// Compares by folded characters: the order of CStringIU, of sets of names and of keywords.
 [[nodiscard]] std::int32_t CompareNoCaseU(const char* left, const char* right) noexcept;
 [[nodiscard]] std::int32_t CompareNoCaseU(const char* left, const char16_t* right) noexcept;
+/// The same for payloads of known length, which are terminated by NUL all the same and hold none: quicker
+/// over a common prefix.
+[[nodiscard]] std::int32_t CompareNoCaseU(std::string_view left, std::string_view right) noexcept;
+/// The same for whole texts, and the quickest: of pure ASCII on both sides, which one byte each tells,
+/// nothing has to be decoded, and the C library compares many bytes at a time.
+[[nodiscard]] inline std::int32_t CompareNoCaseU(const CStringU& left, const CStringU& right) noexcept {
+    if (left.HasNonAscii() || right.HasNonAscii()) {
+        return CompareNoCaseU(left.PayloadView(), right.PayloadView());
+    }
+    return vapp_platform::CompareAsciiNoCase(left.Payload(), right.Payload());
+}
 
 /// Compares at most `count` characters by their folded forms; a count of 0 gives 0. Of a right side that is
 /// not terminated, no more than `count` units are read.

@@ -4,11 +4,26 @@
 /// number, or behind leading zeros that it should have seen; BackUpIntoNumber puts that right, once.
 #include "text/NaturalOrder.h"
 
+#include <algorithm>
+#include <array>
+
 #include "text/Codec.h"
+#include "text/CommonBytes.h"
 #include "text/Compare.h"
 
 namespace vapp_text {
 namespace {
+
+/// The character that each ASCII byte stands for in the order; 0 for digits, for NUL and for what is no
+/// ASCII.
+template <bool Fold>
+constexpr std::array<unsigned char, 256> cnLetters = [] {
+    std::array<unsigned char, 256> letters{};
+    for (char16_t c = 1; c < 0x80; ++c) {
+        if (c < u'0' || c > u'9') letters[c] = static_cast<unsigned char>(Fold ? FoldAsciiChar(c) : c);
+    }
+    return letters;
+}();
 
 /// One text with the place where the walk stands, and the character there.
 template <bool Fold>
@@ -19,10 +34,18 @@ public:
     [[nodiscard]] NaturalChar Current() const noexcept { return m_current; }
     [[nodiscard]] char16_t Char() const noexcept { return m_current.m_char; }
     [[nodiscard]] bool IsDigit() const noexcept { return m_current.m_digit; }
+    [[nodiscard]] const char* At() const noexcept { return m_at; }
     [[nodiscard]] bool AtStart() const noexcept { return m_at == m_text; }
     [[nodiscard]] std::int64_t Position() const noexcept { return m_at - m_text; }
 
     void MoveTo(std::int64_t position) noexcept { m_at = m_text + position; }
+    /// Ends a step that has passed everything before `at`, and reads.
+    void MoveBehind(const char* at) noexcept {
+        m_at = at;
+        while (IsContinuation(*m_at))
+            ++m_at;
+        Read();
+    }
     void Take(NaturalChar current) noexcept { m_current = current; }
 
     /// Reads the character at the position; the terminating NUL is 0 and no digit.
@@ -73,6 +96,11 @@ std::int64_t CommonPrefix(const char* a, const char* b) noexcept {
     return CharBoundary(a, at) - a;
 }
 
+std::int64_t CommonPrefix(std::string_view a, std::string_view b) noexcept {
+    const std::size_t common = CommonBytes(a.data(), b.data(), std::min(a.size(), b.size()));
+    return CharBoundary(a.data(), a.data() + common) - a.data();
+}
+
 /// Walks one side back over zeros; the other side follows, for what lies before is common to both.
 template <bool Fold>
 void WalkBackOverZeros(Side<Fold>& side, Side<Fold>& follower) noexcept {
@@ -102,12 +130,29 @@ void BackUpIntoNumber(Side<Fold>& a, Side<Fold>& b) noexcept {
     }
 }
 
-/// `longer` is the answer when the number of `a` has more digits: 1, or -1 for long numbers first.
+/// Outside of numbers: steps over equal ASCII characters that are no digits, the bulk of most names.
 template <bool Fold>
-std::int32_t Compare(const char* textA, const char* textB, std::int32_t longer) noexcept {
+void SkipEqualLetters(Side<Fold>& a, Side<Fold>& b) noexcept {
+    const char* atA = a.At();
+    const char* atB = b.At();
+    while (cnLetters<Fold>[static_cast<unsigned char>(*atA)] != 0 &&
+           cnLetters<Fold>[static_cast<unsigned char>(*atA)] ==
+               cnLetters<Fold>[static_cast<unsigned char>(*atB)]) {
+        ++atA;
+        ++atB;
+    }
+    if (atA == a.At()) return;
+    a.MoveBehind(atA);
+    b.MoveBehind(atB);
+}
+
+/// `common` is the offset of the first character that differs; `longer` is the answer when the number of `a`
+/// has more digits: 1, or -1 for long numbers first.
+template <bool Fold>
+std::int32_t Compare(const char* textA, const char* textB, std::int64_t common,
+                     std::int32_t longer) noexcept {
     Side<Fold> a(textA);
     Side<Fold> b(textB);
-    const std::int64_t common = CommonPrefix(textA, textB);
     a.MoveTo(common);
     b.MoveTo(common);
     a.Read();
@@ -118,6 +163,7 @@ std::int32_t Compare(const char* textA, const char* textB, std::int32_t longer) 
     std::int32_t numberOrder = 0;  // the first difference of digits in the present number
     std::int32_t zeroTie = 0;      // the first difference in counts of leading zeros
     for (;;) {
+        if (!inNumber) SkipEqualLetters(a, b);
         if (a.IsDigit() && b.IsDigit()) {
             if (!inNumber) {
                 const std::int32_t zerosA = a.SkipLeadingZeros();
@@ -147,11 +193,20 @@ std::int32_t Compare(const char* textA, const char* textB, std::int32_t longer) 
 }  // namespace
 
 std::int32_t CompareNatural(const char* a, const char* b, bool longNumbersFirst) noexcept {
-    return Compare<false>(a, b, longNumbersFirst ? -1 : 1);
+    return Compare<false>(a, b, CommonPrefix(a, b), longNumbersFirst ? -1 : 1);
+}
+
+std::int32_t CompareNatural(std::string_view a, std::string_view b, bool longNumbersFirst) noexcept {
+    return Compare<false>(a.data(), b.data(), CommonPrefix(a, b), longNumbersFirst ? -1 : 1);
 }
 
 std::int32_t CompareNaturalNoCase(const char* a, const char* b, bool /*longNumbersFirst*/) noexcept {
-    return Compare<true>(a, b, 1);
+    return Compare<true>(a, b, CommonPrefix(a, b), 1);
+}
+
+std::int32_t CompareNaturalNoCase(std::string_view a, std::string_view b,
+                                  bool /*longNumbersFirst*/) noexcept {
+    return Compare<true>(a.data(), b.data(), CommonPrefix(a, b), 1);
 }
 
 }  // namespace vapp_text

@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 #include "text/Fold.h"
 #include "vapp/text/CStringU.h"
@@ -69,13 +70,20 @@ template <bool Fold>
 [[nodiscard]] std::int32_t CompareNaturalNoCase(const char* a, const char* b,
                                                 bool longNumbersFirst = false) noexcept;
 
+/// The same for payloads of known length, which are terminated by NUL all the same and hold none: quicker
+/// over a common prefix.
+[[nodiscard]] std::int32_t CompareNatural(std::string_view a, std::string_view b,
+                                          bool longNumbersFirst) noexcept;
+[[nodiscard]] std::int32_t CompareNaturalNoCase(std::string_view a, std::string_view b,
+                                                bool longNumbersFirst = false) noexcept;
+
 [[nodiscard]] inline std::int32_t CompareNatural(const CStringU& a, const CStringU& b,
                                                  bool longNumbersFirst) noexcept {
-    return CompareNatural(a.Payload(), b.Payload(), longNumbersFirst);
+    return CompareNatural(a.PayloadView(), b.PayloadView(), longNumbersFirst);
 }
 [[nodiscard]] inline std::int32_t CompareNaturalNoCase(const CStringU& a, const CStringU& b,
                                                        bool longNumbersFirst) noexcept {
-    return CompareNaturalNoCase(a.Payload(), b.Payload(), longNumbersFirst);
+    return CompareNaturalNoCase(a.PayloadView(), b.PayloadView(), longNumbersFirst);
 }
 
 // The thin forms, for use as the compare function of a container or a sort.

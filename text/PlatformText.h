@@ -23,6 +23,10 @@ inline constexpr unsigned cnCodePageUtf8 = 65001;
 /// The upper-case form of one 16-bit character, by the same rules.
 [[nodiscard]] char16_t UpperCaseChar(char16_t unit) noexcept;
 
+/// Compares two texts of ASCII without regard to case, whatever the host's locale: the difference of the first
+/// small letters that differ, 0 for equal texts. Of bytes above 0x7F the answer means nothing.
+[[nodiscard]] int CompareAsciiNoCase(const char* a, const char* b) noexcept;
+
 /// The number of the code page that narrow text with high bytes is in: the one set by SetActiveCodePage,
 /// otherwise the system's. Where the system names its encodings by locale, UTF-8 counts as 65001.
 [[nodiscard]] unsigned ActiveCodePage() noexcept;

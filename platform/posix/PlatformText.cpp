@@ -8,6 +8,8 @@
 #include "text/PlatformText.h"
 
 #include <langinfo.h>
+#include <locale.h>
+#include <strings.h>
 #include <unicode/uchar.h>
 #include <unicode/ucnv.h>
 #include <unicode/ustring.h>
@@ -133,6 +135,17 @@ Text SizedThenFilled(const Convert& convert) {
     return U_SUCCESS(status) ? out : Text();
 }
 
+// The locale of CompareAsciiNoCase: not that of the host, in which a capital "I" need not be an "i". The C
+// library answers every request for it with the same object, which is never freed, so that threads may race
+// for it. A static local would be simpler, but its guard costs a fifth of the compare.
+constinit std::atomic<locale_t> gPlainLocale{nullptr};
+
+[[gnu::noinline]] int CompareInNewPlainLocale(const char* a, const char* b) noexcept {
+    const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    gPlainLocale.store(plain, std::memory_order_relaxed);
+    return strcasecmp_l(a, b, plain);
+}
+
 }  // namespace
 
 char16_t LowerCaseChar(char16_t unit) noexcept {
@@ -143,6 +156,11 @@ char16_t LowerCaseChar(char16_t unit) noexcept {
 char16_t UpperCaseChar(char16_t unit) noexcept {
     const UChar32 upper = u_toupper(unit);
     return upper <= 0xFFFF ? static_cast<char16_t>(upper) : unit;
+}
+
+int CompareAsciiNoCase(const char* a, const char* b) noexcept {
+    const locale_t plain = gPlainLocale.load(std::memory_order_relaxed);
+    return plain != nullptr ? strcasecmp_l(a, b, plain) : CompareInNewPlainLocale(a, b);
 }
 
 unsigned ActiveCodePage() noexcept {

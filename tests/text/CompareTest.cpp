@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <clocale>
 #include <limits>
 
 #include "tests/text/HostileText.h"
@@ -74,6 +75,8 @@ TEST(Compare, EveryFormGivesTheDifferenceOfTheFirstCharactersThatDiffer) {
         EXPECT_EQ(CompareNU(left.c_str(), wide.c_str(), 100), row.withCase);
         EXPECT_EQ(CompareNoCaseU(left.c_str(), right.c_str()), row.noCase);
         EXPECT_EQ(CompareNoCaseU(left.c_str(), wide.c_str()), row.noCase);
+        EXPECT_EQ(CompareNoCaseU(std::string_view(left), std::string_view(right)), row.noCase);
+        EXPECT_EQ(CompareNoCaseU(CStringU(row.left), CStringU(row.right)), row.noCase);
         EXPECT_EQ(CompareNNoCaseU(left.c_str(), right.c_str(), 100), row.noCase);
         EXPECT_EQ(CompareNNoCaseU(left.c_str(), wide.c_str(), 100), row.noCase);
     }
@@ -188,9 +191,23 @@ TEST(Compare, RandomNamesCompareAsTheirDecodedCharacters) {
         ASSERT_EQ(CompareNU(a.Get(), wide.Get(), count), ModelCompare(left, right, count, false));
         ASSERT_EQ(CompareNoCaseU(a.Get(), b.Get()), ModelCompare(left, right, cnNoLimit, true));
         ASSERT_EQ(CompareNoCaseU(a.Get(), wide.Get()), ModelCompare(left, right, cnNoLimit, true));
+        ASSERT_EQ(CompareNoCaseU(std::string_view(a.Get()), std::string_view(b.Get())),
+                  ModelCompare(left, right, cnNoLimit, true));
+        ASSERT_EQ(CompareNoCaseU(CStringU(left), CStringU(right)),
+                  ModelCompare(left, right, cnNoLimit, true));
         ASSERT_EQ(CompareNNoCaseU(a.Get(), b.Get(), count), ModelCompare(left, right, count, true));
         ASSERT_EQ(CompareNNoCaseU(a.Get(), wide.Get(), count), ModelCompare(left, right, count, true));
     }
+}
+
+TEST(Compare, AsciiComparesTheSameInEveryLocaleOfTheHost) {
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    for (const char* locale : {"C", "C.UTF-8", "tr_TR.UTF-8", "tr_TR.ISO-8859-9"}) {
+        if (std::setlocale(LC_ALL, locale) == nullptr) continue;  // not installed here
+        EXPECT_EQ(CompareNoCaseU(CStringU("INV_I"), CStringU("inv_i")), 0) << locale;
+        EXPECT_EQ(CompareNoCaseU(CStringU("_"), CStringU("A")), '_' - 'a') << locale;
+    }
+    std::setlocale(LC_ALL, before.c_str());
 }
 
 TEST(Compare, TheOrderOfPayloadBytesIsTheOrderOfCharacters) {
@@ -213,7 +230,8 @@ TEST(Compare, MalformedBytesAreComparedWithoutLeavingThem) {
         const ExactUnits wide(Decoded(b.Get()));
         const std::u16string leftUnits = Decoded(a.Get());
         SCOPED_TRACE(Shown(left) + " " + Shown(right));
-        (void)CompareNoCaseU(a.Get(), b.Get());
+        ASSERT_EQ(CompareNoCaseU(std::string_view(a.Get()), std::string_view(b.Get())),
+                  CompareNoCaseU(a.Get(), b.Get()));
         ASSERT_EQ(CompareNoCaseU(a.Get(), a.Get()), 0);
         ASSERT_EQ(CompareU(a.Get(), wide.Get()), ModelCompare(leftUnits, wide.Get(), cnNoLimit, false));
         ASSERT_EQ(CompareNNoCaseU(a.Get(), b.Get(), 9), ModelCompare(leftUnits, Decoded(b.Get()), 9, true));

@@ -233,6 +233,10 @@ TEST(NaturalOrder, MalformedBytesFollowTheStepsWithoutLeavingTheText) {
         ASSERT_EQ(CompareNatural(a.Get(), b.Get(), false), OrderBySteps(left, right, false, false));
         ASSERT_EQ(CompareNatural(a.Get(), b.Get(), true), OrderBySteps(left, right, false, true));
         ASSERT_EQ(CompareNaturalNoCase(a.Get(), b.Get()), OrderBySteps(left, right, true, false));
+        const std::string_view sizedA = a.Get();
+        const std::string_view sizedB = b.Get();
+        ASSERT_EQ(CompareNatural(sizedA, sizedB, true), OrderBySteps(left, right, false, true));
+        ASSERT_EQ(CompareNaturalNoCase(sizedA, sizedB), OrderBySteps(left, right, true, false));
     }
 }
 
