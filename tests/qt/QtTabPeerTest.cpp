@@ -1,0 +1,80 @@
+/// @file
+/// The strip of tabs, from both sides.
+#include "toolkit/qt/QtTabPeer.h"
+
+#include <QTabBar>
+#include <QTest>
+
+#include "tests/qt/QtTestFrame.h"
+#include "vapp/toolkit/CTabCtrl.h"
+
+namespace {
+
+void ClickTab(QTabBar& bar, int index) {
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(index).center());
+}
+
+class QtTabPeer : public testing::Test {
+protected:
+    void SetUp() override {
+        tabs.InsertItem(0, "All");
+        tabs.InsertItem(1, "A & B");
+        ASSERT_TRUE(tabs.Create(&shown.form, 9, {0, 0, 300, 24}));
+        tabs.InsertItem(2, "Metrics");
+        bar = gWidgetAs<QTabBar>(tabs);
+        ASSERT_NE(bar, nullptr);
+    }
+
+    ShownFrame shown;
+    CTabCtrl tabs;
+    QTabBar* bar = nullptr;
+};
+
+}  // namespace
+
+TEST_F(QtTabPeer, ShowsTheTabsOfTheControl) {
+    ASSERT_EQ(bar->count(), 3);
+    EXPECT_EQ(bar->tabText(0), "All");
+    EXPECT_EQ(bar->tabText(1), "A && B") << "an ampersand is shown, not taken for a key";
+    EXPECT_EQ(bar->currentIndex(), 0);
+    tabs.SetItemText(2, "Views");
+    tabs.SetCurSel(2);
+    EXPECT_EQ(bar->tabText(2), "Views");
+    EXPECT_EQ(bar->currentIndex(), 2);
+    EXPECT_TRUE(shown.form.heard.empty()) << "only what the user picks is told";
+}
+
+TEST_F(QtTabPeer, PickedTabIsToldOnce) {
+    ClickTab(*bar, 1);
+    EXPECT_EQ(tabs.GetCurSel(), 1);
+    EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
+    ClickTab(*bar, 1);
+    EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
+}
+
+TEST_F(QtTabPeer, TabInsertedInFrontLeavesTheCurrentOneCurrent) {
+    tabs.SetCurSel(1);
+    tabs.InsertItem(0, "First");
+    EXPECT_EQ(bar->currentIndex(), 2);
+    EXPECT_EQ(bar->tabText(2), "A && B");
+    EXPECT_TRUE(shown.form.heard.empty());
+}
+
+TEST_F(QtTabPeer, ParentMayTakeThePickBack) {
+    shown.form.answer = [this](const Notification&) { tabs.SetCurSel(0); };
+    ClickTab(*bar, 2);
+    EXPECT_EQ(tabs.GetCurSel(), 0);
+    EXPECT_EQ(bar->currentIndex(), 0);
+}
+
+TEST_F(QtTabPeer, PickMayEndTheStrip) {
+    const QPointer<QWidget> widget = bar;
+    shown.form.answer = [&](const Notification&) {
+        tabs.DestroyWindow();
+        EXPECT_FALSE(widget.isNull()) << "Qt is still in the middle of the widget's own event";
+    };
+    ClickTab(*bar, 2);
+    EXPECT_FALSE(tabs.IsWindow());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(widget.isNull());
+}
