@@ -79,6 +79,21 @@ CStringU::CStringU(char16_t unit) {
 CStringU::CStringU(wchar_t character) {
     *this += character;
 }
+CStringU::CStringU(const char16_t* text, TSwapped /*way*/) {
+    AssignWideSwapped(text);
+}
+CStringU::CStringU(const wchar_t* text, TSwapped /*way*/) {
+    AssignWideSwapped(text);
+}
+CStringU::CStringU(const char* text, TAnsi way, int length) {
+    AssignAnsi(text, way.codePage, length);
+}
+CStringU::CStringU(const char* text, TAnsiAuto way, int length) {
+    AssignAnsiAuto(text, way.codePage, length);
+}
+CStringU::CStringU(const CString& utf8, TMarked /*way*/) {
+    AssignMarked(utf8);
+}
 
 CStringU& CStringU::operator=(const char* text) {
     return Assign(text, TextEncoding::AnsiAuto);

@@ -9,9 +9,8 @@
 /// FoldChar where the name says NoCase.
 ///
 /// The surprises, all kept because callers have grown around them:
-/// - The forward searches that fold or count characters take the length of a UTF-8 needle in bytes, but use
-/// it
-///   as a limit of characters. An ASCII needle does not notice. A needle with a longer character runs past
+/// - The forward searches that fold or count characters use the length in bytes of a UTF-8 needle as a limit
+///   of characters. An ASCII needle does not notice. A needle with a longer character runs past
 ///   its own end in the compare, and so is found only where the haystack ends with it. The N forms, UTF-16
 ///   needles and all backward searches count characters and have no such limit.
 /// - The backward folded search for one of a set does not fold the set: hand it a lower-case one.

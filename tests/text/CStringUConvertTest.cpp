@@ -36,6 +36,8 @@ TEST(CStringUConvert, WideTextReturnsAtEveryLength) {
 
 TEST(CStringUConvert, BytesOfUnclassifiedTextAreWidenedAsTheyAre) {
     EXPECT_EQ(Raw("a\xE9").ToWide(), u"a\u00E9") << "the first byte says ASCII, so nothing is decoded";
+    EXPECT_EQ(Raw("a\xE9").ToAnsi(437), "a\xE9") << "nor converted";
+    EXPECT_EQ(Raw("a\xC3\xA9").GetCharCount(), 3) << "nor counted as characters";
 }
 
 TEST(CStringUConvert, CodePageTextReturns) {

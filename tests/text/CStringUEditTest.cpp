@@ -98,6 +98,7 @@ TEST(CStringUEdit, PieceOfAsciiTextIsTakenAsItStands) {
     EXPECT_EQ(text.Left(3), "abc");
     EXPECT_EQ(text.Left(99).Payload(), text.Payload()) << "the whole text is shared";
     EXPECT_EQ(text.Mid(text.Begin() + 2, 3), "cde");
+    EXPECT_EQ(Stored(Raw("a\xC3\xA9z").Left(3)), "a\xC3\xA9") << "the first byte says ASCII: not classified";
 }
 
 TEST(CStringUEdit, RangesOutsideOfTheTextAreClamped) {

@@ -55,16 +55,24 @@ TEST(CStringUFormat, FormatInPlaceMayUseItsOwnText) {
     EXPECT_EQ(text, "7-x");
 }
 
-CStringU ByArgumentList(const char* format, ...) {
+CStringU ByArgumentList(const CStringU* format, ...) {
     va_list arguments;
     va_start(arguments, format);
-    CStringU text = CStringU::FormattedV(format, arguments);
+    CStringU text = CStringU::FormattedV(*format, arguments);
     va_end(arguments);
     return text;
 }
 
 TEST(CStringUFormat, TakesAnArgumentList) {
-    EXPECT_EQ(ByArgumentList("%d %Iu", 1, std::size_t{2}), "1 2");
+    const CStringU format("%d %Iu");
+    EXPECT_EQ(ByArgumentList(&format, 1, std::size_t{2}), "1 2");
+}
+
+TEST(CStringUFormat, MarkOfTheFormatDoesNotReachTheResult) {
+    const CStringU format(u"%s\u00E9");
+    ASSERT_NE(format.Stored().GetString(), format.Payload()) << "the format is marked, its result is not";
+    EXPECT_EQ(Stored(CStringU::Formatted(format, "\u00E9")), "\xC3\xA9\xC3\xA9");
+    EXPECT_EQ(Stored(ByArgumentList(&format, "\u00E9")), "\xC3\xA9\xC3\xA9");
 }
 
 }  // namespace

@@ -112,6 +112,9 @@ TEST(CStringUSearch, StartsWithNoCaseFoldsBothSides) {
     EXPECT_FALSE(text.StartsWithNoCase(CStringU("etat")));
     EXPECT_FALSE(CStringU().StartsWithNoCase(CStringU("a")));
     EXPECT_TRUE(CStringU(u"abc\u00e9").StartsWithNoCase(CStringU("ABC"))) << "marked against unmarked";
+    EXPECT_TRUE(CStringU("abc").StartsWithNoCase(CStringU("aB\xC0\x80z", TextEncoding::Raw)))
+        << "an overlong NUL ends the prefix like the NUL that it stands for";
+    EXPECT_FALSE(CStringU("a\xC0\x80", TextEncoding::Raw).StartsWithNoCase(CStringU("ab")));
 }
 
 TEST(CStringUSearch, EndsWithKeepsCaseAndItsTwinFoldsIt) {

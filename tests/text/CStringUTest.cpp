@@ -228,6 +228,18 @@ TEST(CStringU, AssignMarkedTrustsThatTheTextIsUtf8) {
     EXPECT_EQ(Stored(text.AssignMarked(CString("\xC3\xA9\0x", 4))), "\xC3\xA9");
 }
 
+TEST(CStringU, EveryWayInIsAConstructorToo) {
+    EXPECT_EQ(CStringU(u"\u6100\uE900", CStringU::TSwapped()).ToWide(), u"a\u00E9");
+    EXPECT_EQ(CStringU(L"\u6100\uE900", CStringU::TSwapped()).ToWide(), u"a\u00E9");
+    EXPECT_EQ(CStringU("a\x80z", CStringU::TAnsi{437}, 2).ToWide(), u"a\u00C7");
+    EXPECT_EQ(CStringU("abc", CStringU::TAnsi{1200}, 2).ToWide(), u"\u6261") << "always converted";
+    EXPECT_EQ(CStringU("a\x80z", CStringU::TAnsiAuto{437}).ToWide(), u"a\u00C7z");
+    EXPECT_EQ(CStringU("abc", CStringU::TAnsiAuto{1200}, 2), "ab") << "ASCII is copied";
+    EXPECT_EQ(Stored(CStringU(CString("abc"), CStringU::TMarked())),
+              "\x80"
+              "abc");
+}
+
 TEST(CStringU, MarkerAloneIsEmptyEverywhere) {
     const CStringU text = Raw("\x80");
     EXPECT_TRUE(text.IsEmpty());

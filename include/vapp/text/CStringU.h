@@ -46,6 +46,16 @@ concept FormatArgument = std::is_arithmetic_v<Type> || std::is_enum_v<Type> || s
 
 class VAPP_EXPORT CStringU {
 public:
+    /// Name the way in at a constructor, where the type of the text alone doesn't tell it.
+    struct TSwapped {};
+    struct TMarked {};
+    struct TAnsi {
+        unsigned codePage;
+    };
+    struct TAnsiAuto {
+        unsigned codePage;
+    };
+
     // --- Construction and assignment -------------------------------------------------------------------
 
     /// Empty text.
@@ -64,6 +74,12 @@ public:
     /// One character; 0 gives empty text.
     explicit CStringU(char16_t unit);
     explicit CStringU(wchar_t character);
+    /// AssignWideSwapped, AssignAnsi, AssignAnsiAuto and AssignMarked as constructors.
+    CStringU(const char16_t* text, TSwapped way);
+    CStringU(const wchar_t* text, TSwapped way);
+    CStringU(const char* text, TAnsi way, int length = -1);
+    CStringU(const char* text, TAnsiAuto way, int length = -1);
+    CStringU(const CString& utf8, TMarked way);
 
     CStringU& operator=(const char* text);
     CStringU& operator=(const CString& text);
