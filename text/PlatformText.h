@@ -23,8 +23,8 @@ inline constexpr unsigned cnCodePageUtf8 = 65001;
 /// The upper-case form of one 16-bit character, by the same rules.
 [[nodiscard]] char16_t UpperCaseChar(char16_t unit) noexcept;
 
-/// Compares two texts of ASCII without regard to case, whatever the host's locale: the difference of the first
-/// small letters that differ, 0 for equal texts. Of bytes above 0x7F the answer means nothing.
+/// Compares two texts of ASCII without regard to case, whatever the host's locale: the difference of the
+/// first small letters that differ, 0 for equal texts. Of bytes above 0x7F the answer means nothing.
 [[nodiscard]] int CompareAsciiNoCase(const char* a, const char* b) noexcept;
 
 /// The number of the code page that narrow text with high bytes is in: the one set by SetActiveCodePage,
@@ -37,12 +37,12 @@ void SetActiveCodePage(unsigned codePage) noexcept;
 
 /// Bytes of a code page as UTF-16. Invalid bytes become the replacement character of the converter, U+FFFD in
 /// UTF-8, where a four-byte sequence becomes a surrogate pair. A code page that the system does not know
-/// gives empty text.
+/// gives empty text; 0 is the active one.
 [[nodiscard]] std::u16string CodePageToUtf16(unsigned codePage, std::string_view bytes);
 
 /// UTF-16 as bytes of a code page. What it can't express becomes its default character, "?" (U+FFFD in UTF-8,
 /// where only half a surrogate pair can't be expressed). A code page that the system does not know gives
-/// empty text.
+/// empty text; 0 is the active one.
 [[nodiscard]] std::string Utf16ToCodePage(unsigned codePage, std::u16string_view text);
 
 }  // namespace vapp_platform

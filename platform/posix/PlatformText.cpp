@@ -103,6 +103,11 @@ TConverter OpenByName(const std::string& name) {
     return U_SUCCESS(status) ? std::move(converter) : nullptr;
 }
 
+// 0 stands for the active code page wherever one is named.
+unsigned Named(unsigned codePage) {
+    return codePage != 0 ? codePage : ActiveCodePage();
+}
+
 // Null where the number says nothing to ICU.
 TConverter OpenCodePage(unsigned codePage) {
     for (const TCodePageName& known : cnNamedCodePages) {
@@ -175,6 +180,7 @@ void SetActiveCodePage(unsigned codePage) noexcept {
 
 std::u16string CodePageToUtf16(unsigned codePage, std::string_view bytes) {
     if (bytes.empty()) return {};
+    codePage = Named(codePage);
     if (codePage == cnCodePageUtf8) {
         return SizedThenFilled<std::u16string>([bytes](char16_t* out, int32_t room, UErrorCode& status) {
             int32_t size = 0;
@@ -192,6 +198,7 @@ std::u16string CodePageToUtf16(unsigned codePage, std::string_view bytes) {
 
 std::string Utf16ToCodePage(unsigned codePage, std::u16string_view text) {
     if (text.empty()) return {};
+    codePage = Named(codePage);
     if (codePage == cnCodePageUtf8) {
         return SizedThenFilled<std::string>([text](char* out, int32_t room, UErrorCode& status) {
             int32_t size = 0;

@@ -62,6 +62,7 @@ TEST(PlatformText, InvalidInputGivesReplacements) {
     EXPECT_EQ(Utf16ToCodePage(65001, std::u16string(1, char16_t{0xD83D})), "\xEF\xBF\xBD");
     EXPECT_EQ(Utf16ToCodePage(1252, u"a\u4E2Dz"), "a?z");
     EXPECT_EQ(Utf16ToCodePage(20127, u"\u00E9"), "?");
+    EXPECT_EQ(Utf16ToCodePage(1252, u"\uFF21"), "A") << "the nearest character comes before the default one";
     EXPECT_EQ(CodePageToUtf16(932, "\x83").size(), 1U) << "cut off in the middle";
 }
 
@@ -70,6 +71,15 @@ TEST(PlatformText, UnknownCodePagesAndEmptyTextsGiveEmptyText) {
     EXPECT_EQ(Utf16ToCodePage(99999, u"abc"), "");
     EXPECT_EQ(CodePageToUtf16(1252, ""), u"");
     EXPECT_EQ(Utf16ToCodePage(65001, u""), "");
+}
+
+TEST(PlatformText, CodePageZeroIsTheActiveOne) {
+    for (const unsigned active : {1251U, cnCodePageUtf8}) {
+        const TCodePageGuard guard(active);
+        const std::string bytes = Utf16ToCodePage(active, u"\u0414");
+        EXPECT_EQ(Utf16ToCodePage(0, u"\u0414"), bytes);
+        EXPECT_EQ(CodePageToUtf16(0, bytes), u"\u0414");
+    }
 }
 
 TEST(PlatformText, EveryByteAndUnitConvertsWithoutFailing) {
