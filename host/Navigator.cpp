@@ -3,10 +3,12 @@
 #include "host/Navigator.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "host/CellsQuery.h"
 #include "vapp/browser/Messages.h"
+#include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
 
@@ -82,6 +84,13 @@ std::optional<std::string> Navigator::SourceScript(const std::string& file) {
     return std::string(place != nullptr ? place : Tcl_GetStringResult(m_interp.get()));
 }
 
+void Navigator::Populate() {
+    m_browser->Populate();
+    // A list that goes to the selected master leaves the preview alone; this host wants to see the master.
+    auto* const preview = m_browser->GetSymbolPreview();
+    if (std::exchange(m_previewDue, false) && preview != nullptr) preview->DisplayNewPreview();
+}
+
 void Navigator::Rescan() {
     if (!m_store.Rescan()) return;
     OnDatabaseChange(DatabaseChange::Libraries);
@@ -101,15 +110,16 @@ void Navigator::OnDatabaseChange(DatabaseChange change) {
         case DatabaseChange::SelectedMaster:
             m_document.UpdateAllViews(nullptr, cnHintSelectedMaster);
             m_browser->RequestCellListViewDelayedPopulate(UpdateAlways);
+            m_previewDue = true;
             break;
     }
 }
 
 std::string Navigator::Dump() {
     if (m_store.Designs().empty()) return {};
-    m_browser->Populate();
+    Populate();
     m_browser->SetSelectedDesign(TextOf(m_store.Designs().front().name));
-    m_browser->Populate();
+    Populate();
     auto& report = m_browser->GetCellListView()->GetReport();
     std::vector<CStringU> captions;
     for (int position = 0; position < report.GetColumns().GetCount(); ++position)

@@ -39,7 +39,7 @@ public:
     void LoadSetup() { m_browser->SerializeSetup(false); }
 
     /// Refreshes what is dirty; to be called when idle.
-    void Populate() { m_browser->Populate(); }
+    void Populate();
     /// Reads the folders again and marks the panes if something has changed.
     void Rescan();
 
@@ -70,6 +70,7 @@ private:
     NavigatorFrame m_frame;
     std::unique_ptr<vapp_library_browser::TLibraryBrowser> m_browser;
     NavigatorCommand m_script;
+    bool m_previewDue = false;
 };
 
 }  // namespace navigator
