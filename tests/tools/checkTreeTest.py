@@ -126,6 +126,13 @@ class CheckTreeTest(unittest.TestCase):
             with self.subTest(words=words):
                 self.expect("explains nothing", {"text/Fold.h": f"#pragma once\n// {words}\n"})
 
+    def test_finds_a_shown_program_that_is_not_the_built_one(self):
+        program = {"examples/README.md": "Programs.\n", "examples/minimal.cpp": "int main() {}\n",
+                   "examples/CMakeLists.txt": "add_executable(minimal minimal.cpp)\n"}
+        self.expect_silence({**program, "README.md": "Text.\n```cpp\nint main() {}\n```\n"})
+        self.expect("is not examples/minimal.cpp", {**program, "README.md": "Text.\n```cpp\nint main();\n```\n"})
+        self.expect("is not examples/minimal.cpp", {**program, "README.md": "Text.\n"})
+
     def test_finds_a_file_name_that_points_outside_the_tree(self):
         self.expect("the name points outside", {"text/p" + "art1_2.txt": "x\n"})
 
