@@ -70,6 +70,14 @@ void CListCtrl::SetItemState(int index, UINT state, UINT mask) {
     NotifyChanges(before);
 }
 
+void CListCtrl::SelectItems(const RowSelection& rows) {
+    const RowCursor before = m_cursor;
+    for (const RowSelection::Range& range : rows.GetRanges()) {
+        m_cursor.GetSelection().Add(range.first, std::min(range.last, GetItemCount() - 1));
+    }
+    NotifyChanges(before);
+}
+
 int CListCtrl::GetNextItem(int start, UINT state) const {
     if (start >= GetItemCount()) return -1;
     for (int row = std::max(start, -1) + 1; row < GetItemCount(); ++row) {
@@ -209,6 +217,8 @@ CStringU CListCtrl::GetEmptyText() {
 ListItemLook CListCtrl::DrawItem(int index) {
     ListItemLook look;
     look.text = GetItemText(index);
+    look.highlighted = GetItemState(index, cnListSelected) != 0;
+    look.focusRect = GetItemState(index, cnListFocused) != 0 && GetFocus() == this;
     return look;
 }
 

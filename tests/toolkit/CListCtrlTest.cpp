@@ -86,6 +86,21 @@ TEST_F(CListCtrlTest, StatesOutOfRangeChangeNothing) {
     EXPECT_EQ(list.GetSelectedCount(), 0);
 }
 
+TEST_F(CListCtrlTest, SelectedItemsJoinTheOthersInOneChange) {
+    list.SetItemState(1, cnListSelected, cnListSelected);
+    parent.notes.clear();
+    RowSelection rows;
+    rows.Add(1, 2);
+    rows.Add(50, 60);
+    list.SelectItems(rows);
+    EXPECT_EQ(list.GetSelection().GetRanges(), (std::vector<RowSelection::Range>{{1, 2}}));
+    EXPECT_EQ(parent.notes.size(), 1u) << "the first was selected already";
+    list.SelectItems({});
+    list.DeleteAllItems();
+    list.SelectItems(rows);
+    EXPECT_EQ(list.GetSelectedCount(), 0);
+}
+
 TEST_F(CListCtrlTest, NextItemHasAllTheStates) {
     list.SetItemState(1, cnListSelected, cnListSelected);
     list.SetItemState(3, cnBoth, cnBoth);
@@ -217,4 +232,14 @@ TEST_F(CListCtrlTest, ColumnsStylesAndColoursAreTold) {
     EXPECT_EQ(peers.Of(list).Count(cnChangeLook), 3);
     EXPECT_EQ(list.DrawItem(0).text, "alpha");
     EXPECT_EQ(list.DrawItem(50).text, "");
+}
+
+TEST_F(CListCtrlTest, PlainRowsShowSelectionAndFocus) {
+    list.ClickedByUser(1, {});
+    EXPECT_TRUE(list.DrawItem(1).highlighted);
+    EXPECT_FALSE(list.DrawItem(0).highlighted);
+    EXPECT_FALSE(list.DrawItem(1).focusRect) << "the keyboard is elsewhere";
+    list.SetFocus();
+    EXPECT_TRUE(list.DrawItem(1).focusRect);
+    EXPECT_FALSE(list.DrawItem(0).focusRect);
 }

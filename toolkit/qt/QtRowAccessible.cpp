@@ -166,7 +166,7 @@ QAccessibleInterface* TableAccessible::focusChild() const {
 
 QAccessibleInterface* TableAccessible::cellAt(int row, int column) const {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) return nullptr;
-    const qint64 key = static_cast<qint64>(row) * columnCount() + column;
+    const qint64 key = (static_cast<qint64>(row) << 32U) + column;
     if (const auto known = m_cells.constFind(key); known != m_cells.constEnd()) {
         return QAccessible::accessibleInterface(known.value());
     }

@@ -49,6 +49,9 @@ public:
     /// Sets the masked bits; index -1 means all rows (which can lose the focus, but not all have it). The
     /// parent is told (cnListItemChanged) once per changed row.
     void SetItemState(int index, UINT state, UINT mask);
+    /// Selects these rows besides those that are selected already; rows that aren't there count for nothing.
+    /// The parent is told as by `SetItemState`, but all of it is one walk over the rows.
+    void SelectItems(const RowSelection& rows);
     /// First row behind `start` (-1 to begin) that has all the state bits; -1 if none.
     [[nodiscard]] int GetNextItem(int start, UINT state) const;
     [[nodiscard]] int GetSelectedCount() const;
@@ -95,7 +98,8 @@ public:
     [[nodiscard]] int GetFocusedItem() const { return m_cursor.GetFocus(); }
     /// Text of an empty list, asked of the parent (cnListEmptyMarkup); empty while there are rows.
     [[nodiscard]] CStringU GetEmptyText();
-    /// How the row is to be painted now. The base gives text and default colours.
+    /// How the row is to be painted now. The base gives text and default colours, and shows selection and
+    /// focus.
     [[nodiscard]] virtual ListItemLook DrawItem(int index);
 
 protected:

@@ -1,0 +1,193 @@
+/// @file
+/// Mouse, keys, wheel and bars of a view of rows, by a report; and the copy of the selection for onlookers.
+#include "toolkit/qt/QtRowView.h"
+
+#include <QScrollBar>
+#include <QTest>
+
+#include "tests/qt/QtTestReport.h"
+
+class QtRowViewTest : public ShownReport {
+protected:
+    QtRowViewTest() { Populate(100); }
+    void Click(int row, Qt::KeyboardModifiers modifiers = {}, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(View()->viewport(), button, modifiers, At(row));
+    }
+    [[nodiscard]] std::vector<RowSelection::Range> Selected() const {
+        return report.GetSelectedRows().GetSelection().GetRanges();
+    }
+    /// Ranges of the copy that Qt has.
+    [[nodiscard]] std::vector<RowSelection::Range> Mirrored() const {
+        QApplication::processEvents();
+        std::vector<RowSelection::Range> ranges;
+        for (const QItemSelectionRange& range : View()->selectionModel()->selection())
+            ranges.push_back({range.top(), range.bottom()});
+        std::sort(ranges.begin(), ranges.end(),
+                  [](const auto& one, const auto& other) { return one.first < other.first; });
+        return ranges;
+    }
+    [[nodiscard]] int Focus() const {
+        return report.GetFocusedRow() ? report.GetFocusedRow()->GetIndex() : -1;
+    }
+    using Ranges = std::vector<RowSelection::Range>;
+};
+
+TEST_F(QtRowViewTest, ClicksSelectByTheControlsRules) {
+    Click(2);
+    EXPECT_EQ(Selected(), (Ranges{{2, 2}}));
+    Click(5, Qt::ShiftModifier);
+    EXPECT_EQ(Selected(), (Ranges{{2, 5}}));
+    Click(3, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), (Ranges{{2, 2}, {4, 5}}));
+    EXPECT_EQ(Focus(), 3);
+    Click(4, {}, Qt::RightButton);
+    EXPECT_EQ(Selected(), (Ranges{{2, 2}, {4, 5}})) << "a right click inside keeps the selection";
+    Click(0, {}, Qt::RightButton);
+    EXPECT_EQ(Selected(), (Ranges{{0, 0}}));
+}
+
+TEST_F(QtRowViewTest, AClickBelowTheLastRowClears) {
+    Populate(2);
+    Click(1);
+    Click(4);
+    EXPECT_TRUE(Selected().empty());
+}
+
+TEST_F(QtRowViewTest, DraggingOverRowsSelectsThem) {
+    QWidget& rows = *View()->viewport();
+    gDrag(rows, At(1), At(4));
+    EXPECT_EQ(Selected(), (Ranges{{1, 4}}));
+    gSendMouse(rows, QEvent::MouseButtonPress, At(3));
+    for (int move = 0; move < 5; ++move)
+        gSendMouse(rows, QEvent::MouseMove, QPoint(20, rows.height() + 40));
+    gSendMouse(rows, QEvent::MouseButtonRelease, QPoint(20, rows.height() + 40));
+    EXPECT_GT(report.GetTopRowIndex(), 0) << "beyond the edge it scrolls";
+    EXPECT_EQ(Selected().front().first, 3);
+    EXPECT_EQ(Selected().front().last, Focus());
+    gSendMouse(rows, QEvent::MouseMove, At(report.GetTopRowIndex()));
+    EXPECT_EQ(Selected().front().last, Focus()) << "the drag is over";
+}
+
+TEST_F(QtRowViewTest, DraggingAboveTheFirstRowStopsThere) {
+    gDrag(*View()->viewport(), At(3), QPoint(20, -500));
+    EXPECT_EQ(Selected(), (Ranges{{0, 3}}));
+}
+
+TEST_F(QtRowViewTest, KeysMoveByTheControlsRules) {
+    const int page = report.GetCountPerPage();
+    QTest::keyClick(View(), Qt::Key_Down);
+    EXPECT_EQ(Focus(), 0);
+    QTest::keyClick(View(), Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(Selected(), (Ranges{{0, 1}}));
+    QTest::keyClick(View(), Qt::Key_PageDown);
+    EXPECT_EQ(Focus(), page);
+    QTest::keyClick(View(), Qt::Key_End);
+    EXPECT_EQ(Focus(), 99);
+    EXPECT_EQ(report.GetTopRowIndex(), 100 - page);
+    QTest::keyClick(View(), Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(Focus(), 0);
+    EXPECT_EQ(Selected(), (Ranges{{99, 99}})) << "control moves the focus alone";
+    QTest::keyClick(View(), Qt::Key_Space);
+    EXPECT_EQ(Selected(), (Ranges{{0, 0}}));
+}
+
+TEST_F(QtRowViewTest, AllOfAMillionRowsAreOneRange) {
+    Populate(1000000);
+    QTest::keyClick(View(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Selected(), (Ranges{{0, 999999}}));
+    EXPECT_EQ(Mirrored(), (Ranges{{0, 999999}}));
+    EXPECT_TRUE(report.asked.empty() || report.MostAsked() < 10) << "selecting asks nothing";
+}
+
+TEST_F(QtRowViewTest, LettersFindRows) {
+    QTest::keyClicks(View(), "cell0004");
+    EXPECT_EQ(Focus(), 40);
+    EXPECT_EQ(Selected(), (Ranges{{40, 40}}));
+}
+
+TEST_F(QtRowViewTest, ShortcutsAreNotTakenAway) {
+    QKeyEvent shortcut(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier, "\x03");
+    QApplication::sendEvent(View(), &shortcut);
+    EXPECT_FALSE(shortcut.isAccepted());
+    QKeyEvent alt(QEvent::KeyPress, Qt::Key_C, Qt::AltModifier, "c");
+    QApplication::sendEvent(View(), &alt);
+    EXPECT_FALSE(alt.isAccepted());
+    EXPECT_EQ(Focus(), -1);
+}
+
+TEST_F(QtRowViewTest, WheelAndBarsScrollTheControl) {
+    gWheel(*View()->viewport(), 1);
+    EXPECT_EQ(report.GetTopRowIndex(), QApplication::wheelScrollLines());
+    View()->verticalScrollBar()->setValue(50);
+    EXPECT_EQ(report.GetTopRowIndex(), 50);
+    report.AddNamedColumn("Wide", 300);
+    View()->horizontalScrollBar()->setValue(25);
+    EXPECT_EQ(View()->horizontalScrollBar()->value(), report.GetScrollX());
+    EXPECT_GT(report.GetScrollX(), 0);
+    report.SetTopRow(7);
+    EXPECT_EQ(View()->verticalScrollBar()->value(), 7) << "and the other way";
+}
+
+TEST_F(QtRowViewTest, SidewaysScrollingByPixelsOrByColumns) {
+    report.AddNamedColumn("Wide", 300);
+    report.SetFullColumnScrolling(false);
+    View()->horizontalScrollBar()->setValue(25);
+    EXPECT_EQ(report.GetScrollX(), 25);
+    report.SetScrollX(0);
+    report.SetFullColumnScrolling(true);
+    View()->horizontalScrollBar()->setValue(25);
+    EXPECT_EQ(report.GetScrollX(), 60) << "the next column's edge";
+    EXPECT_EQ(View()->horizontalScrollBar()->value(), 60);
+    QTest::keyClick(View(), Qt::Key_Left);
+    EXPECT_EQ(report.GetScrollX(), 0);
+}
+
+TEST_F(QtRowViewTest, OnlookersSeeSelectionAndFocus) {
+    Click(2);
+    Click(5, Qt::ShiftModifier);
+    Click(9 - 2, Qt::ControlModifier);
+    EXPECT_EQ(Mirrored(), Selected());
+    EXPECT_EQ(View()->currentIndex().row(), 7);
+    report.GetSelectedRows().Clear();
+    EXPECT_TRUE(Mirrored().empty());
+    Populate(4);
+    EXPECT_TRUE(Mirrored().empty());
+}
+
+TEST_F(QtRowViewTest, OfVeryManyRangesOnlyTheShownAreCopied) {
+    Populate(100000);
+    report.BeginUpdate();
+    for (int row = 0; row < 100000; row += 2)
+        report.GetSelectedRows().AddBlock(row, row);
+    report.EndUpdate();
+    const Ranges mirrored = Mirrored();
+    EXPECT_GE(mirrored.size(), 3U);
+    EXPECT_LT(mirrored.size(), 30U);
+}
+
+TEST_F(QtRowViewTest, ItemViewsOwnCommandsGoToTheControl) {
+    View()->selectAll();
+    EXPECT_EQ(Selected(), (Ranges{{0, 99}}));
+    View()->scrollTo(View()->model()->index(80, 0));
+    EXPECT_EQ(report.GetTopRowIndex(), 80 - report.GetCountPerPage() + 1);
+    View()->keyboardSearch("cell0002");
+    EXPECT_EQ(Focus(), 20);
+    EXPECT_EQ(View()->indexAt(At(20, 150)), View()->model()->index(20, 1));
+    EXPECT_EQ(View()->visualRect(View()->model()->index(20, 1)).height(), report.GetRowHeight());
+}
+
+TEST_F(QtRowViewTest, AClickThatEndsTheWindowIsNoHarm) {
+    QWidget* rows = View()->viewport();
+    shown.form.answer = [this](const Notification& told) {
+        if (told.code == cnReportSelectionChanged) report.DestroyWindow();
+    };
+    QTest::mouseClick(rows, Qt::LeftButton, {}, At(2));
+    EXPECT_FALSE(report.IsWindow());
+}
+
+TEST_F(QtRowViewTest, AKeyThatEndsTheWindowIsNoHarm) {
+    shown.form.answer = [this](const Notification&) { report.DestroyWindow(); };
+    QTest::keyClick(View(), Qt::Key_Right);
+    QTest::keyClick(View(), Qt::Key_Down);
+    EXPECT_FALSE(report.IsWindow());
+}
