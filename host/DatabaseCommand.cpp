@@ -53,16 +53,7 @@ bool IsUnresolved(const Library& library) {
 
 }  // namespace
 
-/// A row of the table: the help, and what answers. `minimum` and `maximum` count the words behind the
-/// sub-command, a maximum of -1 stands for any number.
-struct DatabaseCommand::SubCommand {
-    CommandHelp help;
-    int minimum;
-    int maximum;
-    Method method;
-};
-
-const DatabaseCommand::SubCommand DatabaseCommand::csSubCommands[] = {
+const SubCommandRow<DatabaseCommand> DatabaseCommand::csSubCommands[] = {
     {{"all_libs", "database all_libs",
       "List of designs; each is its name and then pairs of library name and folder."},
      0,
@@ -133,34 +124,12 @@ const DatabaseCommand::SubCommand DatabaseCommand::csSubCommands[] = {
 
 DatabaseCommand::DatabaseCommand(Tcl_Interp* interp, DesignStore& store)
     : m_store(store), m_command(interp, "database", [this](Tcl_Interp* caller, TclWords words) {
-          return Call(caller, words);
+          return gDispatch(*this, csSubCommands, caller, words);
       }) {}
 
 std::span<const CommandHelp> DatabaseCommand::Help() {
-    static const std::vector<CommandHelp> help = [] {
-        std::vector<CommandHelp> rows;
-        for (const SubCommand* row = csSubCommands; row->method != nullptr; ++row)
-            rows.push_back(row->help);
-        return rows;
-    }();
+    static const std::vector<CommandHelp> help = gHelpOf(csSubCommands);
     return help;
-}
-
-int DatabaseCommand::Call(Tcl_Interp* interp, TclWords words) {
-    if (words.size() < 2) {
-        Tcl_WrongNumArgs(interp, 1, words.data(), "subcommand ?arg ...?");
-        return TCL_ERROR;
-    }
-    int index = 0;
-    const int code = Tcl_GetIndexFromObjStruct(interp, words[1], csSubCommands, sizeof(SubCommand),
-                                               "subcommand", TCL_EXACT, &index);
-    if (code != TCL_OK) return code;
-    const SubCommand& command = csSubCommands[index];
-    const TclWords arguments = words.subspan(2);
-    const int count = static_cast<int>(arguments.size());
-    if (count < command.minimum || (command.maximum >= 0 && count > command.maximum))
-        return gTclFailure(interp, std::string("wrong # args: should be \"") + command.help.usage + "\"");
-    return (this->*command.method)(interp, arguments);
 }
 
 void DatabaseCommand::Notify(DatabaseChange change) const {

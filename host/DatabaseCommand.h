@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 
+#include "host/CommandTable.h"
 #include "host/DesignStore.h"
 #include "host/TclCommand.h"
 
@@ -35,11 +36,8 @@ public:
     static std::span<const CommandHelp> Help();
 
 private:
-    using Method = int (DatabaseCommand::*)(Tcl_Interp*, TclWords);
-    struct SubCommand;
-    static const SubCommand csSubCommands[];
+    static const SubCommandRow<DatabaseCommand> csSubCommands[];
 
-    int Call(Tcl_Interp* interp, TclWords words);
     int AllLibs(Tcl_Interp* interp, TclWords words);
     int Cells(Tcl_Interp* interp, TclWords words);
     int CellViewInfo(Tcl_Interp* interp, TclWords words);

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "host/CommandHelp.h"
 #include "host/Navigator.h"
 #include "host/Options.h"
 #include "host/QtShell.h"
@@ -93,7 +94,8 @@ int main(int argc, char** argv) {
     const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
     if (const auto failure = gParseOptions(words, options)) return Fail(*failure, cnUsageStatus);
     if (options.isHelp) {
-        std::cout << gUsageText();
+        std::cout << gUsageText() << "\nCommands for scripts:\n"
+                  << gDescribeAllCommands() << gDescribe(NavigatorCommand::Help());
         return EXIT_SUCCESS;
     }
     if (options.isVersion) {

@@ -31,16 +31,7 @@ int TakeColumnOptions(Tcl_Interp* interp, TclWords words, bool& sortForward, boo
 
 }  // namespace
 
-/// A row of the table: the help, and what answers. `minimum` and `maximum` count the words behind the
-/// sub-command.
-struct NavigatorCommand::SubCommand {
-    CommandHelp help;
-    int minimum;
-    int maximum;
-    Method method;
-};
-
-const NavigatorCommand::SubCommand NavigatorCommand::csSubCommands[] = {
+const SubCommandRow<NavigatorCommand> NavigatorCommand::csSubCommands[] = {
     {{"addcolumn", "navigator addcolumn CAPTION COMMAND ?-backward? ?-hideinthird?",
       "Adds a column to the cell list. Its text is the answer to COMMAND DESIGN LIBRARY CELL VIEW. -backward "
       "turns "
@@ -78,33 +69,12 @@ const NavigatorCommand::SubCommand NavigatorCommand::csSubCommands[] = {
 
 NavigatorCommand::NavigatorCommand(Tcl_Interp* interp, vapp_library_browser::TLibraryBrowser& browser)
     : m_browser(browser), m_command(interp, "navigator", [this](Tcl_Interp* caller, TclWords words) {
-          return Call(caller, words);
+          return gDispatch(*this, csSubCommands, caller, words);
       }) {}
 
 std::span<const CommandHelp> NavigatorCommand::Help() {
-    static const std::vector<CommandHelp> help = [] {
-        std::vector<CommandHelp> rows;
-        for (const SubCommand* row = csSubCommands; row->method != nullptr; ++row)
-            rows.push_back(row->help);
-        return rows;
-    }();
+    static const std::vector<CommandHelp> help = gHelpOf(csSubCommands);
     return help;
-}
-
-int NavigatorCommand::Call(Tcl_Interp* interp, TclWords words) {
-    if (words.size() < 2) {
-        Tcl_WrongNumArgs(interp, 1, words.data(), "subcommand ?arg ...?");
-        return TCL_ERROR;
-    }
-    int index = 0;
-    const int code = Tcl_GetIndexFromObjStruct(interp, words[1], csSubCommands, sizeof(SubCommand),
-                                               "subcommand", TCL_EXACT, &index);
-    if (code != TCL_OK) return code;
-    const SubCommand& row = csSubCommands[index];
-    const int given = static_cast<int>(words.size()) - 2;
-    if (given < row.minimum || given > row.maximum)
-        return gTclFailure(interp, std::string("wrong # args: should be \"") + row.help.usage + "\"");
-    return (this->*row.method)(interp, words.subspan(2));
 }
 
 int NavigatorCommand::AddColumn(Tcl_Interp* interp, TclWords words) {

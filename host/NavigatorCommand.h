@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "host/CommandTable.h"
 #include "host/TclCommand.h"
 
 namespace vapp_library_browser {
@@ -20,11 +21,8 @@ public:
     static std::span<const CommandHelp> Help();
 
 private:
-    using Method = int (NavigatorCommand::*)(Tcl_Interp*, TclWords);
-    struct SubCommand;
-    static const SubCommand csSubCommands[];
+    static const SubCommandRow<NavigatorCommand> csSubCommands[];
 
-    int Call(Tcl_Interp* interp, TclWords words);
     int AddColumn(Tcl_Interp* interp, TclWords words);
     int AddFilterType(Tcl_Interp* interp, TclWords words);
     int Refresh(Tcl_Interp* interp, TclWords words);

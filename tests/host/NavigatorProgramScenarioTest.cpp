@@ -79,7 +79,8 @@ TEST(NavigatorProgram, UnknownOptionGivesASentenceAndStatusTwo) {
 TEST(NavigatorProgram, TellsVersionAndHelp) {
     EXPECT_EQ("navigator 2019.2.0\n", Run({QStringLiteral("--version")}).output);
     EXPECT_THAT(Run({QStringLiteral("--help")}).output,
-                AllOf(HasSubstr("--dump"), HasSubstr("--screenshot"), HasSubstr("--script")));
+                AllOf(HasSubstr("--dump"), HasSubstr("--screenshot"), HasSubstr("--script"),
+                      HasSubstr("\ndatabase all_libs\n"), HasSubstr("\nnavigator sortby ")));
 }
 
 TEST(NavigatorProgram, SaysThatThereIsNoDisplay) {
