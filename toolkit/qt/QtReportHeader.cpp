@@ -43,40 +43,45 @@ int QtReportHeader::WantedHeight() const {
 
 void QtReportHeader::paintEvent(QPaintEvent* /*event*/) {
     if (m_report == nullptr) return;
+    ApplyColors();
     QPainter painter(this);
-    int right = 0;
-    for (const QtColumnPlace& place : gColumnPlaces(*m_report)) {
-        painter.setClipRect(place.shownLeft, 0, place.ShownWidth(), height());
-        PaintSection(painter, place);
-        right = std::max(right, place.Right());
-    }
-    painter.setClipping(false);
-    PaintEmptySection(painter, right);
+    const std::vector<QtColumnPlace> places = gColumnPlaces(*m_report);
+    // From right to left: styles give a section a clip of its own, so that only the frozen ones, painted
+    // last, cover what has moved under them.
+    for (auto place = places.rbegin(); place != places.rend(); ++place)
+        PaintSection(painter, *place);
+    PaintEmptySection(painter, places.empty() ? 0 : places.back().Right());
     if (m_drag == TDrag::Moving) PaintDropMark(painter);
 }
 
-QPalette QtReportHeader::SectionPalette() const {
-    QPalette colors = palette();
+// Made anew only when something in it is another: styles keep the pictures that they draw of a section by the
+// palette's identity, and with a new one for each painting would fill their whole cache with the same
+// picture.
+void QtReportHeader::ApplyColors() {
     const CXTPReportPaintManager& looks = m_report->GetPaintManager();
-    const QColor back = gToQColor(looks.GetColor(TReportColor::HeaderBack), colors.color(QPalette::Button));
-    const QColor text = gReadableOn(
-        back, gToQColor(looks.GetColor(TReportColor::HeaderText), colors.color(QPalette::ButtonText)));
-    if (!looks.IsDefaultColor(TReportColor::HeaderBack)) {
+    const COLORREF back = looks.GetColor(TReportColor::HeaderBack);
+    const COLORREF text = looks.GetColor(TReportColor::HeaderText);
+    if (m_colorsOf.palette == palette().cacheKey() && m_colorsOf.back == back && m_colorsOf.text == text)
+        return;
+    m_colorsOf = {palette().cacheKey(), back, text};
+    m_colors = palette();
+    const QColor surface = gToQColor(back, m_colors.color(QPalette::Button));
+    const QColor ink = gReadableOn(surface, gToQColor(text, m_colors.color(QPalette::ButtonText)));
+    if (back != cnNoColor) {
         // Lines between the sections and the light edge of a button have to follow the background.
-        colors.setColor(QPalette::Window, back);
-        colors.setColor(QPalette::Button, back);
-        colors.setColor(QPalette::Light, gMixed(text, back, 12));
-        colors.setColor(QPalette::Dark, gMixed(text, back, 25));
+        m_colors.setColor(QPalette::Window, surface);
+        m_colors.setColor(QPalette::Button, surface);
+        m_colors.setColor(QPalette::Light, gMixed(ink, surface, 12));
+        m_colors.setColor(QPalette::Dark, gMixed(ink, surface, 25));
     }
     for (const QPalette::ColorRole role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
-        colors.setColor(role, text);
-    return colors;
+        m_colors.setColor(role, ink);
 }
 
 void QtReportHeader::PaintSection(QPainter& painter, const QtColumnPlace& place) const {
     QStyleOptionHeader option;
     option.initFrom(this);
-    option.palette = SectionPalette();
+    option.palette = m_colors;
     option.rect = QRect(place.left, 0, place.width, height());
     option.orientation = Qt::Horizontal;
     option.section = place.visibleIndex;
@@ -103,7 +108,7 @@ void QtReportHeader::PaintEmptySection(QPainter& painter, int left) const {
     if (left >= width()) return;
     QStyleOptionHeader option;
     option.initFrom(this);
-    option.palette = SectionPalette();
+    option.palette = m_colors;
     option.rect = QRect(left, 0, width() - left, height());
     option.orientation = Qt::Horizontal;
     option.position = QStyleOptionHeader::End;

@@ -4,10 +4,12 @@
 /// control; only the drag that is under way is kept.
 #pragma once
 
+#include <QPalette>
 #include <QWidget>
 #include <vector>
 
 #include "toolkit/qt/QtColumnPlaces.h"
+#include "vapp/toolkit/BasicTypes.h"
 
 class CXTPReportControl;
 
@@ -36,11 +38,17 @@ protected:
 
 private:
     enum class TDrag { None, Pressed, Resizing, Moving };
+    /// What the colours of the sections were made of.
+    struct ColorSources {
+        qint64 palette = 0;
+        COLORREF back = cnNoColor;
+        COLORREF text = cnNoColor;
+    };
 
     void PaintSection(QPainter& painter, const QtColumnPlace& place) const;
     void PaintEmptySection(QPainter& painter, int left) const;
     void PaintDropMark(QPainter& painter) const;
-    [[nodiscard]] QPalette SectionPalette() const;
+    void ApplyColors();
     /// The column whose right edge can be caught at `x`, or null.
     [[nodiscard]] CXTPReportColumn* EdgeAt(int x) const;
     [[nodiscard]] CXTPReportColumn* ColumnAt(int x) const;
@@ -49,6 +57,8 @@ private:
     void EndDrag();
 
     CXTPReportControl* m_report;
+    QPalette m_colors;
+    ColorSources m_colorsOf;
     CXTPReportColumn* m_column = nullptr;
     TDrag m_drag = TDrag::None;
     int m_pressedAt = 0;
