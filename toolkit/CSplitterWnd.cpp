@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "vapp/toolkit/CDocument.h"
+
 CSplitterWnd::CSplitterWnd() = default;
 
 CSplitterWnd::~CSplitterWnd() {
@@ -109,10 +111,25 @@ void CSplitterWnd::OnDestroy() {
 
 void CSplitterWnd::ReleasePanes() {
     // The panes' destructors find a splitter without rows rather than one with half of its panes.
-    const std::vector<std::unique_ptr<CView>> panes = std::exchange(m_panes, {});
+    std::vector<std::unique_ptr<CView>> panes = std::exchange(m_panes, {});
     m_heights.clear();
     m_rows = 0;
     m_columns = 0;
+    if (MayFreePanes()) return;
+    for (std::unique_ptr<CView>& pane : panes) {
+        if (!pane) continue;
+        // It shows nothing any more, so the document need not tell it of changes.
+        if (CDocument* document = pane->GetDocument()) document->RemoveView(pane.get());
+        m_endedPanes.push_back(std::move(pane));
+    }
+}
+
+bool CSplitterWnd::MayFreePanes() const {
+    return true;
+}
+
+void CSplitterWnd::FreeEndedPanes() {
+    const std::vector<std::unique_ptr<CView>> panes = std::exchange(m_endedPanes, {});
 }
 
 std::unique_ptr<Peer> CSplitterWnd::CreatePeer(PeerFactory& factory) {

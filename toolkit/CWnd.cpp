@@ -14,12 +14,19 @@ namespace {
 
 CWnd* s_focused = nullptr;
 
+void ForgetMainWnd(const CWnd* window) {
+    CWinAppEx* app = CWinAppEx::GetApp();
+    if (app != nullptr && app->GetMainWnd() == window) app->SetMainWnd(nullptr);
+}
+
 }  // namespace
 
 CWnd::CWnd() = default;
 
 CWnd::~CWnd() {
     DestroyWindow();
+    // Also for a window that was never made: an application may name its main window before that.
+    ForgetMainWnd(this);
 }
 
 bool CWnd::Create(CWnd* parent, UINT id, const CRect& rect) {
@@ -44,9 +51,7 @@ void CWnd::DestroyWindow() {
     if (s_focused == this) s_focused = nullptr;
     // The widget's end may report to this window, which then has no peer to answer to.
     std::exchange(m_peer, nullptr).reset();
-    if (CWinAppEx* app = CWinAppEx::GetApp(); app != nullptr && app->GetMainWnd() == this) {
-        app->SetMainWnd(nullptr);
-    }
+    ForgetMainWnd(this);
     if (m_parent != nullptr) m_parent->RemoveChild(this);
     m_parent = nullptr;
     m_reserved = {};

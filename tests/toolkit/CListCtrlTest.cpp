@@ -88,13 +88,13 @@ TEST_F(CListCtrlTest, StatesOutOfRangeChangeNothing) {
 
 TEST_F(CListCtrlTest, SelectedItemsJoinTheOthersInOneChange) {
     list.SetItemState(1, cnListSelected, cnListSelected);
-    parent.notes.clear();
+    parent.Forget();
     RowSelection rows;
     rows.Add(1, 2);
     rows.Add(50, 60);
     list.SelectItems(rows);
     EXPECT_EQ(list.GetSelection().GetRanges(), (std::vector<RowSelection::Range>{{1, 2}}));
-    EXPECT_EQ(parent.notes.size(), 1u) << "the first was selected already";
+    EXPECT_EQ(parent.items.size(), 1u) << "the first was selected already";
     list.SelectItems({});
     list.DeleteAllItems();
     list.SelectItems(rows);

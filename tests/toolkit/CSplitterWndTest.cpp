@@ -7,6 +7,7 @@
 #include <string>
 
 #include "tests/toolkit/RecordingPeers.h"
+#include "vapp/toolkit/CDocument.h"
 #include "vapp/toolkit/CFrameWnd.h"
 
 namespace {
@@ -146,4 +147,45 @@ TEST_F(CSplitterWndTest, PanesGoWithTheWindowWhichCanBeMadeAgain) {
     EXPECT_EQ(splitter.GetPane(0, 0), nullptr);
     ASSERT_TRUE(frame.CreateFrame("again", {0, 0, 10, 10}));
     EXPECT_TRUE(splitter.CreateStatic(&frame, 1, 1, 5));
+}
+
+namespace {
+
+// A splitter whose panes may be at work when the window ends.
+class KeepingSplitter : public CSplitterWnd {
+public:
+    ~KeepingSplitter() override { DestroyWindow(); }
+    using CSplitterWnd::FreeEndedPanes;
+    bool mayFree = false;
+
+protected:
+    [[nodiscard]] bool MayFreePanes() const override { return mayFree; }
+};
+
+}  // namespace
+
+TEST_F(CSplitterWndTest, PanesThatMayBeAtWorkOutliveTheWindow) {
+    const std::vector<std::string> ends(2, "destroy");
+    CDocument document;
+    {
+        KeepingSplitter keeping;
+        ASSERT_TRUE(keeping.CreateStatic(&frame, 3, 1, 5));
+        for (const int row : {0, 2})
+            ASSERT_TRUE(keeping.CreateView(row, 0, PaneClass(), {0, 10}));
+        CView* pane = keeping.GetPane(0, 0);
+        document.AddView(pane);
+        s_log.clear();
+        keeping.DestroyWindow();
+        EXPECT_EQ(s_log, ends);
+        EXPECT_FALSE(pane->IsWindow());
+        EXPECT_EQ(keeping.GetRowCount(), 0);
+        EXPECT_TRUE(document.GetViews().empty()) << "nobody tells it of changes any more";
+        keeping.FreeEndedPanes();
+        EXPECT_EQ(s_log.size(), 4u);
+        ASSERT_TRUE(keeping.CreateStatic(&frame, 1, 1, 5));
+        ASSERT_TRUE(keeping.CreateView(0, 0, PaneClass(), {0, 10}));
+        keeping.DestroyWindow();
+        s_log.clear();
+    }
+    EXPECT_EQ(s_log, std::vector<std::string>{"gone"});
 }

@@ -346,6 +346,26 @@ TEST(CWnd, MainWindowThatEndsIsTheApplicationsNoMore) {
     EXPECT_EQ(gGetMainWnd(), nullptr);
 }
 
+TEST(CWnd, MainWindowThatWasNeverMadeIsForgottenWithItsObject) {
+    CWinAppEx app;
+    {
+        CWnd window;
+        app.SetMainWnd(&window);
+        CWnd().DestroyWindow();
+        EXPECT_EQ(gGetMainWnd(), &window);
+    }
+    EXPECT_EQ(gGetMainWnd(), nullptr);
+}
+
+TEST(CWnd, ToolTipsAreOffUntilEnabled) {
+    CWnd window;
+    EXPECT_FALSE(window.AreToolTipsEnabled());
+    window.EnableToolTips(true);
+    EXPECT_TRUE(window.AreToolTipsEnabled());
+    window.EnableToolTips(false);
+    EXPECT_FALSE(window.AreToolTipsEnabled());
+}
+
 TEST(CWnd, ClientAreaLeavesOutWhatThePeerReserves) {
     Probe window;
     window.Create(nullptr, 1, {10, 10, 110, 60});

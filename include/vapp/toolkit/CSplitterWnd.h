@@ -10,7 +10,7 @@
 #include "vapp/toolkit/CView.h"
 
 /// A static splitter of several rows and one or more columns. It owns its panes, from `CreateView` to the end
-/// of the window. Columns share the width evenly.
+/// of the window, or longer (see `MayFreePanes`). Columns share the width evenly.
 class VAPP_EXPORT CSplitterWnd : public CWnd {
 public:
     /// Height of the bar between two rows.
@@ -47,6 +47,12 @@ protected:
     void OnSize(UINT type, int cx, int cy) override;
     void OnDestroy() override;
     std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
+    /// Asked when the window has ended, and the panes' windows with it. False keeps the panes' objects until
+    /// `FreeEndedPanes` or the end of this object, for a window that is ended from the inside of its panes'
+    /// own operations. The base answers true.
+    [[nodiscard]] virtual bool MayFreePanes() const;
+    /// Frees the panes that were kept.
+    void FreeEndedPanes();
 
 private:
     [[nodiscard]] bool IsCell(int row, int column) const;
@@ -57,5 +63,6 @@ private:
     int m_rows = 0;
     int m_columns = 0;
     std::vector<std::unique_ptr<CView>> m_panes;
+    std::vector<std::unique_ptr<CView>> m_endedPanes;
     std::vector<int> m_heights;
 };

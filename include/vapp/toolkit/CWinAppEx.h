@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const CString& GetAppName() const { return m_appName; }
     void SetAppName(const CString& name) { m_appName = name; }
     [[nodiscard]] CWnd* GetMainWnd() const { return m_mainWnd; }
-    /// Not owned; null before it is destroyed.
+    /// Not owned; it need not be made yet. A window that ends or is destroyed is the main window no more.
     void SetMainWnd(CWnd* window) { m_mainWnd = window; }
 
     /// The store that the four profile operations use.

@@ -73,6 +73,11 @@ public:
     [[nodiscard]] bool IsWindowEnabled() const { return m_enabled; }
     void EnableWindow(bool enable);
 
+    /// Whether this window shows the tool tips that the logic words; off at first. State alone: who shows
+    /// tips reads it.
+    void EnableToolTips(bool enable) { m_toolTipsEnabled = enable; }
+    [[nodiscard]] bool AreToolTipsEnabled() const { return m_toolTipsEnabled; }
+
     /// The window that has the keyboard, or null.
     [[nodiscard]] static CWnd* GetFocus();
     /// Takes the keyboard; the peer follows.
@@ -139,6 +144,7 @@ private:
     bool m_visible = true;
     bool m_enabled = true;
     bool m_redraw = true;
+    bool m_toolTipsEnabled = false;
 };
 
 /// Type word of `OnSize` for a minimised window.
