@@ -52,6 +52,18 @@ TEST_F(QtReportHeaderTest, ASortedColumnShowsAnArrow) {
     EXPECT_NE(gPictureOf(Header()), up);
 }
 
+TEST_F(QtReportHeaderTest, FrozenCaptionsCoverThoseThatMovedUnderThem) {
+    report.AddNamedColumn("Wide", 300);
+    QTest::mouseClick(&Header(), Qt::LeftButton, {}, X(50));
+    const QRect frozen(0, 0, 139, Header().height());
+    const QImage before = gPictureOf(Header()).copy(frozen);
+    for (const int scrollX : {20, 45, 61, 100}) {
+        report.SetScrollX(scrollX);
+        ASSERT_EQ(report.GetScrollX(), scrollX);
+        EXPECT_EQ(gPictureOf(Header()).copy(frozen), before) << scrollX;
+    }
+}
+
 TEST_F(QtReportHeaderTest, DraggingAnEdgeResizesItsColumn) {
     gDrag(Header(), X(139), X(169));
     EXPECT_EQ(Column(0).GetWidth(), 170);

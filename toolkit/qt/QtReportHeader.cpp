@@ -46,10 +46,11 @@ void QtReportHeader::paintEvent(QPaintEvent* /*event*/) {
     ApplyColors();
     QPainter painter(this);
     const std::vector<QtColumnPlace> places = gColumnPlaces(*m_report);
-    // From right to left: styles give a section a clip of its own, so that only the frozen ones, painted
-    // last, cover what has moved under them.
+    // From right to left: styles give a section a clip of its own, and leave it behind. So only the frozen
+    // ones, painted last, cover what has moved under them.
     for (auto place = places.rbegin(); place != places.rend(); ++place)
         PaintSection(painter, *place);
+    painter.setClipping(false);
     PaintEmptySection(painter, places.empty() ? 0 : places.back().Right());
     if (m_drag == TDrag::Moving) PaintDropMark(painter);
 }
