@@ -35,10 +35,11 @@ constexpr std::array cnIconQueries = {
     IconQuery{"database cellviewinfo is_vcell ", 6},
 };
 
-bool AskFlag(Tcl_Interp* interp, const char* start, const TLineBuilder& subject) {
+// The interpreter is taken anew for each line: the one before may have ended or replaced it.
+bool AskFlag(const TLibraryView& view, const char* start, const TLineBuilder& subject) {
     TLineBuilder line(start);
     line.Literal(subject.View());
-    return AskTclFlag(interp, line.GetString());
+    return AskTclFlag(view.GetTclInterp(), line.GetString());
 }
 
 }  // namespace
@@ -89,14 +90,13 @@ int TReport::TColCellName::GetCellIcon(const TLibCellView& cell) {
     if (design.IsEmpty()) return -1;
     TLineBuilder subject;
     subject.Name(design).Literal(" ").Triple(cell).Literal(" ");
-    Tcl_Interp* interp = view->GetTclInterp();
     int icon = 0;
     for (const IconQuery& query : cnIconQueries) {
-        if (!AskFlag(interp, query.start, subject)) continue;
+        if (!AskFlag(*view, query.start, subject)) continue;
         icon = query.icon;
         break;
     }
-    if (AskFlag(interp, "database cellviewinfo is_lockedbyuser ", subject)) ++icon;
+    if (AskFlag(*view, "database cellviewinfo is_lockedbyuser ", subject)) ++icon;
     return icon == 0 ? -1 : icon;
 }
 

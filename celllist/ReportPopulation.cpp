@@ -3,6 +3,7 @@
 ///
 /// The new rows are gathered aside and shown at the end, so that host script which runs in the middle sees an
 /// empty list and never half of one.
+#include <array>
 #include <climits>
 #include <memory>
 #include <optional>
@@ -11,16 +12,18 @@
 #include "celllist/CellLines.h"
 #include "celllist/CellRows.h"
 #include "celllist/CellSet.h"
+#include "celllist/CountFormat.h"
 #include "celllist/RowOrder.h"
 #include "celllist/SubstringFilter.h"
+#include "toolkit/FlagGuard.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/PendingHighlight.h"
+#include "vapp/browser/StateWords.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
-#include "vapp/toolkit/Translate.h"
 
 namespace vapp_library_browser {
 
@@ -48,28 +51,29 @@ constexpr std::array cnThemeColors = {
     ThemeColor{TReportColor::GrayText, 0xA0A0A0},
 };
 
-// Sets a flag for the time of a scope.
-class FlagGuard {
-public:
-    explicit FlagGuard(bool& flag) : m_flag(flag), m_before(std::exchange(flag, true)) {}
-    FlagGuard(const FlagGuard&) = delete;
-    FlagGuard& operator=(const FlagGuard&) = delete;
-    ~FlagGuard() { m_flag = m_before; }
-
-private:
-    bool& m_flag;
-    bool m_before;
-};
-
 template <typename... Counts>
 CStringU Worded(const char* key, Counts... counts) {
-    return CStringU::Formatted(CStringU(vlang::gTranslate(key), TextEncoding::Utf8Auto), counts...);
+    return CStringU::Formatted(CountFormat(key), counts...);
 }
 
-TTclObject Send(const CellQuery& query, void (*append)(const CellQuery&, TLineBuilder&), Tcl_Interp* interp) {
+// The interpreter is taken anew for each line: the one before may have ended or replaced it.
+TTclObject Send(const CellQuery& query, void (*append)(const CellQuery&, TLineBuilder&),
+                const TLibraryView& view) {
     TLineBuilder line;
     append(query, line);
-    return AskTcl(interp, line.GetString());
+    return AskTcl(view.GetTclInterp(), line.GetString());
+}
+
+// The text of a host's column may cost a line: it is fetched once for each row and never during the sort.
+RowKeys KeysOf(const CellRows& rows, const RowOrderPart& part) {
+    RowKeys keys;
+    keys.forward = part.keyForward;
+    keys.ofRow.reserve(rows.Count());
+    for (std::size_t row = 0; row < rows.Count(); ++row) {
+        const CStringU text = part.keyColumn != nullptr ? part.keyColumn->GetCellText(rows.At(row)) : csEmpty;
+        keys.ofRow.push_back(keys.texts.Intern(text.Payload()));
+    }
+    return keys;
 }
 
 }  // namespace
@@ -123,19 +127,21 @@ void TReport::Populate() {
 bool TReport::FetchRows() {
     const bool dark = gIsDarkTheme();
     ApplyTheme(dark);
-    const CStringU design = m_pane.GetLibraryView()->GetSelectedDesign();
+    // The main window, which was asked for the theme, may have taken the neighbour away.
+    const TLibraryView* view = m_pane.GetLibraryView();
+    if (view == nullptr) return false;
+    const CStringU design = view->GetSelectedDesign();
     if (design.IsEmpty()) {
         BlankStatus();
         return true;
     }
     const CStringU sanitised = SanitizeTclInput(design);
-    Tcl_Interp* interp = m_pane.GetLibraryView()->GetTclInterp();
-    const TTclObject count = Send(MakeQuery(sanitised), &AppendCountLine, interp);
+    const TTclObject count = Send(MakeQuery(sanitised), &AppendCountLine, *view);
     if (!count) return false;
     const int total = ReadInteger(count.Get()).value_or(0);
     std::optional<CellRows> rows;
     {
-        const TTclObject list = Send(MakeQuery(sanitised), &AppendListLine, interp);
+        const TTclObject list = Send(MakeQuery(sanitised), &AppendListLine, *view);
         if (list) rows = CellRows::Read(list.Get());
     }
     if (!rows) return false;
@@ -163,30 +169,27 @@ CellQuery TReport::MakeQuery(const CStringU& design) const {
 void TReport::ArrangeRows(CellRows& rows, int total, bool dark) {
     const RowOrder order = RowOrder::Read(GetColumns());
     SubstringFilter filter(*this, m_pane.GetFilterText());
-    if (filter.MayAskHost() || order.keyColumn != nullptr || !order.HasAllNames()) {
+    if (filter.MayAskHost() || !order.IsByNamesAlone()) {
         rows.ArrangeAsSet();
         filter.Apply(rows);
         WordStatus(rows.Count(), total, dark);
         SortRows(rows, order);
         return;
     }
-    rows.ArrangeByNames(order.names, true);
+    rows.ArrangeByNames(order.parts[0].names, true);
     filter.Apply(rows);
     WordStatus(rows.Count(), total, dark);
 }
 
-// The text of a host's column may cost a line: it is fetched once for each row and never during the sort.
+// From the least important part to the most important one, each of which keeps what the others have done
+// where it finds no difference.
 void TReport::SortRows(CellRows& rows, const RowOrder& order) {
-    if (order.keyColumn == nullptr) {
-        rows.ArrangeByNames(order.names, false);
+    if (order.IsByNamesAlone()) {
+        rows.ArrangeByNames(order.parts[0].names, false);
         return;
     }
-    RowKeys keys;
-    keys.forward = order.keyForward;
-    keys.ofRow.reserve(rows.Count());
-    for (std::size_t row = 0; row < rows.Count(); ++row)
-        keys.ofRow.push_back(keys.texts.Intern(order.keyColumn->GetCellText(rows.At(row)).Payload()));
-    rows.ArrangeByKeys(keys, order.names);
+    for (auto part = order.parts.rbegin(); part != order.parts.rend(); ++part)
+        rows.ArrangeByKeys(KeysOf(rows, *part), part->names);
 }
 
 void TReport::ApplyTheme(bool dark) {

@@ -22,21 +22,22 @@ constexpr COLORREF cnUnresolvedText = 0x0000DF;
 constexpr COLORREF cnHiddenUnresolvedText = 0x0000BF;
 constexpr COLORREF cnHiddenText = 0x808080;
 
-// Asks about one cell view: "START design library cell view ".
+// Asks about one cell view: "START design library cell view ". The interpreter is taken anew for each
+// question: the one before may have ended or replaced it.
 class Questions {
 public:
-    Questions(Tcl_Interp* interp, const CStringU& design, const TLibCellView& cell) : m_interp(interp) {
+    Questions(const TLibraryView& view, const CStringU& design, const TLibCellView& cell) : m_view(view) {
         m_subject.Name(design).Literal(" ").Triple(cell).Literal(" ");
     }
     [[nodiscard]] TTclObject Ask(std::string_view start) const {
         TLineBuilder line(start);
         line.Literal(m_subject.View());
-        return AskTcl(m_interp, line.GetString());
+        return AskTcl(m_view.GetTclInterp(), line.GetString());
     }
     [[nodiscard]] bool IsTrue(std::string_view start) const { return ReadFlag(Ask(start).Get()); }
 
 private:
-    Tcl_Interp* m_interp;
+    const TLibraryView& m_view;
     TLineBuilder m_subject;
 };
 
@@ -63,7 +64,7 @@ void TReport::TRecord::GetItemMetrics(const CXTPReportRecordItemDrawArgs& drawAr
     const TLibraryView* view = report.GetPane().GetLibraryView();
     const CStringU design = view != nullptr ? view->GetSelectedDesign() : CStringU();
     if (design.IsEmpty()) return;
-    const Questions questions(view->GetTclInterp(), design, cell);
+    const Questions questions(*view, design, cell);
     const bool modified = questions.IsTrue("database cellviewinfo is_modified ");
     if (modified && dynamic_cast<TColCellName*>(column) != nullptr)
         metrics.font = &XTPPaintManager::GetRegularBoldFont();

@@ -2,7 +2,7 @@
 /// From columns to criteria.
 #include "celllist/RowOrder.h"
 
-#include <algorithm>
+#include <set>
 
 namespace vapp_library_browser {
 
@@ -10,12 +10,46 @@ namespace {
 
 using TReport = TCellNamesReportCtrl;
 
-// A name that decides already finds nothing left to decide a second time.
-void AddName(std::vector<NameCriterion>& names, NameRole role, bool forward) {
-    const bool known = std::any_of(names.begin(), names.end(),
-                                   [role](const NameCriterion& name) { return name.role == role; });
-    if (!known) names.push_back({role, forward});
-}
+class Reader {
+public:
+    explicit Reader(RowOrder& order) : m_order(order) { m_order.parts.emplace_back(); }
+
+    // A column that decides already finds nothing left to decide a second time.
+    void Add(CXTPReportColumn* column, bool forward, bool first) {
+        auto* own = dynamic_cast<TReport::TColumn*>(column);
+        if (own == nullptr || m_nameCount == cnRoleCount || !m_known.insert(own).second) return;
+        const auto* custom = dynamic_cast<TReport::TCustomColumn*>(own);
+        if (const auto role = RoleOf(own)) {
+            AddName(*role, forward);
+        } else if (custom == nullptr) {
+            AddKey(own, forward);
+        } else if (first) {
+            AddKey(own, forward == custom->GetSortForward());
+        }
+    }
+
+private:
+    // There may be more than one column of a name.
+    void AddName(NameRole role, bool forward) {
+        for (const RowOrderPart& part : m_order.parts) {
+            for (const NameCriterion& name : part.names) {
+                if (name.role == role) return;
+            }
+        }
+        m_order.parts.back().names.push_back({role, forward});
+        ++m_nameCount;
+    }
+    void AddKey(TReport::TColumn* column, bool forward) {
+        if (m_order.parts.size() > 1 || m_order.parts[0].keyColumn != nullptr || m_nameCount > 0)
+            m_order.parts.emplace_back();
+        m_order.parts.back().keyColumn = column;
+        m_order.parts.back().keyForward = forward;
+    }
+
+    RowOrder& m_order;
+    std::set<const TReport::TColumn*> m_known;
+    std::size_t m_nameCount = 0;
+};
 
 }  // namespace
 
@@ -28,17 +62,14 @@ std::optional<NameRole> RoleOf(const CXTPReportColumn* column) {
 
 RowOrder RowOrder::Read(const CXTPReportColumns& columns) {
     RowOrder order;
+    Reader reader(order);
     const CXTPReportColumnOrder& sortOrder = columns.GetSortOrder();
-    order.keyColumn = dynamic_cast<TReport::TCustomColumn*>(sortOrder.GetAt(0));
-    if (order.keyColumn != nullptr)
-        order.keyForward = order.keyColumn->IsSortedIncreasing() == order.keyColumn->GetSortForward();
     for (int place = 0; place < sortOrder.GetCount(); ++place) {
-        const CXTPReportColumn* column = sortOrder.GetAt(place);
-        if (const auto role = RoleOf(column)) AddName(order.names, *role, column->IsSortedIncreasing());
+        CXTPReportColumn* column = sortOrder.GetAt(place);
+        reader.Add(column, column->IsSortedIncreasing(), place == 0);
     }
-    for (int position = 0; position < columns.GetCount(); ++position) {
-        if (const auto role = RoleOf(columns.GetAt(position))) AddName(order.names, *role, true);
-    }
+    for (int position = 0; position < columns.GetCount(); ++position)
+        reader.Add(columns.GetAt(position), true, false);
     return order;
 }
 

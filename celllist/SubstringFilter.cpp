@@ -3,6 +3,7 @@
 #include "celllist/SubstringFilter.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "celllist/RowOrder.h"
 

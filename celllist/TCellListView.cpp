@@ -102,18 +102,12 @@ void TCellListView::RequestDelayedPopulate(TUpdateCellListReason reason) {
     m_needsPopulate = m_needsPopulate || matters;
 }
 
+// An idle call that comes while rows are being fetched further up on the stack leaves nothing behind: a host
+// whose lines run an event loop would otherwise be busy with refreshes for ever.
 void TCellListView::Populate() {
-    if (!m_needsPopulate) return;
+    if (!m_needsPopulate || m_report.IsPopulating()) return;
     m_report.Populate();
-    SetNeedsPopulate(false);
-}
-
-void TCellListView::SetNeedsPopulate(bool needsPopulate) {
-    if (needsPopulate) {
-        m_needsPopulate = true;
-    } else if (!m_report.IsPopulating()) {
-        m_needsPopulate = m_report.IsPopulationPostponed();
-    }
+    m_needsPopulate = m_report.IsPopulationPostponed();
 }
 
 void TCellListView::SetStatusText(const CStringU& text) {

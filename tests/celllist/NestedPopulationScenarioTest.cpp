@@ -2,6 +2,8 @@
 #include <tcl.h>
 
 #include "tests/celllist/CellListFixture.h"
+#include "tests/celllist/ListeningWindow.h"
+#include "tests/celllist/OtherInterpreter.h"
 
 namespace {
 
@@ -20,15 +22,30 @@ protected:
     }
 };
 
-TEST_F(NestedPopulationScenarioTest, PostponesAPopulationThatIsAskedForInTheMiddleOfOne) {
+// A hook that is a host's script, too.
+std::function<void()> s_insideHook;
+CStringU RunInsideHook(const CStringU& name) {
+    s_insideHook();
+    return RecordingHost::Brace(name);
+}
+class ReentryHook {
+public:
+    ReentryHook() = default;
+    ReentryHook(const ReentryHook&) = delete;
+    ReentryHook& operator=(const ReentryHook&) = delete;
+    ~ReentryHook() { s_insideHook = nullptr; }
+
+private:
+    HookGuard m_hook{&RunInsideHook};
+};
+
+TEST_F(NestedPopulationScenarioTest, PostponesADirectPopulationInTheMiddleOfOne) {
     ShowCells({{"l1", "a", "v"}});
     int nested = 0;
     Inside(csList, "{l1 b v}", [&] {
         if (++nested > 5) return;
         EXPECT_EQ(Report().GetCellViewCount(), 0u);
         Report().Populate();
-        m_browser.PopulateCellListView();
-        m_browser.Populate();
         Report().SwitchSetup(TReport::Setup2);
     });
     Repopulate();
@@ -41,31 +58,101 @@ TEST_F(NestedPopulationScenarioTest, PostponesAPopulationThatIsAskedForInTheMidd
     EXPECT_FALSE(Cells().NeedsPopulate());
 }
 
-TEST_F(NestedPopulationScenarioTest, LeavesTheMarkAlsoAfterADirectPopulation) {
+TEST_F(NestedPopulationScenarioTest, MarksTheListAlsoAfterADirectPopulationOfACleanOne) {
     ShowCells({{"l1", "a", "v"}});
-    Inside(csCount, "1", [&] { m_browser.PopulateCellListView(); });
-    Cells().SetNeedsPopulate(true);
-    Report().Populate();
-    EXPECT_TRUE(Cells().NeedsPopulate());
-    Cells().SetNeedsPopulate(false);
-    EXPECT_TRUE(Cells().NeedsPopulate()) << "the postponed population is still due";
-}
-
-TEST_F(NestedPopulationScenarioTest, LeavesNoMarkIfNobodyAskedForMore) {
-    ShowCells({{"l1", "a", "v"}});
-    Cells().SetNeedsPopulate(true);
+    ASSERT_FALSE(Cells().NeedsPopulate());
+    Inside(csCount, "1", [&] { Report().Populate(); });
     Report().Populate();
     EXPECT_TRUE(Cells().NeedsPopulate());
     Cells().SetNeedsPopulate(false);
     EXPECT_FALSE(Cells().NeedsPopulate());
 }
 
+// A host whose lines run an event loop calls these in every line: they must not keep it busy for ever.
+TEST_F(NestedPopulationScenarioTest, TakesIdleCallsInTheMiddleOfAPopulationForNothing) {
+    const std::pair<const char*, std::function<void()>> idleCalls[] = {
+        {"the pane's", [&] { Cells().Populate(); }},
+        {"the browser's", [&] { m_browser.Populate(); }},
+        {"the browser's for the list", [&] { m_browser.PopulateCellListView(); }}};
+    ShowCells({{"l1", "a", "v"}});
+    for (const auto& [name, call] : idleCalls) {
+        SCOPED_TRACE(name);
+        Inside(csList, "{l1 b v}", [&, idle = call] {
+            Cells().SetNeedsPopulate(true);
+            idle();
+            EXPECT_TRUE(Cells().NeedsPopulate());
+        });
+        m_host.ClearLines();
+        Repopulate();
+        EXPECT_EQ(m_host.LinesStarting("database cells").size(), 2u);
+        EXPECT_EQ(Rows(), TLines{"l1 b v"});
+        EXPECT_FALSE(Cells().NeedsPopulate());
+        Report().Populate();
+        EXPECT_TRUE(Cells().NeedsPopulate()) << "a direct population leaves the mark as it is";
+        Cells().SetNeedsPopulate(false);
+    }
+}
+
+TEST_F(NestedPopulationScenarioTest, CoversTheRequestsThatItsOwnLinesMake) {
+    ShowCells({{"l1", "a", "v"}});
+    Inside(csCount, "1", [&] { Cells().RequestDelayedPopulate(UpdateAlways); });
+    Inside(csList, "{l1 a v}", [&] { Type("a"); });
+    Repopulate();
+    EXPECT_FALSE(Cells().NeedsPopulate());
+    EXPECT_EQ(Status(), "1 cells");
+}
+
+TEST_F(NestedPopulationScenarioTest, LeavesTheMarkToThePaneOnADirectPopulation) {
+    ShowCells({{"l1", "a", "v"}});
+    Report().Populate();
+    EXPECT_FALSE(Cells().NeedsPopulate());
+    Cells().SetNeedsPopulate(true);
+    Report().Populate();
+    EXPECT_TRUE(Cells().NeedsPopulate());
+}
+
+TEST_F(NestedPopulationScenarioTest, SendsEachLineToTheInterpreterThatIsSetThen) {
+    ShowCells({{"l1", "a", "v"}});
+    // The second interpreter answers the first line, and is replaced and ended by it.
+    OtherInterpreter other([&](const std::string&) {
+        Libraries().SetTclInterp(m_host.GetInterp());
+        other.End();
+        return "1";
+    });
+    Libraries().SetTclInterp(other.Get());
+    m_host.ClearLines();
+    Repopulate();
+    EXPECT_EQ(other.Lines().size(), 1u);
+    EXPECT_EQ(m_host.LinesStarting("database cells").size(), 1u);
+    EXPECT_EQ(Rows(), TLines{"l1 a v"});
+}
+
+TEST_F(NestedPopulationScenarioTest, SendsEachQuestionToTheInterpreterThatIsSetThen) {
+    ShowCells({{"l1", "a", "v"}});
+    m_host.AnswerStart("database cellviewinfo", "0");
+    for (const std::string key : {"is_fab", "is_modified"}) {
+        SCOPED_TRACE(key);
+        OtherInterpreter other([&](const std::string& words) {
+            if (words.find(key) == std::string::npos) return "0";
+            Libraries().SetTclInterp(m_host.GetInterp());
+            other.End();
+            return "1";
+        });
+        Libraries().SetTclInterp(other.Get());
+        m_host.ClearLines();
+        const CXTPReportRecordItemMetrics metrics = Measure(0, "Cell");
+        EXPECT_EQ(metrics.icon, key == "is_fab" ? 3 : -1);
+        EXPECT_EQ(metrics.font != nullptr, key == "is_modified");
+        EXPECT_EQ(m_host.LinesStarting("database cellviewinfo cache").size(), 1u);
+    }
+}
+
 TEST_F(NestedPopulationScenarioTest, SurvivesEveryOperationInTheMiddleOfEveryLine) {
     // Each turn sends many lines, and each line may be a turn: bounded in depth and number.
     int depth = 0;
     int turns = 0;
-    const auto everything = [this, &depth, &turns] {
-        if (depth > 1 || turns > 200) return;
+    s_insideHook = [this, &depth, &turns] {
+        if (depth > 1 || turns > 400) return;
         ++depth;
         ++turns;
         m_browser.Populate();
@@ -91,8 +178,15 @@ TEST_F(NestedPopulationScenarioTest, SurvivesEveryOperationInTheMiddleOfEveryLin
         m_browser.RequestLibraryViewDelayedPopulate();
         gPendingHighlight() = std::make_unique<TLibCellView>("l1", "b", "v");
         Report().GetColumns().SetSortColumn(&Column("State"), false);
+        Libraries().SetSelectedDesign(turns % 2 == 0 ? "top" : "other");
+        Libraries().SelectInLibraryList(turns % 3 == 0 ? "l1" : "none");
+        if (turns % 40 == 0) m_browser.ModifyForQEdit();
+        SetOptions([](auto& options) { options.showVias = !options.showVias; });
+        Report().SerializeSetup(turns % 2 == 0);
+        SetOptions([](auto& options) { options.filterAllColumns = true; });
         --depth;
     };
+    const auto everything = s_insideHook;
     ShowCells({{"l1", "a", "v"}});
     m_host.AddCommand("state");
     Report().AddColumn("State", "state", true, false);
@@ -104,11 +198,19 @@ TEST_F(NestedPopulationScenarioTest, SurvivesEveryOperationInTheMiddleOfEveryLin
     Inside("database cellviewinfo", "1", everything);
     Inside("database filter", "1", everything);
     Inside("librarynavigator preview", "", everything);
+    m_host.Answer("database all_libs", "{top {l1 /l1} {l2 /l2}} {other {l1 /l1}}");
+    m_host.AnswerStart("database cells -lcv -library other", "{l1 o v}");
+    const ReentryHook hook;
+    ListeningWindow listener(m_app);
+    listener.m_whenAsked = everything;
     Repopulate();
     for (int row = 0; row < 3; ++row)
         Measure(row, "Cell");
     Cells().RequestDelayedPopulate(UpdateIfFilterSaysSo);
     EXPECT_GT(turns, 100);
+    turns = 1000;
+    m_host.Answer("database all_libs", "{top {l1 /l1} {l2 /l2}}");
+    Refresh();
     AnswerCells({{"l1", "z", "v"}});
     m_host.AnswerStart("state", "");
     m_host.AnswerStart("librarynavigator preview", "");

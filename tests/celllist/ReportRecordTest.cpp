@@ -76,6 +76,26 @@ TEST_F(ReportRecordTest, LeavesTheForegroundIfTheStateFailsAlsoOfAHiddenCell) {
     EXPECT_EQ(Measure(0, "View").foreground, cnNoColor);
 }
 
+TEST_F(ReportRecordTest, LeavesTheForegroundIfTheStateFailsAlsoWithoutColourForUnresolvedCells) {
+    HideInLists();
+    SetOptions([](auto& options) { options.colorUnresolvedCells = false; });
+    EXPECT_EQ(Measure(0, "View").foreground, 0x808080u);
+    m_host.AnswerCode("database cellviewinfo cache top lib inv sym ", TCL_ERROR, "");
+    EXPECT_EQ(Measure(0, "View").foreground, cnNoColor);
+}
+
+TEST_F(ReportRecordTest, AsksForHiddenAndStateWhateverIsColoured) {
+    SetOptions([](auto& options) { options.colorHiddenCells = false; });
+    Measure(0, "View");
+    EXPECT_EQ(m_host.LinesStarting("database cellviewinfo is_hiddeninlists").size(), 1u);
+    EXPECT_EQ(m_host.LinesStarting("database cellviewinfo cache").size(), 1u);
+    SetOptions([](auto& options) { options.colorUnresolvedCells = false; });
+    m_host.ClearLines();
+    Measure(0, "View");
+    EXPECT_EQ(m_host.LinesStarting("database cellviewinfo is_hiddeninlists").size(), 1u);
+    EXPECT_EQ(m_host.LinesStarting("database cellviewinfo cache").size(), 1u);
+}
+
 TEST_F(ReportRecordTest, AsksForReservedCellsOnlyIfTheyAreColoured) {
     Say("is_reserved", "1");
     EXPECT_EQ(Measure(0, "View").background, 0xE6E6FFu);

@@ -92,6 +92,19 @@ TEST_F(ReportSetupTest, LoadsTheStoredSetup) {
     EXPECT_EQ(Column("View").GetWidth(), -3);
 }
 
+// Loading counts a hidden column in front of the cells; the next change of the columns doesn't.
+TEST_F(ReportSetupTest, FreezesByPositionWhenLoadedAndByWhatShowsAfterAChange) {
+    m_app.WriteProfileInt("LibraryNavigator\\Setup1\\Columns\\View", "Order", 0);
+    m_app.WriteProfileInt("LibraryNavigator\\Setup1\\Columns\\Cell", "Order", 1);
+    m_app.WriteProfileString("LibraryNavigator\\Setup1\\Columns\\View", "Visible", "false");
+    Report().SerializeSetup(false);
+    EXPECT_EQ(Captions(), (TLines{"View", "Cell", "Library"}));
+    EXPECT_FALSE(Column("View").IsVisible());
+    EXPECT_EQ(Report().GetFreezeColumnsCount(), 2);
+    Column("Library").SetWidth(81);
+    EXPECT_EQ(Report().GetFreezeColumnsCount(), 1);
+}
+
 TEST_F(ReportSetupTest, PutsAColumnWithoutStoredOrderBehindTheOthers) {
     Report().SerializeSetup(false);
     Report().GetColumns().ChangeColumnOrder(0, &Column("Library"));

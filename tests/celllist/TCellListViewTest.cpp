@@ -3,24 +3,12 @@
 #include <tcl.h>
 
 #include "tests/celllist/CellListFixture.h"
+#include "tests/celllist/ListeningWindow.h"
 
 namespace {
 
 using namespace vapp_library_browser;
 using TLines = std::vector<std::string>;
-
-// A main window that keeps what it is told.
-class ListeningWindow : public CWnd {
-public:
-    ~ListeningWindow() override { DestroyWindow(); }
-    std::vector<std::pair<UINT, WPARAM>> m_messages;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM /*lParam*/) override {
-        m_messages.emplace_back(message, wParam);
-        return 0;
-    }
-};
 
 class TCellListViewTest : public CellListFixture {
 protected:
@@ -129,9 +117,7 @@ TEST_F(TCellListViewTest, RefreshesAtOnceWhenTheUserSorts) {
 }
 
 TEST_F(TCellListViewTest, TellsTheMainWindowOfTheSelectionUnlessARefreshIsDue) {
-    ListeningWindow listener;
-    listener.Create(nullptr, 0);
-    m_app.SetMainWnd(&listener);
+    ListeningWindow listener(m_app);
     SelectRow(1);
     EXPECT_EQ(listener.m_messages, (std::vector<std::pair<UINT, WPARAM>>{{WM_LN_HOSTNOTIFY, 1}}));
     EXPECT_EQ(m_host.LinesStarting("librarynavigator preview").size(), 1u);
@@ -142,7 +128,6 @@ TEST_F(TCellListViewTest, TellsTheMainWindowOfTheSelectionUnlessARefreshIsDue) {
     EXPECT_EQ(m_host.LinesStarting("librarynavigator preview").size(), 2u);
     Cells().Populate();
     EXPECT_EQ(listener.m_messages, (std::vector<std::pair<UINT, WPARAM>>{{WM_LN_ISDARKTHEME, 0}}));
-    m_app.SetMainWnd(&m_frame);
 }
 
 TEST_F(TCellListViewTest, HasThreeTabsWhoseTextsTheHostGives) {

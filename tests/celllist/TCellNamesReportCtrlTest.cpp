@@ -15,6 +15,7 @@ TEST_F(TCellNamesReportCtrlTest, IsSetUpForItsPane) {
     EXPECT_FALSE(Report().GetReportHeader().GetAutoColumnSizing());
     EXPECT_EQ(Report().GetImageListResource(), 104u);
     EXPECT_EQ(Report().GetImageWidth(), 22);
+    EXPECT_EQ(Report().GetImageMaskColor(), 0xFFFF00u);
     EXPECT_FALSE(Report().IsFullColumnScrolling());
     EXPECT_EQ(Report().GetFreezeColumnsCount(), 1);
     EXPECT_EQ(Report().GetGridStyle(false), 0);

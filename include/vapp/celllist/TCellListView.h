@@ -53,12 +53,13 @@ public:
     /// Marks the list for a refresh. With UpdateIfFilterSaysSo the host is asked whether the change matters
     /// for the filter type that is selected.
     void RequestDelayedPopulate(TUpdateCellListReason reason);
-    /// Refreshes if marked, and takes the mark away.
+    /// Refreshes if marked, and takes the mark away, also one that was set in the course of the refresh.
+    /// Does nothing while a population runs. The mark stays if the report's own Populate was called in the
+    /// middle of this refresh.
     void Populate();
     [[nodiscard]] bool NeedsPopulate() const { return m_needsPopulate; }
-    /// Sets the mark or takes it away. It can't be taken away while a refresh is running, nor after one
-    /// during which a further one was asked for: that one is still due.
-    void SetNeedsPopulate(bool needsPopulate);
+    /// Sets the mark or takes it away.
+    void SetNeedsPopulate(bool needsPopulate) { m_needsPopulate = needsPopulate; }
     /// Number of rows.
     [[nodiscard]] std::size_t GetCellViewCount() const { return m_report.GetCellViewCount(); }
     /// The line below the list.

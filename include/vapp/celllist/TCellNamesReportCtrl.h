@@ -6,7 +6,12 @@
 /// population renews the rows themselves. Both run host script, and host script may call any operation here.
 ///
 /// The surprise: a population that is asked for while one is running does not run. The running one finishes
-/// and leaves the list marked, so that the next idle refresh does the work.
+/// and leaves the list marked, so that the next idle refresh does the work. Idle refreshes that come while
+/// one is running leave no such trace.
+///
+/// Rows are ordered by ranks of their names and keys, which equal what `CompareCells` of the built-in and the
+/// added columns says; it is not called for each pair. A column class of a host that derives from `TColumn`
+/// directly is ordered by the natural order of its `GetCellText`, whatever its `CompareCells` says.
 ///
 /// Not here: the widgets around the report, and the mark (TCellListView); what the report looks like on a
 /// screen (its peer).
@@ -18,6 +23,7 @@
 #include <iterator>
 #include <memory>
 #include <set>
+#include <utility>
 #include <vector>
 
 #include "vapp/Export.h"
@@ -75,7 +81,7 @@ public:
     };
 
     /// The cell's name, with the row's icon. Stays in place when the list scrolls sideways.
-    class VAPP_EXPORT TColCellName : public TColumn {
+    class VAPP_EXPORT TColCellName final : public TColumn {
     public:
         TColCellName(TCellNamesReportCtrl& report, int itemIndex);
         [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
@@ -83,27 +89,28 @@ public:
     };
 
     /// The view's name.
-    class VAPP_EXPORT TColViewName : public TColumn {
+    class VAPP_EXPORT TColViewName final : public TColumn {
     public:
         TColViewName(TCellNamesReportCtrl& report, int itemIndex);
         [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
     };
 
     /// The library's name.
-    class VAPP_EXPORT TColLibName : public TColumn {
+    class VAPP_EXPORT TColLibName final : public TColumn {
     public:
         TColLibName(TCellNamesReportCtrl& report, int itemIndex);
         [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
     };
 
     /// A column of the host: its text comes from a Tcl command or from a function.
-    class VAPP_EXPORT TCustomColumn : public TColumn {
+    class VAPP_EXPORT TCustomColumn final : public TColumn {
     public:
         /// Either the command or the function is given; a function wins.
         TCustomColumn(TCellNamesReportCtrl& report, int itemIndex, const CStringU& caption,
                       const CStringU& tclCommand, TGetText getText, bool sortForward, bool hideInThirdSetup);
-        /// Compares the sort keys of the two, which a sort fills for its first column only; so a host column
-        /// that stands further back finds all rows equal.
+        /// Compares the sort keys of the two, in natural order; turned around if the column sorts backward.
+        /// The rows of the list have no keys: a population orders them by the texts of this column if it is
+        /// the first to sort by, and leaves it out of the order anywhere else.
         [[nodiscard]] int CompareCells(const TLibCellView& left, const TLibCellView& right) override;
         [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override;
         /// False turns the order of the header's arrow around.
@@ -168,7 +175,8 @@ public:
     // --- Rows ------------------------------------------------------------------------------------------
 
     /// Asks the host for the rows anew, whatever the pane's mark says, and leaves that mark alone. While a
-    /// population is running it only notes that another one is wanted.
+    /// population is running it only notes that another one is wanted, and the running one sets the mark when
+    /// it ends.
     void Populate() override;
     /// Number of rows.
     [[nodiscard]] std::size_t GetCellViewCount() const;
