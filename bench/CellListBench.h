@@ -24,6 +24,6 @@ enum class BenchRows {
 /// Triples of 40 libraries and 3 views.
 [[nodiscard]] std::vector<BenchRow> MakeBenchRows(BenchRows kind, std::size_t count);
 
-/// Fills a QStandardItemModel with the rows and sorts it by the first column; seconds, or below 0 where Qt is
-/// not installed.
+/// Fills a QStandardItemModel with the rows and sorts it by the first column; seconds of processor time, or
+/// below 0 where Qt is not installed.
 [[nodiscard]] double FillAndSortItemModel(const std::vector<BenchRow>& rows);

@@ -3,12 +3,12 @@
 #include <QList>
 #include <QStandardItemModel>
 #include <QString>
-#include <chrono>
+#include <ctime>
 
 #include "bench/CellListBench.h"
 
 double FillAndSortItemModel(const std::vector<BenchRow>& rows) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     QStandardItemModel model;
     model.setColumnCount(3);
     for (const BenchRow& row : rows) {
@@ -17,5 +17,5 @@ double FillAndSortItemModel(const std::vector<BenchRow>& rows) {
                          new QStandardItem(QString::fromStdString(row.library))});
     }
     model.sort(0);
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }

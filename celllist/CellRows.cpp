@@ -17,25 +17,72 @@ namespace {
 
 constexpr std::array cnSetOrder = {NameRole::Cell, NameRole::View, NameRole::Library};
 
-// The names of one item of the triples, on their way into a table.
-class NameReader {
-public:
-    explicit NameReader(NameTable& table) : m_table(table) {}
+// The string is there already for nearly every object of an answer.
+std::string_view BytesOf(Tcl_Obj* object) {
+    if (object->bytes == nullptr) static_cast<void>(Tcl_GetString(object));
+    return {object->bytes, static_cast<std::size_t>(object->length)};
+}
 
-    std::uint32_t Read(Tcl_Obj* object) {
-        if (object == m_last) return m_number;
-        const std::string_view name = Tcl_GetString(object);
-        if (m_last == nullptr || name != m_name) m_number = m_table.Intern(name);
-        m_last = object;
-        m_name = name;
-        return m_number;
+// Triples on their way into the tables, some hundred at a time: looking names up is waiting for memory, and
+// a crowd waits together.
+class TripleReader {
+public:
+    explicit TripleReader(std::array<NameTable, cnRoleCount>& tables) : m_tables(tables) {}
+
+    void Add(const TTclList& triple) {
+        for (std::size_t role = 0; role < cnRoleCount; ++role)
+            m_readers[role].Add(triple[role]);
+        ++m_count;
+    }
+    [[nodiscard]] bool IsFull() const { return m_count == cnBlock; }
+    // Appends the triples to the rows.
+    void Flush(std::vector<std::array<std::uint32_t, cnRoleCount>>& rows) {
+        std::array<std::array<std::uint32_t, cnBlock>, cnRoleCount> numbers;
+        for (std::size_t role = 0; role < cnRoleCount; ++role)
+            m_readers[role].Flush(m_tables[role], m_count, numbers[role].data());
+        for (std::size_t at = 0; at < m_count; ++at)
+            rows.push_back({numbers[0][at], numbers[1][at], numbers[2][at]});
+        m_count = 0;
     }
 
 private:
-    NameTable& m_table;
-    Tcl_Obj* m_last = nullptr;
-    std::string_view m_name;
-    std::uint32_t m_number = 0;
+    static constexpr std::size_t cnBlock = 256;
+
+    // The names of one role.
+    struct NameReader {
+        void Add(Tcl_Obj* object) {
+            if (object != last) {
+                const std::string_view read = BytesOf(object);
+                if (last == nullptr || read != name) names[distinct++] = read;
+                name = read;
+                last = object;
+            }
+            place[count++] = static_cast<std::uint16_t>(distinct);
+        }
+        // The first place may be 0: the name that the block before ended with.
+        void Flush(NameTable& table, std::size_t rowCount, std::uint32_t* numbers) {
+            std::array<std::uint32_t, cnBlock + 1> found;
+            found[0] = lastNumber;
+            table.InternAll({names.data(), distinct}, found.data() + 1);
+            for (std::size_t at = 0; at < rowCount; ++at)
+                numbers[at] = found[place[at]];
+            lastNumber = found[distinct];
+            distinct = 0;
+            count = 0;
+        }
+
+        std::array<std::string_view, cnBlock> names;
+        std::array<std::uint16_t, cnBlock> place{};
+        std::size_t distinct = 0;
+        std::size_t count = 0;
+        Tcl_Obj* last = nullptr;
+        std::string_view name;
+        std::uint32_t lastNumber = 0;
+    };
+
+    std::array<NameTable, cnRoleCount>& m_tables;
+    std::array<NameReader, cnRoleCount> m_readers;
+    std::size_t m_count = 0;
 };
 
 // Which names of a table equal the text without regard to case; a null text is all of them.
@@ -53,17 +100,16 @@ std::optional<CellRows> CellRows::Read(Tcl_Obj* answer) {
     const std::optional<TTclList> triples = TTclList::Read(answer);
     if (!triples) return std::nullopt;
     std::optional<CellRows> result(std::in_place);
-    std::array<NameReader, cnRoleCount> readers = {
-        NameReader(result->m_names[0]), NameReader(result->m_names[1]), NameReader(result->m_names[2])};
+    TripleReader reader(result->m_names);
     result->m_rows.reserve(triples->size());
     for (Tcl_Obj* const element : *triples) {
         const std::optional<TTclList> triple = TTclList::Read(element);
         if (!triple) return std::nullopt;
         if (triple->size() != cnRoleCount) continue;
-        Row& row = result->m_rows.emplace_back();
-        for (std::size_t role = 0; role < cnRoleCount; ++role)
-            row[role] = readers[role].Read((*triple)[role]);
+        reader.Add(*triple);
+        if (reader.IsFull()) reader.Flush(result->m_rows);
     }
+    reader.Flush(result->m_rows);
     for (NameTable& names : result->m_names)
         names.Freeze();
     return result;

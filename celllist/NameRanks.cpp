@@ -4,10 +4,14 @@
 #include "celllist/NameRanks.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstring>
+#include <memory>
+#include <numeric>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "text/NaturalKey.h"
 
@@ -21,22 +25,21 @@ public:
     Keys(const NameTable& names, NameOrder order) {
         const auto count = static_cast<std::uint32_t>(names.Count());
         m_ends.reserve(count);
+        std::size_t used = 0;
         for (std::uint32_t number = 0; number < count; ++number) {
             const std::string_view name = names.At(number);
-            const std::size_t start = m_bytes.size();
-            if (const std::size_t room = start + vapp_text::KeyBound(name.size()); room > m_bytes.capacity())
-                m_bytes.reserve(std::max(room, 2 * m_bytes.capacity()));
-            if (order == NameOrder::Natural) {
-                vapp_text::AppendNaturalKey(name.data(), true, m_bytes);
-            } else {
-                vapp_text::AppendFoldKey(name.data(), m_bytes);
-            }
-            m_ends.push_back(m_bytes.size());
+            MakeRoom(used, vapp_text::KeyBound(name.size()));
+            char* start = m_bytes.get() + used;
+            const char* end = order == NameOrder::Natural
+                                  ? vapp_text::WriteNaturalKey(name.data(), true, start)
+                                  : vapp_text::WriteFoldKey(name.data(), start);
+            used += static_cast<std::size_t>(end - start);
+            m_ends.push_back(used);
         }
     }
     [[nodiscard]] std::string_view At(std::uint32_t number) const {
         const std::size_t start = number == 0 ? 0 : m_ends[number - 1];
-        return {m_bytes.data() + start, m_ends[number] - start};
+        return {m_bytes.get() + start, m_ends[number] - start};
     }
     [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_ends.size()); }
     // Bytes at the front that all keys share.
@@ -45,9 +48,9 @@ public:
         for (std::uint32_t number = 1; number < Count(); ++number) {
             const std::string_view key = At(number);
             common = std::min(common, key.size());
-            if (std::memcmp(key.data(), m_bytes.data(), common) == 0) continue;
+            if (std::memcmp(key.data(), m_bytes.get(), common) == 0) continue;
             common = static_cast<std::size_t>(
-                std::mismatch(key.begin(), key.begin() + static_cast<std::ptrdiff_t>(common), m_bytes.begin())
+                std::mismatch(key.begin(), key.begin() + static_cast<std::ptrdiff_t>(common), m_bytes.get())
                     .first -
                 key.begin());
         }
@@ -55,7 +58,16 @@ public:
     }
 
 private:
-    std::string m_bytes;
+    void MakeRoom(std::size_t used, std::size_t more) {
+        if (used + more <= m_room) return;
+        m_room = std::max(used + more, 2 * m_room);
+        auto bytes = std::make_unique_for_overwrite<char[]>(m_room);
+        std::copy_n(m_bytes.get(), used, bytes.get());
+        m_bytes = std::move(bytes);
+    }
+
+    std::unique_ptr<char[]> m_bytes;
+    std::size_t m_room = 0;
     std::vector<std::size_t> m_ends;
 };
 
@@ -63,6 +75,21 @@ struct Entry {
     std::uint64_t prefix = 0;
     std::uint32_t number = 0;
 };
+
+// Byte by byte, the last one first; a byte that all entries share is passed over.
+void SortByPrefix(std::vector<Entry>& entries) {
+    std::vector<Entry> other(entries.size());
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        std::array<std::size_t, 256> place{};
+        for (const Entry& entry : entries)
+            ++place[entry.prefix >> shift & 0xFFU];
+        if (place[entries.front().prefix >> shift & 0xFFU] == entries.size()) continue;
+        std::exclusive_scan(place.begin(), place.end(), place.begin(), std::size_t{0});
+        for (const Entry& entry : entries)
+            other[place[entry.prefix >> shift & 0xFFU]++] = entry;
+        entries.swap(other);
+    }
+}
 
 // The names in the order of their keys.
 std::vector<Entry> SortedEntries(const Keys& keys) {
@@ -74,8 +101,14 @@ std::vector<Entry> SortedEntries(const Keys& keys) {
         if (left.prefix != right.prefix) return left.prefix < right.prefix;
         return keys.At(left.number) < keys.At(right.number);
     };
-    if (!std::is_sorted(entries.begin(), entries.end(), isBefore))
-        std::sort(entries.begin(), entries.end(), isBefore);
+    if (std::is_sorted(entries.begin(), entries.end(), isBefore)) return entries;
+    SortByPrefix(entries);
+    for (auto first = entries.begin(); first != entries.end();) {
+        const auto behind = std::find_if(
+            first, entries.end(), [first](const Entry& entry) { return entry.prefix != first->prefix; });
+        if (behind - first > 1) std::sort(first, behind, isBefore);
+        first = behind;
+    }
     return entries;
 }
 

@@ -3,6 +3,9 @@
 /// growing the index never looks at the bytes.
 #include "celllist/NameTable.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
 #include <functional>
 
 namespace vapp_library_browser {
@@ -10,22 +13,99 @@ namespace vapp_library_browser {
 namespace {
 
 constexpr std::size_t cnFirstSlots = 64;
+// So many names are looked up together.
+constexpr std::size_t cnBatch = 32;
+// An index of this size stays in the nearest memory anyway.
+constexpr std::size_t cnHotSlots = 1024;
 
+template <typename Word>
+std::uint64_t Load(const char* from) {
+    Word word;
+    std::memcpy(&word, from, sizeof word);
+    return word;
+}
+
+// As == of the two, without a call for the usual sizes.
+bool IsSame(std::string_view left, std::string_view right) {
+    const std::size_t size = left.size();
+    if (size != right.size()) return false;
+    if (size < 8 || size > 16) return left == right;
+    return Load<std::uint64_t>(left.data()) == Load<std::uint64_t>(right.data()) &&
+           Load<std::uint64_t>(left.data() + size - 8) == Load<std::uint64_t>(right.data() + size - 8);
+}
+
+// Names are short, and the standard hash spends most of its time on being called: of up to sixteen bytes the
+// first and the last eight, which may overlap, are multiplied together.
 std::uint32_t HashOf(std::string_view name) {
-    return static_cast<std::uint32_t>(std::hash<std::string_view>()(name));
+    const std::size_t size = name.size();
+    if (size > 16) return static_cast<std::uint32_t>(std::hash<std::string_view>()(name));
+    std::uint64_t front = 0;
+    std::uint64_t back = 0;
+    if (size >= 8) {
+        front = Load<std::uint64_t>(name.data());
+        back = Load<std::uint64_t>(name.data() + size - 8);
+    } else if (size >= 4) {
+        front = Load<std::uint32_t>(name.data());
+        back = Load<std::uint32_t>(name.data() + size - 4);
+    } else if (size > 0) {
+        front = Load<std::uint8_t>(name.data());
+        back = Load<std::uint8_t>(name.data() + size / 2) << 8U | Load<std::uint8_t>(name.data() + size - 1);
+    }
+    // Both halves of the product: the last byte of a name, often the one that differs, is in its high half
+    // only.
+    const auto product =
+        static_cast<unsigned __int128>(front ^ size ^ 0x9E3779B97F4A7C15U) * (back ^ 0xC2B2AE3D27D4EB4FU);
+    const auto mixed = static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64U);
+    return static_cast<std::uint32_t>(mixed ^ mixed >> 32U);
 }
 
 }  // namespace
 
 std::uint32_t NameTable::Intern(std::string_view name) {
-    if (2 * Count() >= m_slots.size()) Grow();
-    const std::uint32_t hash = HashOf(name);
+    return InternHashed(name, HashOf(name));
+}
+
+// A lookup waits for memory three times: for the slot, for the place of the name that stands there, and for
+// the bytes of that name. Each pass asks for what the next one needs, for an empty slot something of no use,
+// which costs less than to decide. What was asked for may be out of date by then, for a name that is added
+// moves the others; only the last pass decides.
+void NameTable::InternAll(std::span<const std::string_view> names, std::uint32_t* numbers) {
+    std::array<std::uint32_t, cnBatch> hashes;
+    if (m_slots.size() <= cnHotSlots && names.size() <= cnHotSlots / 4) {
+        std::transform(names.begin(), names.end(), numbers,
+                       [this](std::string_view name) { return Intern(name); });
+        return;
+    }
+    for (std::size_t first = 0; first < names.size(); first += cnBatch) {
+        const std::size_t count = std::min(cnBatch, names.size() - first);
+        while (IsFullFor(count))
+            Grow();
+        const std::size_t mask = m_slots.size() - 1;
+        for (std::size_t at = 0; at < count; ++at) {
+            hashes[at] = HashOf(names[first + at]);
+            __builtin_prefetch(&m_slots[hashes[at] & mask]);
+        }
+        const auto numberAt = [&](std::size_t at) {
+            const std::uint32_t numberPlusOne = m_slots[hashes[at] & mask].numberPlusOne;
+            return numberPlusOne - static_cast<std::uint32_t>(numberPlusOne != 0);
+        };
+        for (std::size_t at = 0; at < count; ++at)
+            __builtin_prefetch(&m_starts[numberAt(at)]);
+        for (std::size_t at = 0; at < count; ++at)
+            __builtin_prefetch(m_bytes.data() + m_starts[numberAt(at)]);
+        for (std::size_t at = 0; at < count; ++at)
+            numbers[first + at] = InternHashed(names[first + at], hashes[at]);
+    }
+}
+
+std::uint32_t NameTable::InternHashed(std::string_view name, std::uint32_t hash) {
+    if (IsFullFor(1)) Grow();
     Slot& slot = m_slots[SlotOf(name, hash)];
     if (slot.numberPlusOne == 0) {
+        slot = {hash, static_cast<std::uint32_t>(Count() + 1)};
         m_bytes.insert(m_bytes.end(), name.begin(), name.end());
         m_bytes.push_back('\0');
-        m_ends.push_back(m_bytes.size());
-        slot = {hash, static_cast<std::uint32_t>(Count())};
+        m_starts.push_back(m_bytes.size());
     }
     return slot.numberPlusOne - 1;
 }
@@ -36,12 +116,16 @@ std::optional<std::uint32_t> NameTable::Find(std::string_view name) const {
     return slot.numberPlusOne == 0 ? std::nullopt : std::optional(slot.numberPlusOne - 1);
 }
 
+bool NameTable::IsFullFor(std::size_t more) const {
+    return 2 * (Count() + more) > m_slots.size();
+}
+
 // The slot that holds the name, or the empty one where it belongs.
 std::size_t NameTable::SlotOf(std::string_view name, std::uint32_t hash) const {
     const std::size_t mask = m_slots.size() - 1;
     std::size_t at = hash & mask;
     while (m_slots[at].numberPlusOne != 0 &&
-           (m_slots[at].hash != hash || At(m_slots[at].numberPlusOne - 1) != name)) {
+           (m_slots[at].hash != hash || !IsSame(At(m_slots[at].numberPlusOne - 1), name))) {
         at = (at + 1) & mask;
     }
     return at;
@@ -54,8 +138,6 @@ CStringU NameTable::Text(std::uint32_t number) const {
 
 void NameTable::Freeze() {
     m_slots = {};
-    m_bytes.shrink_to_fit();
-    m_ends.shrink_to_fit();
 }
 
 void NameTable::Grow() {

@@ -64,8 +64,8 @@ void TReport::DumpContents(const std::vector<CStringU>& columns, CStringU& out) 
 CStringU TReport::GetShownCellList() const {
     std::string text;
     for (std::size_t row = 0; row < m_cells->Count(); ++row) {
-        const std::string_view cell = m_cells->Name(row, NameRole::Cell);
-        if (!cell.empty()) text.append(cell).append("\r\n");
+        const char* cell = m_cells->Name(row, NameRole::Cell).data();
+        if (*cell != '\0') text.append(cell).append("\r\n");
     }
     return FromUtf8(text);
 }
@@ -73,10 +73,10 @@ CStringU TReport::GetShownCellList() const {
 CStringU TReport::GetShownCellViewList() const {
     std::string text;
     for (std::size_t row = 0; row < m_cells->Count(); ++row) {
-        const std::string_view cell = m_cells->Name(row, NameRole::Cell);
-        if (cell.empty()) continue;
-        text.append(m_cells->Name(row, NameRole::Library)).append(" ").append(cell).append(" ");
-        text.append(m_cells->Name(row, NameRole::View)).append("\r\n");
+        const char* cell = m_cells->Name(row, NameRole::Cell).data();
+        if (*cell == '\0') continue;
+        text.append(m_cells->Name(row, NameRole::Library).data()).append(" ").append(cell).append(" ");
+        text.append(m_cells->Name(row, NameRole::View).data()).append("\r\n");
     }
     return FromUtf8(text);
 }
