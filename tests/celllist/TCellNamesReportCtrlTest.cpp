@@ -1,6 +1,7 @@
 #include "vapp/celllist/TCellNamesReportCtrl.h"
 
 #include "tests/celllist/CellListFixture.h"
+#include "tests/toolkit/RecordingPeers.h"
 
 namespace {
 
@@ -54,6 +55,51 @@ TEST_F(TCellNamesReportCtrlTest, KeepsTheColumnOfCellsInPlace) {
     Column("Cell").SetVisible(false);
     EXPECT_EQ(Report().GetFreezeColumnsCount(), 0);
     EXPECT_GT(Report().GetInvalidateCount(), invalidated);
+}
+
+// Notes how many columns are frozen at the moment that it hears of a change of the columns.
+class FreezeReadingPeer : public Peer {
+public:
+    FreezeReadingPeer(const CXTPReportControl& report, std::vector<int>& counts)
+        : m_report(report), m_counts(counts) {}
+    void Changed(UINT changes) override {
+        if ((changes & cnChangeColumns) != 0) m_counts.push_back(m_report.GetFreezeColumnsCount());
+    }
+    void Invalidate(bool /*erase*/) override {}
+    void UpdateNow() override {}
+    [[nodiscard]] void* NativeHandle() const override { return &m_counts; }
+
+private:
+    const CXTPReportControl& m_report;
+    std::vector<int>& m_counts;
+};
+
+class FreezeReadingPeers : public RecordingPeers {
+public:
+    std::unique_ptr<Peer> CreateReport(CXTPReportControl& report) override {
+        return std::make_unique<FreezeReadingPeer>(report, m_counts);
+    }
+    std::vector<int> m_counts;
+};
+
+class TReportHeaderTest : public CellListFixture {
+protected:
+    FreezeReadingPeers m_peers;
+};
+
+TEST_F(TReportHeaderTest, TellsTheReportBeforeItTellsThePeer) {
+    {
+        TCellListView pane;
+        pane.Create(&m_frame, 0);
+        pane.OnInitialUpdate();
+        TReport& report = pane.GetReport();
+        ASSERT_EQ(report.GetFreezeColumnsCount(), 1);
+        m_peers.m_counts.clear();
+        report.GetColumns().ChangeColumnOrder(0, report.GetColumns().GetAt(2));
+    }
+    ASSERT_FALSE(m_peers.m_counts.empty());
+    for (const int count : m_peers.m_counts)
+        EXPECT_EQ(count, 2);
 }
 
 TEST_F(TCellNamesReportCtrlTest, ReadsTheViewsToLeaveOutFromItsSetting) {
