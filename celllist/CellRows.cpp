@@ -10,6 +10,7 @@
 
 #include "text/Compare.h"
 #include "vapp/browser/TTclList.h"
+#include "vapp/browser/TclBridge.h"
 
 namespace vapp_library_browser {
 
@@ -17,10 +18,12 @@ namespace {
 
 constexpr std::array cnSetOrder = {NameRole::Cell, NameRole::View, NameRole::Library};
 
-// The string is there already for nearly every object of an answer.
+// To the first NUL, as everybody reads a text of Tcl. The string is there already for nearly every object of
+// an answer.
 std::string_view BytesOf(Tcl_Obj* object) {
-    if (object->bytes == nullptr) static_cast<void>(Tcl_GetString(object));
-    return {object->bytes, static_cast<std::size_t>(object->length)};
+    if (object->bytes != nullptr) return object->bytes;
+    const std::string_view bytes = ReadBytes(object);
+    return bytes.empty() ? std::string_view("") : bytes.substr(0, bytes.find('\0'));
 }
 
 // Triples on their way into the tables, some hundred at a time: looking names up is waiting for memory, and

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cassert>
 #include <cstring>
 #include <functional>
 
@@ -55,13 +57,17 @@ std::uint32_t HashOf(std::string_view name) {
     // only.
     const auto product =
         static_cast<unsigned __int128>(front ^ size ^ 0x9E3779B97F4A7C15U) * (back ^ 0xC2B2AE3D27D4EB4FU);
-    const auto mixed = static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64U);
-    return static_cast<std::uint32_t>(mixed ^ mixed >> 32U);
+    // A half that cancels against its constant makes the product 0, whatever the other one is; and a place in
+    // the index is made of the lowest bits, which have to know of all others.
+    const auto folded = static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64U);
+    const std::uint64_t mixed = folded ^ front ^ std::rotl(back, 32);
+    return static_cast<std::uint32_t>(((mixed ^ mixed >> 32U) * 0xD6E8FEB86659FD93U) >> 32U);
 }
 
 }  // namespace
 
 std::uint32_t NameTable::Intern(std::string_view name) {
+    assert(!IsFrozen());
     return InternHashed(name, HashOf(name));
 }
 
@@ -70,6 +76,7 @@ std::uint32_t NameTable::Intern(std::string_view name) {
 // which costs less than to decide. What was asked for may be out of date by then, for a name that is added
 // moves the others; only the last pass decides.
 void NameTable::InternAll(std::span<const std::string_view> names, std::uint32_t* numbers) {
+    assert(!IsFrozen());
     std::array<std::uint32_t, cnBatch> hashes;
     if (m_slots.size() <= cnHotSlots && names.size() <= cnHotSlots / 4) {
         std::transform(names.begin(), names.end(), numbers,
@@ -111,6 +118,7 @@ std::uint32_t NameTable::InternHashed(std::string_view name, std::uint32_t hash)
 }
 
 std::optional<std::uint32_t> NameTable::Find(std::string_view name) const {
+    assert(!IsFrozen());
     if (m_slots.empty()) return std::nullopt;
     const Slot& slot = m_slots[SlotOf(name, HashOf(name))];
     return slot.numberPlusOne == 0 ? std::nullopt : std::optional(slot.numberPlusOne - 1);
@@ -138,6 +146,15 @@ CStringU NameTable::Text(std::uint32_t number) const {
 
 void NameTable::Freeze() {
     m_slots = {};
+}
+
+std::size_t NameTable::LongestProbe() const {
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t longest = 0;
+    for (std::size_t at = 0; at < m_slots.size(); ++at) {
+        if (m_slots[at].numberPlusOne != 0) longest = std::max(longest, ((at - m_slots[at].hash) & mask) + 1);
+    }
+    return longest;
 }
 
 void NameTable::Grow() {

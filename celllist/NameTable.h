@@ -5,8 +5,7 @@
 /// ranks, filter tests) is done once for each name.
 ///
 /// Names are told apart by their bytes alone: "A" and "a" are two names here. Which of them count as the same
-/// is a matter of ranks (NameRanks.h). A NUL inside, which no proper Tcl text has, ends the name for
-/// everybody but this table.
+/// is a matter of ranks (NameRanks.h). No name has a NUL inside.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +21,7 @@ namespace vapp_library_browser {
 
 class NameTable {
 public:
-    /// Number of the name, which is added if it is new.
+    /// Number of the name, which is added if it is new. Not after `Freeze`.
     std::uint32_t Intern(std::string_view name);
     /// Numbers of names, which are added if they are new: as `Intern` of one after the other, but the memory
     /// that one lookup waits for is fetched while others are worked on. For a large table that is a multiple
@@ -38,8 +37,10 @@ public:
     }
     /// The name as a text of the system.
     [[nodiscard]] CStringU Text(std::uint32_t number) const;
-    /// Gives back what only `Intern` needs. No name may be added afterwards.
+    /// Gives back what only `Intern` and `Find` need; neither may be called afterwards.
     void Freeze();
+    /// The most places that a lookup of one of the names has to look at; for judging the index, not for use.
+    [[nodiscard]] std::size_t LongestProbe() const;
 
 private:
     struct Slot {
@@ -50,6 +51,7 @@ private:
     std::uint32_t InternHashed(std::string_view name, std::uint32_t hash);
     [[nodiscard]] bool IsFullFor(std::size_t more) const;
     [[nodiscard]] std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    [[nodiscard]] bool IsFrozen() const { return m_slots.empty() && Count() > 0; }
     void Grow();
 
     std::vector<char> m_bytes;

@@ -51,8 +51,10 @@ void TReport::DumpContents(const std::vector<CStringU>& columns, CStringU& out) 
     for (const TColumn* column : chosen)
         text.append(CStringU(column->GetCaption()).Payload()).append(1, ',');
     text.back() = '\n';
-    // By number and with the count read anew: the text of a host's column may populate the list.
-    for (std::uint64_t row = 0; row < GetCellViewCount(); ++row) {
+    // The text of a host's column may populate the list: by number, with the count read anew for a list that
+    // shrinks, and no further than it reached at first for one that grows with every row.
+    const std::uint64_t countAtStart = GetCellViewCount();
+    for (std::uint64_t row = 0; row < countAtStart && row < GetCellViewCount(); ++row) {
         const TLibCellView cell = GetCell(row);
         for (TColumn* column : chosen)
             text.append(column->GetCellText(cell).Payload()).append(1, ',');

@@ -4,6 +4,7 @@
 #include <tcl.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 #include <set>
 #include <string>
@@ -50,6 +51,18 @@ TEST_F(CellRowsTest, ReadsTriplesAndSkipsElementsOfOtherLengths) {
     EXPECT_EQ(Texts(*rows), (TRows{"l|c|v", "||", "l 2|c\nd|{"}));
 }
 
+TEST_F(CellRowsTest, ReadsLongListsWhoseNeighboursShareNames) {
+    std::string answer;
+    TRows expected;
+    for (int row = 0; row < 3000; ++row) {
+        const std::string cell = "c" + std::to_string(row / 7 % 900);
+        const std::string view = row % 300 < 290 ? "sym" : "lay";
+        answer += "{l " + cell + " " + view + "} ";
+        expected.push_back("l|" + cell + "|" + view);
+    }
+    EXPECT_EQ(Texts(*Read(answer)), expected);
+}
+
 TEST_F(CellRowsTest, RefusesAnAnswerOrAnElementThatIsNoList) {
     EXPECT_FALSE(Read("{l c v"));
     EXPECT_FALSE(Read("{l c v} \"{l c\""));
@@ -82,6 +95,25 @@ TEST_F(CellRowsTest, FindsTheFirstRowWithoutRegardToCaseAndView) {
     EXPECT_EQ(rows->Find("L", "Inv", nullptr), 1u);
     EXPECT_EQ(rows->Find("L", "Inv", &view), 2u);
     EXPECT_EQ(rows->Find("L", "x", nullptr), std::nullopt);
+}
+
+// Tcl hands texts out by their first byte alone, and everybody reads them to the first NUL.
+TEST_F(CellRowsTest, EndsANameAtItsFirstNul) {
+    const auto bytes = [](std::string_view text) {
+        return Tcl_NewStringObj(text.data(), static_cast<int>(text.size()));
+    };
+    const TTclObject list(Tcl_NewListObj(0, nullptr));
+    for (const std::string_view cell : {std::string_view("a\0b", 3), std::string_view("a"),
+                                        std::string_view("a\0c", 3), std::string_view("\0", 1)}) {
+        Tcl_Obj* names[] = {bytes("l"), bytes(cell), bytes("v")};
+        Tcl_ListObjAppendElement(nullptr, list.Get(), Tcl_NewListObj(3, names));
+    }
+    auto rows = CellRows::Read(list.Get());
+    ASSERT_TRUE(rows);
+    EXPECT_EQ(Texts(*rows), (TRows{"l|a|v", "l|a|v", "l|a|v", "l||v"}));
+    EXPECT_EQ(rows->Names(NameRole::Cell).Count(), 2u);
+    rows->ArrangeAsSet();
+    EXPECT_EQ(Texts(*rows), (TRows{"l||v", "l|a|v"}));
 }
 
 // --- Against the plain way: a set of values, sorted by comparing texts -----------------------------------
@@ -164,6 +196,82 @@ TEST_F(CellRowsTest, ArrangesAsASetAndASortOfTheValuesWould) {
             EXPECT_EQ(Texts(asSet), model.Texts());
         }
     } while (std::next_permutation(roles.begin(), roles.end()));
+}
+
+// Answers are read in blocks, and what a block ends with is remembered for the next one.
+class AnswerBuilder {
+public:
+    explicit AnswerBuilder(unsigned seed) : m_random(seed) {}
+
+    // Runs of one name, of lengths up to `longestRun`; the same object for the whole run, or for each row a
+    // new one. Elements of other lengths stand in between.
+    void Add(std::size_t count, std::size_t longestRun, std::size_t distinct) {
+        std::array<std::size_t, 3> left{};
+        std::array<std::string, 3> names;
+        std::array<TTclObject, 3> objects;
+        for (std::size_t row = 0; row < count; ++row) {
+            for (std::size_t role = 0; role < 3; ++role) {
+                const bool next = left[role] == 0;
+                if (next) {
+                    left[role] = 1 + m_random() % longestRun;
+                    names[role] = "n" + std::to_string(m_random() % distinct);
+                }
+                --left[role];
+                if (next || m_random() % 2 == 0) objects[role] = TTclObject(New(names[role]));
+            }
+            Tcl_Obj* triple[] = {objects[0].Get(), objects[1].Get(), objects[2].Get()};
+            Append(Tcl_NewListObj(3, triple));
+            m_cells.emplace_back(names[0].c_str(), names[1].c_str(), names[2].c_str());
+            if (row % 256 >= 254 || m_random() % 50 == 0)
+                Append(Tcl_NewListObj(static_cast<int>(m_random() % 3), triple));
+        }
+    }
+    [[nodiscard]] Tcl_Obj* Get() const { return m_list.Get(); }
+    [[nodiscard]] const std::vector<TLibCellView>& Cells() const { return m_cells; }
+
+private:
+    static Tcl_Obj* New(const std::string& name) { return Tcl_NewStringObj(name.c_str(), -1); }
+    void Append(Tcl_Obj* element) { Tcl_ListObjAppendElement(nullptr, m_list.Get(), element); }
+
+    std::mt19937 m_random;
+    TTclObject m_list{Tcl_NewListObj(0, nullptr)};
+    std::vector<TLibCellView> m_cells;
+};
+
+TEST_F(CellRowsTest, ReadsAnswersOfAnySizeAsTheyStand) {
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    for (const std::size_t size : {0u, 1u, 255u, 256u, 257u, 512u, 513u, 3000u}) {
+        for (const std::size_t longestRun : {1u, 3u, 400u, 5000u}) {
+            for (const std::size_t distinct : {2u, 100000u}) {
+                SCOPED_TRACE(std::to_string(size) + " rows, runs of " + std::to_string(longestRun));
+                AnswerBuilder answer(seed);
+                answer.Add(size, longestRun, distinct);
+                auto rows = CellRows::Read(answer.Get());
+                ASSERT_TRUE(rows);
+                TRows expected;
+                for (const TLibCellView& cell : answer.Cells())
+                    expected.emplace_back(cell.Join("|").Payload());
+                ASSERT_EQ(Texts(*rows), expected);
+                const std::set<TLibCellView> set(answer.Cells().begin(), answer.Cells().end());
+                rows->ArrangeAsSet();
+                EXPECT_EQ(Texts(*rows), (Model{{set.begin(), set.end()}, {}}.Texts()));
+            }
+        }
+    }
+}
+
+TEST_F(CellRowsTest, ReadsThreeThousandNamesThatAreAllDifferent) {
+    std::vector<TLibCellView> cells;
+    TRows expected;
+    for (int cell = 0; cell < 3000; ++cell) {
+        cells.emplace_back("l", ("c" + std::to_string(cell * 7 % 3000)).c_str(), "v");
+        expected.emplace_back(cells.back().Join("|").Payload());
+    }
+    const CellRows rows = Read(cells);
+    EXPECT_EQ(Texts(rows), expected);
+    EXPECT_EQ(rows.Names(NameRole::Cell).Count(), 3000u);
+    EXPECT_EQ(rows.Names(NameRole::View).Count(), 1u);
 }
 
 TEST_F(CellRowsTest, ArrangesByKeysAsComparingTheirTextsWould) {

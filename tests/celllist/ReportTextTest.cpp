@@ -55,6 +55,25 @@ TEST_F(ReportTextTest, SurvivesAPopulationInTheMiddleOfADump) {
     EXPECT_EQ(Dump({"State", "Library"}), "State,Library\n,l2\n");
 }
 
+TEST_F(ReportTextTest, EndsThoughTheListGrowsWithEveryRowOfTheDump) {
+    m_host.AddCommand("state");
+    TTriples triples = {{"l1", "a", "v"}, {"l1", "b", "v"}};
+    AnswerCells(triples);
+    Repopulate();
+    int asked = 0;
+    m_host.HandleStart("state", [&](Tcl_Interp*) {
+        if (++asked > 20) return TCL_OK;
+        triples.push_back({"l1", "c" + std::to_string(asked), "v"});
+        AnswerCells(triples);
+        Repopulate();
+        return TCL_OK;
+    });
+    Report().AddColumn("State", "state", true, false);
+    EXPECT_EQ(Dump({"State", "Cell"}), "State,Cell\n,a\n,b\n");
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(Report().GetCellViewCount(), 4u);
+}
+
 TEST_F(ReportTextTest, ListsTheCellsOfRowsThatHaveOne) {
     EXPECT_STREQ(Report().GetShownCellList().Payload(), "a\r\na\r\nb\xC3\xA9\r\n");
     EXPECT_STREQ(Report().GetShownCellViewList().Payload(), "l1 a lay\r\nl1 a sym\r\nl2 b\xC3\xA9 v\r\n");
