@@ -14,8 +14,10 @@ namespace vapp_library_browser {
 /// The most brackets of a line that may be open at a time; some hundred kilobytes of stack in Tcl.
 inline constexpr std::size_t cnMaxOpenBrackets = 200;
 
-/// True if the line may open more brackets than that. Brackets that a hook has put in braces or behind
-/// backslashes don't count, however many.
+/// True if the line may open more brackets than that. Brackets in braces, in quotes without commands, or
+/// behind backslashes don't count, however many, nor do parentheses that are no index of a variable. A line
+/// that runs a command of its own, or uses a variable, may be refused though its brackets stand beside one
+/// another.
 [[nodiscard]] bool MayNestTooDeep(std::string_view line) noexcept;
 
 }  // namespace vapp_library_browser

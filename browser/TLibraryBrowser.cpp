@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "browser/RunningLines.h"
 #include "vapp/browser/ColumnChooser.h"
 #include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/TLibraryView.h"
@@ -57,6 +58,7 @@ TLibraryBrowser::~TLibraryBrowser() {
 bool TLibraryBrowser::Initialize(CFrameWnd* parent, Tcl_Interp* interp,
                                  CXTPReportSubListControl* columnChooser) {
     if (GetRowCount() != 0) return false;
+    if (MayFreePanes()) FreeEndedPanes();
     gColumnChooser() = columnChooser;
     if (!CreateStatic(parent, static_cast<int>(PaneRows().size()), 1, cnFirstPaneID)) return false;
     CreatePanes();
@@ -96,6 +98,11 @@ void TLibraryBrowser::OnDestroy() {
         }
     }
     CSplitterWnd::OnDestroy();
+}
+
+// A line's sender goes on when the line has ended, whatever the line did to the window.
+bool TLibraryBrowser::MayFreePanes() const {
+    return !IsLineRunning();
 }
 
 void TLibraryBrowser::SerializeSetup(bool store) {

@@ -43,13 +43,13 @@ EditorState AskEditorState(const TLibraryView& view, const CStringU& library) {
     return state;
 }
 
-// The top library of the design stands out by the plain text colour. A failed line makes none stand out.
+// The top library of the design stands out by the plain text colour. A failed line tells the empty name,
+// which no library has but one without a name.
 COLORREF AskTextColor(const TLibraryView& view, const CStringU& library) {
     if (view.GetQEdit()) return cnNoColor;
     TLineBuilder line("database top_level ");
     line.Name(view.GetSelectedDesign());
-    const TTclObject answer = AskTcl(view.GetTclInterp(), line.GetString());
-    return answer && MakeText(answer.Get()) == library ? cnNoColor : cnOtherLibraryText;
+    return AskTclText(view.GetTclInterp(), line.GetString()) == library ? cnNoColor : cnOtherLibraryText;
 }
 
 void ApplyDarkTheme(ListItemLook& look) {

@@ -24,7 +24,8 @@ constexpr std::array<DialogItem, 3> cnItems = {{
 }};
 constexpr DialogTemplate cnTemplate = {TLibraryView::cnDialog, {240, 200}, cnItems};
 
-// Width of a vertical scroll bar, which the column leaves free.
+// What the column leaves free for a vertical scroll bar. A number and not the desktop's own width: the logic
+// counts in pixels of its own, which a peer scales, and a bar that is a little wider just hides a blank edge.
 constexpr int cnScrollBarWidth = 17;
 
 constexpr char csOrderSetting[] = "LibrariesInLibDefsOrder";
@@ -51,10 +52,15 @@ void TLibraryView::OnInitialUpdate() {
     CFormView::OnInitialUpdate();
     m_libraryList.SetExtendedStyle(0, cnListFullRowSelect | cnListDoubleBuffer);
     m_libraryList.InsertColumn(0, "Library");
+    // Its own tips show cut texts; ours show the path of the library.
     m_libraryList.ActivateToolTips(false);
+    m_libraryList.EnableToolTips(true);
+    EnableToolTips(true);
     bool definitionOrder = false;
     TProfileSection(false).ExchangeBool(csOrderSetting, definitionOrder, false);
     m_alphabetical = !definitionOrder;
+    // The pane got its size before the column was there.
+    OnSize(0, 0, 0);
 }
 
 void TLibraryView::OnSize(UINT type, int cx, int cy) {

@@ -3,11 +3,11 @@
 /// selection survives, and what the selected master of the database has to do with it.
 ///
 /// Three places run host script: the two lines, and the refresh of the cell list for a pending highlight.
-/// Script may come back here by any exported operation. A refresh inside of a refresh returns at once; a
-/// request inside of one outlives its end; and what the pane holds stays whole until the answer is there
-/// (docs/decisions/0010-reentry.md).
+/// Script may come back here by any exported operation, and may end the window. A refresh inside of a refresh
+/// returns at once, and a request inside of one is served by it (docs/decisions/0010-reentry.md).
 #include <utility>
 
+#include "toolkit/FlagGuard.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/PendingHighlight.h"
 #include "vapp/browser/TLibraryView.h"
@@ -20,23 +20,10 @@ namespace {
 
 constexpr COLORREF cnLightBackground = 0xFFFFFF;
 
-/// Sets a flag for the length of a block.
-class TFlagGuard {
-public:
-    explicit TFlagGuard(bool& flag) : m_flag(flag) { m_flag = true; }
-    TFlagGuard(const TFlagGuard&) = delete;
-    TFlagGuard& operator=(const TFlagGuard&) = delete;
-    ~TFlagGuard() { m_flag = false; }
-
-private:
-    bool& m_flag;
-};
-
 }  // namespace
 
 void TLibraryView::RequestDelayedPopulate() {
     m_needsPopulate = true;
-    m_requestedMeanwhile = true;
     if (m_libraryList.IsWindow()) m_libraryList.Invalidate(true);
 }
 
@@ -53,7 +40,7 @@ bool TLibraryView::FetchSelectedMaster() {
     gPendingHighlight().reset();
     TTclObject answer;
     {
-        const TFlagGuard asking(m_askingSelectedMaster);
+        const FlagGuard asking(m_askingSelectedMaster);
         answer = AskTcl(m_interp, "database selected_master");
     }
     const auto names = TTclList::Read(answer.Get());
@@ -66,8 +53,7 @@ bool TLibraryView::FetchSelectedMaster() {
 
 void TLibraryView::Populate() {
     if (!m_needsPopulate || m_interp == nullptr || m_populating) return;
-    const TFlagGuard populating(m_populating);
-    m_requestedMeanwhile = false;
+    const FlagGuard populating(m_populating);
     UpdateListBackground();
     if (!FetchDesigns()) return;
     CStringU design = GetSelectedDesign();
@@ -76,7 +62,7 @@ void TLibraryView::Populate() {
     ShowPendingHighlight();
     m_designCombo.Invalidate();
     PopulateList();
-    m_needsPopulate = m_requestedMeanwhile;
+    m_needsPopulate = false;
 }
 
 void TLibraryView::UpdateListBackground() {
@@ -88,10 +74,9 @@ void TLibraryView::UpdateListBackground() {
 
 // False if the answer is none, or not of the form that is expected; the maps then hold what was told so far.
 bool TLibraryView::FetchDesigns() {
-    const TTclObject answer = AskTcl(m_interp, "database all_libs");
-    // Not before the answer: until then script that selects a design finds the libraries of the last refresh.
     m_designLibraries.clear();
     m_designLibraryOrder.clear();
+    const TTclObject answer = AskTcl(m_interp, "database all_libs");
     const auto designs = TTclList::Read(answer.Get());
     if (!designs) return false;
     for (Tcl_Obj* element : *designs) {
@@ -166,10 +151,11 @@ void TLibraryView::FillList(const CStringU& design, const TPathOfLibrary& librar
     const std::set<CStringIU> selected = GetSelectedLibrariesSet();
     m_libraryList.SetRedraw(false);
     m_libraryList.DeleteAllItems();
+    // Selected at the end and at once: each change of a state is a walk over all rows.
+    RowSelection again;
     const auto add = [&](const CStringU& library) {
         const int row = m_libraryList.InsertItem(m_libraryList.GetItemCount(), library);
-        // New rows are not selected; each change of a state is a walk over all rows.
-        if (selected.contains(library)) m_libraryList.SetItemState(row, cnListSelected, cnListSelected);
+        if (selected.contains(library)) again.Add(row, row);
     };
     if (m_alphabetical) {
         for (const auto& [library, path] : libraries)
@@ -178,6 +164,7 @@ void TLibraryView::FillList(const CStringU& design, const TPathOfLibrary& librar
         for (const CStringU& library : order->second)
             add(library);
     }
+    m_libraryList.SelectItems(again);
     m_libraryList.SetRedraw(true);
     m_libraryList.Invalidate();
 }

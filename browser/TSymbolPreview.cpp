@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "toolkit/FlagGuard.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
@@ -75,13 +76,12 @@ void TSymbolPreview::DisplayNewPreview() {
         m_askedMeanwhile = true;
         return;
     }
-    m_asking = true;
+    const FlagGuard asking(m_asking);
     m_askedMeanwhile = false;
     ShowFocusedCell();
     // Once more if the line moved the focus or the size, and no more than once: a host that refreshes the
     // navigator in every answer would go on without end.
     if (m_askedMeanwhile) ShowFocusedCell();
-    m_asking = false;
 }
 
 void TSymbolPreview::ShowFocusedCell() {

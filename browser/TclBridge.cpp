@@ -10,7 +10,9 @@
 
 #include <string_view>
 
+#include "browser/AnswerDepth.h"
 #include "browser/LineNesting.h"
+#include "browser/RunningLines.h"
 
 namespace vapp_library_browser {
 
@@ -50,6 +52,10 @@ private:
 
 }  // namespace
 
+bool IsLineRunning() noexcept {
+    return s_nestedLines > 0;
+}
+
 bool EnsureTclBound(Tcl_Interp* interp) {
     static bool s_bound = false;
     if (interp == nullptr) return false;
@@ -71,8 +77,10 @@ int EvaluateTcl(Tcl_Interp* interp, const char* line, TTclObject* result) {
 }
 
 int EvaluateTcl(Tcl_Interp* interp, const CStringU& line, Tcl_Obj** result) {
+    // The line's own script may change the caller's text while Tcl reads it.
+    const CStringU held = line;
     TTclObject answer;
-    const int code = EvaluateTcl(interp, line.Payload(), result != nullptr ? &answer : nullptr);
+    const int code = EvaluateTcl(interp, held.Payload(), result != nullptr ? &answer : nullptr);
     if (result != nullptr) *result = answer.Release();
     return code;
 }
@@ -96,7 +104,7 @@ CStringU AskTclText(Tcl_Interp* interp, const char* line) {
 std::optional<int> ReadInteger(Tcl_Obj* answer) noexcept {
     int value = 0;
     // Without an interpreter, which would receive the error text of a bad answer.
-    if (answer == nullptr || Tcl_GetIntFromObj(nullptr, answer, &value) != TCL_OK) return std::nullopt;
+    if (!HasReadableText(answer) || Tcl_GetIntFromObj(nullptr, answer, &value) != TCL_OK) return std::nullopt;
     return value;
 }
 
@@ -105,7 +113,7 @@ bool ReadFlag(Tcl_Obj* answer) noexcept {
 }
 
 std::string_view ReadBytes(Tcl_Obj* answer) noexcept {
-    if (answer == nullptr) return {};
+    if (!HasReadableText(answer)) return {};
     int length = 0;
     const char* bytes = Tcl_GetStringFromObj(answer, &length);
     return {bytes, static_cast<std::size_t>(length)};

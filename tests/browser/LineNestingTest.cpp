@@ -24,6 +24,11 @@ TEST(LineNesting, OrdinaryLinesPass) {
     EXPECT_FALSE(MayNestTooDeep("database cellviewinfo is_fab top lib inv layout "));
     EXPECT_FALSE(MayNestTooDeep("edit [current] $x(1)"));
     EXPECT_FALSE(MayNestTooDeep(Times(cnMaxOpenBrackets, "[")));
+    const std::string libraries = " -libraries {" + Times(201, " lib(0)") + "}";
+    EXPECT_FALSE(MayNestTooDeep("database cells -library \"my top\"" + libraries));
+    EXPECT_FALSE(MayNestTooDeep("edit $design" + libraries)) << "no index of a variable";
+    EXPECT_FALSE(MayNestTooDeep("edit [current]" + Times(201, " bus\\[3\\]"))) << "escaped";
+    EXPECT_FALSE(MayNestTooDeep("edit \"a \\[b\\] \\$c(\"" + Times(201, " {bus[3]}")));
 }
 
 TEST(LineNesting, BracketsThatAHookHasQuotedDoNotCount) {
@@ -41,6 +46,11 @@ TEST(LineNesting, EverythingThatTclWouldOpenCounts) {
                               "{a\\}} [", "{a\\\\} ["}) {
         EXPECT_TRUE(MayNestTooDeep(start + Times(cnMaxOpenBrackets + 1, "["))) << start;
     }
+    for (const char* start : {"\"a$b\" {", "\"a\\\\[b\" {", "x \\\n\"a {b\" ", "\"a\"{", "\\\\"}) {
+        EXPECT_TRUE(MayNestTooDeep(start + Times(cnMaxOpenBrackets + 1, "["))) << start;
+    }
+    EXPECT_TRUE(MayNestTooDeep("x " + Times(3000, "$(")));
+    EXPECT_TRUE(MayNestTooDeep("x " + Times(3000, "$a::b_1\xC3\xA9(")));
     EXPECT_TRUE(MayNestTooDeep(Times(10000, "[")));
     EXPECT_TRUE(MayNestTooDeep("database x " + Times(3000, "$x(")));
     EXPECT_TRUE(MayNestTooDeep("database x " + Times(3000, "[\\]")));

@@ -43,6 +43,11 @@ TEST_F(TLibraryListCtrlTest, AFailedQuestionMakesNoLibraryStandOut) {
     EXPECT_EQ(Look(0).textColor, 0xFF0000u);
 }
 
+TEST_F(TLibraryListCtrlTest, ALibraryWithoutANameStandsOutWhenTheQuestionFails) {
+    Show({""});
+    EXPECT_EQ(Look(0).textColor, cnNoColor);
+}
+
 TEST_F(TLibraryListCtrlTest, EachPaintingAsksOnceWithTheSanitisedDesign) {
     Initialize();
     m_host.Answer("database all_libs", "{{my top} {a /a}}");

@@ -17,7 +17,10 @@ TEST_F(TLibraryViewTest, TheListIsSetUpOnce) {
     EXPECT_EQ(list.GetExtendedStyle(), 0x10020u);
     EXPECT_EQ(list.GetColumnCount(), 1);
     EXPECT_EQ(list.GetColumnCaption(0), CString("Library"));
-    EXPECT_FALSE(list.AreToolTipsActive());
+    EXPECT_FALSE(list.AreToolTipsActive()) << "its own tips";
+    EXPECT_TRUE(list.AreToolTipsEnabled()) << "ours";
+    EXPECT_TRUE(Libraries().AreToolTipsEnabled());
+    EXPECT_EQ(list.GetColumnWidth(0), 392 - 4 - 17) << "from the start, without a resize";
 }
 
 TEST_F(TLibraryViewTest, TheOrderIsAlphabeticalUnlessTheSettingSaysOtherwise) {
@@ -60,6 +63,7 @@ TEST_F(TLibraryViewTest, InTheEditorModeTheFrameTakesThePlaceOfTheCombo) {
     Initialize();
     m_browser.ModifyForQEdit();
     TLibraryView& view = Libraries();
+    EXPECT_EQ(view.GetDlgItem(TLibraryView::cnFrameId)->GetRect(), CRect(4, 4, 396, 196)) << "at once";
     view.MoveWindow({0, 0, 300, 400});
     EXPECT_TRUE(view.GetQEdit());
     EXPECT_FALSE(view.GetDesignCombo().IsWindowVisible());

@@ -120,4 +120,12 @@ TEST(TProfileSectionWithoutApplication, ReadsDefaultsAndWritesNothing) {
     TProfileSection(true).ExchangeInteger("Number", number, 5);
     TProfileSection(false).ExchangeInteger("Number", number, 5);
     EXPECT_EQ(number, 5);
+    CStringU text("x");
+    TProfileSection(true).ExchangeText("Text", text, "default");
+    TProfileSection(false).ExchangeText("Text", text, "default");
+    EXPECT_EQ(text, CStringU("default"));
+    std::set<CStringIU> names = {CStringIU("x")};
+    TProfileSection(true).ExchangeSet("Set", names);
+    TProfileSection(false).ExchangeSet("Set", names);
+    EXPECT_TRUE(names.empty());
 }

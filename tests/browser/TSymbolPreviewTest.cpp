@@ -121,7 +121,6 @@ TEST_F(TSymbolPreviewTest, TheHostAnswersFromInsideOfTheLine) {
 TEST_F(TSymbolPreviewTest, WithoutAnAnswerTheOldPictureStays) {
     ShowFocusedCell();
     m_browser.SetPreview(false, "old", m_bitmap);
-    m_host.AnswerCode("x", TCL_ERROR);
     m_host.HandleStart("librarynavigator preview set", [](Tcl_Interp*) { return TCL_ERROR; });
     Preview().DisplayNewPreview();
     EXPECT_EQ(Preview().GetPicture().GetImage(), m_bitmap);

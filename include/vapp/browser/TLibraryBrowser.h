@@ -11,7 +11,12 @@
 /// columns and filter types, AddViewsToDoc; SerializeSetup(false); then Populate when idle; at the end
 /// SerializeSetup(true). The destruction of the window saves the heights of the panes.
 ///
-/// Before Initialize, and after the window has gone, every operation does nothing and answers empty.
+/// Before Initialize, and after the window has gone, the operations do nothing and answer empty. What needs
+/// no pane works all the same: the names, states and versions that the host told of single views, and the
+/// setting of the excluded views.
+///
+/// DestroyWindow may come from inside of a line; the panes' objects then live on until the next Initialize or
+/// the end of this object. The object itself must not be destroyed from inside of a line.
 #pragma once
 
 #include <cstddef>
@@ -134,6 +139,8 @@ public:
 protected:
     /// Saves the heights of the panes.
     void OnDestroy() override;
+    /// Not while a line is running, whose sender may be one of the panes.
+    [[nodiscard]] bool MayFreePanes() const override;
 
 private:
     using TTextOfView = std::map<TLibCellView, CStringU>;

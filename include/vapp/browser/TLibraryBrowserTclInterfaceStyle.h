@@ -7,7 +7,8 @@
 namespace vapp_library_browser {
 
 /// What is appended to the text of a menu command before it is sent. The numbers are fixed: hosts keep them.
-/// The library list knows the styles 0, 6 and 7 only; it sends commands of the others as they stand.
+/// The library list knows the styles 0, 6 and 7 only. It appends nothing to commands of the others and wraps
+/// them for the host's log twice.
 enum TLibraryBrowserTclInterfaceStyle : std::uint32_t {
     StyleCommandOnly = 0,       ///< in the library list the design
     StyleFocusedLcv = 1,        ///< the focused cell view

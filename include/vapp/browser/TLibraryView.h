@@ -8,7 +8,9 @@
 ///
 /// The surprises: looking up the path of an unknown library leaves an empty entry, as does asking whether a
 /// view of an unknown library is modified. Two library names of equal natural order ("3" and the same number
-/// in another script) are one entry in the alphabetical list.
+/// in another script) are one entry in the alphabetical list. Names that are malformed UTF-8 are kept as they
+/// come, but have no firm place in the natural order: beside others of their kind one may stand anywhere, be
+/// taken for another or not be found again. Nothing worse comes of it.
 #pragma once
 
 #include <cstdint>
@@ -53,7 +55,7 @@ public:
 
     /// Refills both controls from "database all_libs" if dirty. A failed line, or an answer of another form,
     /// leaves the pane dirty. Returns at once while it is running already; a request that comes in meanwhile
-    /// leaves the pane dirty, so that the next idle call serves it.
+    /// is served by the refresh that is running, if that one comes to its end.
     void Populate();
     /// Marks the pane dirty and asks for painting; the refresh itself waits for Populate.
     void RequestDelayedPopulate();
@@ -157,7 +159,6 @@ private:
     void UpdateListBackground();
     [[nodiscard]] bool ListShows(const TPathOfLibrary& libraries) const;
     void FillList(const CStringU& design, const TPathOfLibrary& libraries);
-    void SelectRow(int row);
     bool FetchSelectedMaster();
     void MarkCellListDirty();
     void RefreshCellListNow();
@@ -178,7 +179,6 @@ private:
     TViewsOfLibrary m_oaReservedViews;
     TViewsOfLibrary m_modifiedLcvs;
     bool m_populating = false;
-    bool m_requestedMeanwhile = false;
     bool m_askingSelectedMaster = false;
 };
 

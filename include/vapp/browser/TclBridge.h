@@ -46,16 +46,23 @@ namespace vapp_library_browser {
 /// interpreter, not in the middle of a line.
 [[nodiscard]] VAPP_EXPORT bool EnsureTclBound(Tcl_Interp* interp);
 
-/// Evaluates one line in the current call frame, puts the interpreter's result back as it stood, and gives
-/// the completion code; TCL_ERROR without a usable interpreter.
-/// @param result  may be null. Otherwise receives the answer with a reference that the caller must drop, for
-///                TCL_OK and also for TCL_ERROR; null for every other code.
-VAPP_EXPORT int EvaluateTcl(Tcl_Interp* interp, const CStringU& line, Tcl_Obj** result);
 /// The most lines that may run inside one another. A line beyond fails at once: host script that comes back
 /// without end reaches its end here, and not at the end of the stack.
 inline constexpr int cnMaxNestedLines = 64;
 
-/// The same for a line without marker, the answer being held by an object; null where it isn't wanted.
+/// Evaluates one line in the current call frame, puts the interpreter's result back as it stood, and gives
+/// the completion code. The line is copied, so that its script may change the caller's text.
+///
+/// TCL_ERROR, with nothing evaluated and no answer: without a usable interpreter, inside of cnMaxNestedLines
+/// other lines, and for a line that may open more brackets than Tcl's parser can follow (200 at a time).
+///
+/// The very first line of the process, if no view has received an interpreter before (see EnsureTclBound),
+/// loses the host's result: the binding to Tcl resets it before it can be saved.
+/// @param result  may be null. Otherwise receives the answer with a reference that the caller must drop, for
+///                TCL_OK and also for TCL_ERROR; null for every other code.
+VAPP_EXPORT int EvaluateTcl(Tcl_Interp* interp, const CStringU& line, Tcl_Obj** result);
+/// The same for a line without marker, which must stay as it is until the end; the answer being held by an
+/// object; null where it isn't wanted.
 VAPP_EXPORT int EvaluateTcl(Tcl_Interp* interp, const char* line, TTclObject* result);
 
 /// Evaluates a line and gives its answer; nothing unless the code is TCL_OK.
@@ -66,11 +73,12 @@ VAPP_EXPORT int EvaluateTcl(Tcl_Interp* interp, const char* line, TTclObject* re
 /// Evaluates a text query; empty if the line failed.
 [[nodiscard]] VAPP_EXPORT CStringU AskTclText(Tcl_Interp* interp, const char* line);
 
-/// The integer of an answer, or nothing; leaves no error text anywhere.
+/// The integer of an answer, or nothing (also where ReadBytes is empty); leaves no error text anywhere.
 [[nodiscard]] VAPP_EXPORT std::optional<int> ReadInteger(Tcl_Obj* answer) noexcept;
 /// True for an integer that is not 0.
 [[nodiscard]] VAPP_EXPORT bool ReadFlag(Tcl_Obj* answer) noexcept;
-/// The bytes of an answer, valid while the object lives unchanged; empty for null.
+/// The bytes of an answer, valid while the object lives unchanged. Empty for null, and for lists that are
+/// nested more than 1000 deep or beyond 4 MiB: Tcl could not make their text and live.
 [[nodiscard]] VAPP_EXPORT std::string_view ReadBytes(Tcl_Obj* answer) noexcept;
 /// The text of an answer, with its marker where it is due. Bytes that are no UTF-8 stay as they are.
 [[nodiscard]] VAPP_EXPORT CStringU MakeText(Tcl_Obj* answer);
