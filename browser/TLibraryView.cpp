@@ -3,6 +3,8 @@
 /// refresh stands in TLibraryViewPopulate.cpp, the memory of single views in TLibraryViewCaches.cpp.
 #include "vapp/browser/TLibraryView.h"
 
+#include <tcl.h>
+
 #include <algorithm>
 #include <array>
 
@@ -31,12 +33,40 @@ constexpr int cnScrollBarWidth = 17;
 constexpr char csOrderSetting[] = "LibrariesInLibDefsOrder";
 constexpr char csNoDesigns[] = "__$$Translatable$$_No designs";
 
+// A view's pointer to its interpreter is taken back when the interpreter ends, or Tcl as a whole: nothing of
+// either may be called afterwards, and a host may end them before the view or behind it.
+void ForgetAtExit(void* pointer);
+
+void ForgetInterp(void* pointer, Tcl_Interp* /*interp*/) {
+    Tcl_DeleteExitHandler(&ForgetAtExit, pointer);
+    *static_cast<Tcl_Interp**>(pointer) = nullptr;
+}
+
+void ForgetAtExit(void* pointer) {
+    auto& interp = *static_cast<Tcl_Interp**>(pointer);
+    Tcl_DontCallWhenDeleted(interp, &ForgetInterp, pointer);
+    interp = nullptr;
+}
+
+void WatchInterp(Tcl_Interp*& pointer) {
+    if (pointer == nullptr) return;
+    Tcl_CallWhenDeleted(pointer, &ForgetInterp, &pointer);
+    Tcl_CreateExitHandler(&ForgetAtExit, &pointer);
+}
+
+void StopWatchingInterp(Tcl_Interp*& pointer) {
+    if (pointer == nullptr) return;
+    Tcl_DontCallWhenDeleted(pointer, &ForgetInterp, &pointer);
+    Tcl_DeleteExitHandler(&ForgetAtExit, &pointer);
+}
+
 }  // namespace
 
 TLibraryView::TLibraryView() : CFormView(cnTemplate) {}
 
 TLibraryView::~TLibraryView() {
     DestroyWindow();
+    StopWatchingInterp(m_interp);
 }
 
 void TLibraryView::OnCreate() {
@@ -205,7 +235,9 @@ TLibraryView::TCommand TLibraryView::GetCommandHandler(unsigned id) const {
 }
 
 void TLibraryView::SetTclInterp(Tcl_Interp* interp) {
+    StopWatchingInterp(m_interp);
     m_interp = EnsureTclBound(interp) ? interp : nullptr;
+    WatchInterp(m_interp);
 }
 
 void TLibraryView::SetPreview(bool clear, const CStringU& caption, HBITMAP bitmap) {

@@ -3,8 +3,14 @@
 #include "vapp/browser/TLibraryView.h"
 
 #include <gtest/gtest.h>
+#include <tcl.h>
+
+#include <cstdlib>
+#include <optional>
+#include <utility>
 
 #include "tests/browser/NavigatorFixture.h"
+#include "tests/browser/TclInterpreter.h"
 #include "vapp/toolkit/Translate.h"
 
 using namespace vapp_library_browser;
@@ -215,4 +221,49 @@ TEST_F(TLibraryViewTest, CommandHandlersAreKeptUntilCleared) {
 TEST_F(TLibraryViewTest, WithNothingOnAScreenTheCursorIsNowhere) {
     Show({"a"});
     EXPECT_FALSE(Libraries().IsCursorOverLibraryList());
+}
+
+TEST_F(TLibraryViewTest, AnInterpreterThatEndsIsForgotten) {
+    Initialize();
+    Tcl_Interp* other = MakeTclInterpreter();
+    Libraries().SetTclInterp(other);
+    EXPECT_EQ(Libraries().GetTclInterp(), other);
+    EndTclInterpreter(other);
+    EXPECT_EQ(Libraries().GetTclInterp(), nullptr);
+    Refresh();
+    EXPECT_TRUE(Libraries().NeedsPopulate());
+}
+
+TEST_F(TLibraryViewTest, TheEndOfAReplacedInterpreterMeansNothing) {
+    Initialize();
+    Tcl_Interp* other = MakeTclInterpreter();
+    Libraries().SetTclInterp(other);
+    Libraries().SetTclInterp(other);
+    Libraries().SetTclInterp(m_host.GetInterp());
+    EndTclInterpreter(other);
+    EXPECT_EQ(Libraries().GetTclInterp(), m_host.GetInterp());
+}
+
+TEST_F(TLibraryViewTest, TheInterpreterMayEndAfterTheView) {
+    Tcl_Interp* other = MakeTclInterpreter();
+    {
+        TLibraryView view;
+        view.SetTclInterp(other);
+    }
+    EndTclInterpreter(other);
+}
+
+// In a process of its own, for Tcl ends there.
+TEST_F(TLibraryViewTest, TclMayBeFinalizedBeforeTheViewEnds) {
+    const auto endTclFirst = [this] {
+        {
+            std::optional<TLibraryView> view(std::in_place);
+            view->SetTclInterp(m_host.GetInterp());
+            Tcl_Finalize();
+            if (view->GetTclInterp() != nullptr) std::_Exit(1);
+            view.reset();
+        }
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(endTclFirst(), testing::ExitedWithCode(0), "");
 }

@@ -127,6 +127,51 @@ TEST_F(NestedPopulationScenarioTest, SendsEachLineToTheInterpreterThatIsSetThen)
     EXPECT_EQ(Rows(), TLines{"l1 a v"});
 }
 
+TEST_F(NestedPopulationScenarioTest, SurvivesTheEndOfTheInterpreterInTheMiddleOfAPopulation) {
+    ShowCells({{"l1", "a", "v"}, {"l1", "b", "v"}});
+    Report().AddColumn("State", "state", true, false);
+    Report().GetColumns().SetSortColumn(&Column("State"), true);
+    struct Case {
+        const char* start;
+        std::size_t lines;
+        std::size_t rows;
+    };
+    const Case cases[] = {{"database cells -lcv -library top -count", 1, 0},
+                          {"database cells -lcv -library top -filter", 2, 2},
+                          {"state", 3, 2}};
+    for (const Case& row : cases) {
+        SCOPED_TRACE(row.start);
+        OtherInterpreter other([&](const std::string& words) {
+            if (words.starts_with(row.start)) other.End();
+            return words.find("-filter") != std::string::npos ? "{l1 a v} {l1 b v}" : "2";
+        });
+        Libraries().SetTclInterp(other.Get());
+        Repopulate();
+        EXPECT_EQ(other.Lines().size(), row.lines);
+        EXPECT_EQ(Report().GetCellViewCount(), row.rows);
+        EXPECT_EQ(Libraries().GetTclInterp(), nullptr);
+        Repopulate();
+        EXPECT_EQ(Report().GetCellViewCount(), 0u);
+    }
+}
+
+TEST_F(NestedPopulationScenarioTest, SurvivesTheEndOfTheInterpreterInTheMiddleOfPainting) {
+    ShowCells({{"l1", "a", "v"}});
+    Report().AddColumn("State", "state", true, false);
+    for (const std::string key : {"is_fab", "is_lockedbyuser", "is_modified", "cache", "state"}) {
+        SCOPED_TRACE(key);
+        OtherInterpreter other([&](const std::string& words) {
+            if (words.find(key) == std::string::npos) return "0";
+            other.End();
+            return "1";
+        });
+        Libraries().SetTclInterp(other.Get());
+        EXPECT_EQ(Measure(0, key == "state" ? "State" : "Cell").text, key == "state" ? "1" : "a");
+        EXPECT_NE(other.Lines().back().find(key), std::string::npos) << "no line after its end";
+        EXPECT_EQ(Libraries().GetTclInterp(), nullptr);
+    }
+}
+
 TEST_F(NestedPopulationScenarioTest, SendsEachQuestionToTheInterpreterThatIsSetThen) {
     ShowCells({{"l1", "a", "v"}});
     m_host.AnswerStart("database cellviewinfo", "0");

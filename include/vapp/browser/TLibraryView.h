@@ -111,8 +111,8 @@ public:
 
     // --- Neighbours ------------------------------------------------------------------------------------
 
-    /// The host's interpreter, not owned; it must outlive its use here. One that this library can't work with
-    /// is taken as null.
+    /// The host's interpreter, not owned. When it ends, or Tcl is finalized, the view has none. One that this
+    /// library can't work with is taken as null.
     void SetTclInterp(Tcl_Interp* interp);
     [[nodiscard]] Tcl_Interp* GetTclInterp() const { return m_interp; }
     void SetCellListView(TCellListView* view) { m_cellListView = view; }
