@@ -21,6 +21,7 @@ namespace {
 constexpr std::string_view csOwnCommand = "librarynavigator";
 
 int s_nestedLines = 0;
+int s_hostCallScopes = 0;
 
 /// Counts the lines that run inside one another.
 class TNestingGuard {
@@ -53,7 +54,15 @@ private:
 }  // namespace
 
 bool IsLineRunning() noexcept {
-    return s_nestedLines > 0;
+    return s_nestedLines > 0 || s_hostCallScopes > 0;
+}
+
+HostCallScope::HostCallScope() noexcept {
+    ++s_hostCallScopes;
+}
+
+HostCallScope::~HostCallScope() {
+    --s_hostCallScopes;
 }
 
 bool EnsureTclBound(Tcl_Interp* interp) {

@@ -9,6 +9,7 @@
 #include <optional>
 #include <utility>
 
+#include "browser/RunningLines.h"
 #include "celllist/CellLines.h"
 #include "celllist/CellRows.h"
 #include "celllist/CellSet.h"
@@ -109,6 +110,7 @@ void TReport::Populate() {
     }
     m_postponed = false;
     {
+        const HostCallScope scope;
         const FlagGuard populating(m_populating);
         const FlagGuard ignoring(m_ignoreSelectionChange);
         const SavedView saved(*this);

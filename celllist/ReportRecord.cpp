@@ -5,6 +5,7 @@
 /// again; the record itself is kept alive by the report while it is being asked.
 #include <string_view>
 
+#include "browser/RunningLines.h"
 #include "vapp/browser/StateWords.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TclBridge.h"
@@ -54,6 +55,7 @@ TReport::TRecord::TRecord(TCellNamesReportCtrl& report) : m_report(report) {
 
 void TReport::TRecord::GetItemMetrics(const CXTPReportRecordItemDrawArgs& drawArgs,
                                       CXTPReportRecordItemMetrics& metrics) {
+    const HostCallScope scope;
     TCellNamesReportCtrl& report = m_report;
     auto* column = dynamic_cast<TColumn*>(drawArgs.column);
     const TLibCellView cell = report.GetCell(drawArgs.row);

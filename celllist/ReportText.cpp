@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "browser/RunningLines.h"
 #include "celllist/CellRows.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
 
@@ -43,6 +44,7 @@ std::vector<TReport::TColumn*> ColumnsByCaption(const CXTPReportColumns& columns
 }  // namespace
 
 void TReport::DumpContents(const std::vector<CStringU>& columns, CStringU& out) {
+    const HostCallScope scope;
     const std::vector<TColumn*> chosen =
         columns.empty() ? VisibleColumns(GetColumns()) : ColumnsByCaption(GetColumns(), columns);
     out.Empty();

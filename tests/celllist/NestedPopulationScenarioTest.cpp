@@ -263,6 +263,55 @@ TEST_F(NestedPopulationScenarioTest, SurvivesEveryOperationInTheMiddleOfEveryLin
     EXPECT_EQ(Rows(), TLines{"l1 z v"});
 }
 
+// No line is running in these: the host's own functions end the window.
+TEST_F(NestedPopulationScenarioTest, SurvivesTheEndOfTheWindowInsideTheHostsFunctions) {
+    int times = 0;
+    s_insideHook = [&] {
+        ++times;
+        m_browser.DestroyWindow();
+    };
+    m_host.AnswerStart("database cellviewinfo", "0");
+    const auto addColumn = [&] {
+        Report().AddColumn(
+            "Ends", [](const TLibCellView&) { return RunInsideHook("x"); }, true, false);
+    };
+    const std::function<void()> works[] = {[&] {
+                                               const HookGuard hook(&RunInsideHook);
+                                               Repopulate();
+                                           },
+                                           [&] {
+                                               const HookGuard hook(&RunInsideHook);
+                                               Measure(0, "Cell");
+                                           },
+                                           [&] {
+                                               ListeningWindow listener(m_app);
+                                               listener.m_whenAsked = s_insideHook;
+                                               Repopulate();
+                                           },
+                                           [&] {
+                                               addColumn();
+                                               Report().GetColumns().SetSortColumn(&Column("Ends"), true);
+                                               Repopulate();
+                                           },
+                                           [&] {
+                                               addColumn();
+                                               Measure(0, "Ends");
+                                           },
+                                           [&] {
+                                               addColumn();
+                                               CStringU dump;
+                                               Report().DumpContents({"Ends", "Cell"}, dump);
+                                           }};
+    for (const auto& work : works) {
+        ShowCells({{"l1", "a", "v"}, {"l1", "b", "v"}});
+        times = 0;
+        work();
+        EXPECT_GT(times, 0);
+        EXPECT_EQ(m_browser.GetCellListView(), nullptr);
+    }
+    s_insideHook = nullptr;
+}
+
 TEST_F(NestedPopulationScenarioTest, SurvivesRowsThatGoWhileAColumnIsAskedForTheirKeys) {
     ShowCells({{"l1", "a", "v"}, {"l1", "b", "v"}});
     m_host.AddCommand("state");
