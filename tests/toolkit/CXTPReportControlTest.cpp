@@ -226,6 +226,8 @@ TEST_F(CXTPReportControlTest, ReplacedRecordLivesUntilTheOutermostQuestionHasIts
               (std::vector<std::string>{"asked a", "asked b", "answers b", "answers a", "end a", "end b"}));
     EXPECT_TRUE(report.MeasureItem(0, *cell, metrics));
     EXPECT_EQ(log.back(), "answers c");
+    report.SetVirtualMode(nullptr, 0);
+    EXPECT_EQ(log.back(), "end c");
 }
 
 TEST_F(CXTPReportControlTest, RecordCountsItsItems) {
