@@ -136,6 +136,22 @@ TEST_F(TLibraryBrowserTest, CallsBeforeInitializeAnswerEmptyAndDoNotFail) {
     EXPECT_TRUE(m_host.Lines().empty());
 }
 
+TEST_F(TLibraryBrowserTest, WhatTheBrowserKeepsItselfIsThereBeforeInitialize) {
+    const TLibCellView view("lib", "inv", "layout");
+    EXPECT_TRUE(m_browser.GetReservedBy(view).IsEmpty());
+    EXPECT_TRUE(m_browser.GetRepoState(view).IsEmpty());
+    EXPECT_TRUE(m_browser.GetVersion(view).IsEmpty());
+    m_browser.SetReservedBy(view, "ann");
+    m_browser.SetRepoState(view, "locked");
+    m_browser.SetVersion(view, "1.2");
+    EXPECT_EQ(m_browser.GetReservedBy(view), CStringU("ann"));
+    EXPECT_EQ(m_browser.GetRepoState(view), CStringU("locked"));
+    EXPECT_EQ(m_browser.GetVersion(view), CStringU("1.2"));
+    EXPECT_FALSE(m_browser.GetExcludeViewNames().IsEmpty());
+    Initialize();
+    EXPECT_EQ(m_browser.GetReservedBy(view), CStringU("ann")) << "the window is no reason to forget";
+}
+
 TEST_F(TLibraryBrowserTest, CallsAfterTheEndOfTheWindowDoNotFail) {
     Show({"a"});
     m_browser.DestroyWindow();

@@ -129,9 +129,12 @@ TEST_F(TLibraryListCtrlTest, MarksOfALibraryInTheEditorMode) {
         std::size_t lines;
     };
     const Case cases[] = {
-        {"1", "0", "0", {0, 0}, false, 3},    {"1", "0", "1", {0, 0}, true, 3},
-        {"1", "1", "0", {366, 0}, true, 2},   {"0", "0", "0", {367, 0}, true, 2},
-        {"0", "1", "0", {366, 367}, true, 2}, {"1", "0", "nonsense", {0, 0}, false, 3},
+        {"1", "0", "0", {0, 0}, false, 3},         {"1", "0", "1", {0, 0}, true, 3},
+        {"1", "1", "0", {366, 0}, true, 2},        {"0", "0", "0", {367, 0}, true, 2},
+        {"0", "1", "0", {366, 367}, true, 2},      {"1", "0", "nonsense", {0, 0}, false, 3},
+        {"nonsense", "0", "0", {367, 0}, true, 2}, {"", "0", "0", {367, 0}, true, 2},
+        {"true", "0", "0", {367, 0}, true, 2},     {"1", "nonsense", "0", {0, 0}, false, 3},
+        {"1", "", "1", {0, 0}, true, 3},           {"yes", "yes", "yes", {367, 0}, true, 2},
     };
     for (const Case& test : cases) {
         AnswerInfo(test.allowed, test.unresolved, test.space);

@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 #include <tcl.h>
 
+#include <algorithm>
+
 #include "tests/browser/NavigatorFixture.h"
+#include "vapp/browser/TNaturalLess.h"
 #include "vapp/toolkit/CDocument.h"
 
 using namespace vapp_library_browser;
@@ -186,6 +189,47 @@ TEST_F(TLibraryViewPopulate, WhenTheSelectedDesignVanishesTheFirstIsSelected) {
     EXPECT_EQ(Shown(), Names{"a"});
 }
 
+// The combo box looks names up without regard to case, and hosts whose designs differ in case alone rely on
+// getting the first.
+TEST_F(TLibraryViewPopulate, OfDesignsThatDifferInCaseARefreshSelectsTheFirst) {
+    Initialize();
+    m_host.Answer("database all_libs", "{top {a /a}} {Top {b /b}}");
+    m_browser.Populate();
+    auto& combo = Libraries().GetDesignCombo();
+    ASSERT_EQ(combo.GetCount(), 2);
+    const CStringU first = combo.GetLBText(0);
+    const CStringU second = combo.GetLBText(1);
+    ASSERT_NE(first, second);
+    m_browser.SetSelectedDesign(second);
+    ASSERT_EQ(m_browser.GetSelectedDesign(), second);
+    const Names ofSecond = Shown();
+    Refresh();
+    EXPECT_EQ(m_browser.GetSelectedDesign(), first);
+    EXPECT_NE(Shown(), ofSecond);
+}
+
+TEST_F(TLibraryViewPopulate, TheComboBoxIsPaintedAnewInEveryRefreshThatSucceeds) {
+    Show({"a"});
+    auto& combo = Libraries().GetDesignCombo();
+    const unsigned paints = combo.GetInvalidateCount();
+    Refresh();
+    EXPECT_EQ(combo.GetInvalidateCount(), paints + 1);
+    m_host.AnswerCode("database all_libs", TCL_ERROR);
+    Refresh();
+    EXPECT_EQ(combo.GetInvalidateCount(), paints + 1);
+}
+
+TEST_F(TLibraryViewPopulate, ANewOrderAloneChangesNoRow) {
+    Show({"b", "a"});
+    Libraries().SetAlphabetical(false);
+    EXPECT_EQ(Shown(), (Names{"a", "b"}));
+    m_browser.Populate();
+    EXPECT_EQ(Shown(), (Names{"a", "b"})) << "not without a request";
+    EXPECT_TRUE(m_host.Lines().empty());
+    Refresh();
+    EXPECT_EQ(Shown(), (Names{"b", "a"}));
+}
+
 TEST_F(TLibraryViewPopulate, ARefreshWithTheSameNamesDisturbsNothing) {
     Show({"a", "b", "c"});
     Select("b");
@@ -234,6 +278,15 @@ TEST_F(TLibraryViewPopulate, TheListsBackgroundFollowsTheTheme) {
     EXPECT_EQ(list.GetBkColor(), 0xFFFFFFu);
 }
 
+TEST_F(TLibraryViewPopulate, TheThemeIsAppliedEvenIfTheQuestionFailsThen) {
+    Show({"a"});
+    m_frame.dark = true;
+    m_host.AnswerCode("database all_libs", TCL_ERROR);
+    Refresh();
+    EXPECT_TRUE(Libraries().NeedsPopulate());
+    EXPECT_EQ(Libraries().GetLibraryListCtrl().GetBkColor(), 0x2D2D2Du);
+}
+
 TEST_F(TLibraryViewPopulate, WithoutAnInterpreterNothingHappens) {
     ASSERT_TRUE(m_browser.Initialize(&m_frame, nullptr, nullptr));
     m_browser.Populate();
@@ -251,16 +304,50 @@ TEST_F(TLibraryViewPopulate, AnyUpdateMarksThePane) {
     EXPECT_TRUE(m_host.Lines().empty());
 }
 
-TEST_F(TLibraryViewPopulate, TheSelectedMasterSelectsItsLibraryAndStaysPendingForTheCellList) {
-    Show({"a", "b"});
+TEST_F(TLibraryViewPopulate, TheSelectedMasterSelectsItsLibraryBesidesAndStaysPendingForTheCellList) {
+    Show({"a", "b", "c"});
+    Select("a");
+    m_browser.Populate();
     m_host.Answer("database selected_master", "b inv layout");
     UpdateSelectedMaster();
     EXPECT_TRUE(Libraries().NeedsPopulate());
     ASSERT_NE(gPendingHighlight(), nullptr);
     EXPECT_EQ(*gPendingHighlight(), TLibCellView("b", "inv", "layout"));
-    m_browser.Populate();
-    EXPECT_EQ(Selected(), Names{"b"});
+    Libraries().Populate();
+    EXPECT_EQ(Selected(), (Names{"a", "b"})) << "the old selection stays";
     EXPECT_EQ(gPendingHighlight(), nullptr) << "consumed by the cell list, which was refreshed at once";
+}
+
+TEST_F(TLibraryViewPopulate, AMasterInASelectedLibraryLeavesEvenADirtyCellListToItsOwnRefresh) {
+    Show({"a", "b"});
+    Select("b");
+    m_host.Answer("database selected_master", "b inv layout");
+    UpdateSelectedMaster();
+    ASSERT_TRUE(Cells().NeedsPopulate());
+    Libraries().Populate();
+    EXPECT_TRUE(m_host.LinesStarting("database cells").empty());
+    EXPECT_TRUE(Cells().NeedsPopulate());
+    EXPECT_NE(gPendingHighlight(), nullptr);
+    m_browser.Populate();
+    EXPECT_EQ(gPendingHighlight(), nullptr);
+}
+
+TEST_F(TLibraryViewPopulate, AMasterInALibraryThatAppearsInThisRefreshSelectsNone) {
+    Show({"a"});
+    AnswerLibraries({"a", "b"});
+    m_host.Answer("database selected_master", "b inv layout");
+    UpdateSelectedMaster();
+    m_browser.Populate();
+    EXPECT_EQ(Shown(), (Names{"a", "b"}));
+    EXPECT_TRUE(Selected().empty()) << "only the rows of the refresh before are looked at";
+}
+
+TEST_F(TLibraryViewPopulate, TheLibraryOfAMasterIsKnownByItsBytes) {
+    Show({"a", "b"});
+    m_host.Answer("database selected_master", "B inv layout");
+    UpdateSelectedMaster();
+    m_browser.Populate();
+    EXPECT_TRUE(Selected().empty());
 }
 
 TEST_F(TLibraryViewPopulate, AMasterOfAnUnknownLibraryLeavesTheSelection) {
@@ -458,7 +545,7 @@ TEST_F(TLibraryViewPopulate, HostileNamesAreShownAsTheyWereTold) {
     const Names names = {"two words",
                          "{",
                          "}",
-                         "[exec touch x]",
+                         "[set ::ran 1]",
                          "$x",
                          "\"q\"",
                          "line\nfeed",
@@ -484,4 +571,43 @@ TEST_F(TLibraryViewPopulate, HostileNamesAreShownAsTheyWereTold) {
             static_cast<void>(Libraries().GetLibraryListCtrl().DrawItem(row));
         }
     }
+}
+
+TEST_F(TLibraryViewPopulate, HostileNamesStandInTheAlphabeticalOrderToo) {
+    const Names names = {"two words",
+                         "{",
+                         "}",
+                         "[set ::ran 1]",
+                         "$x",
+                         "\"q\"",
+                         "a\nb",
+                         "back\\",
+                         ";",
+                         "#",
+                         "caf\xC3\xA9",
+                         "a10",
+                         "a9",
+                         "-",
+                         std::string(10000, 'n'),
+                         "\xF0\x9F\x98\x80",
+                         "\xC0\x80z",
+                         "a\xFFz"};
+    const HookGuard hook;
+    Show(names);
+    Names shown = Shown();
+    EXPECT_TRUE(std::is_sorted(shown.begin(), shown.end(), [](const auto& left, const auto& right) {
+        return TNaturalLess()(CStringU(left.c_str(), TextEncoding::Utf8Auto),
+                              CStringU(right.c_str(), TextEncoding::Utf8Auto));
+    }));
+    for (const std::string& name : names) {
+        const CStringU library(name.c_str(), TextEncoding::Utf8Auto);
+        EXPECT_EQ(std::string(Libraries().GetAbsoluteLibraryPath(library).PayloadView()), "/" + name);
+        Libraries().SelectInLibraryList(library);
+        EXPECT_EQ(Selected(), Names{name});
+    }
+    std::sort(shown.begin(), shown.end());
+    Names all = names;
+    std::sort(all.begin(), all.end());
+    EXPECT_EQ(shown, all);
+    EXPECT_EQ(m_host.Eval("info exists ::ran"), "0");
 }

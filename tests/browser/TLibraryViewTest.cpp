@@ -11,6 +11,7 @@
 
 #include "tests/browser/NavigatorFixture.h"
 #include "tests/browser/TclInterpreter.h"
+#include "tests/toolkit/RecordingPeers.h"
 #include "vapp/toolkit/Translate.h"
 
 using namespace vapp_library_browser;
@@ -86,6 +87,20 @@ TEST_F(TLibraryViewTest, AWindowTooSmallForItsMarginsKeepsSaneSizes) {
         EXPECT_GE(list.Height(), 0);
         EXPECT_GE(Libraries().GetLibraryListCtrl().GetColumnWidth(0), 1);
     }
+}
+
+TEST_F(TLibraryViewTest, AMinimisedPaneKeepsItsLayout) {
+    struct Opened : TLibraryView {
+        using TLibraryView::OnSize;
+    };
+    Initialize();
+    Libraries().MoveWindow({0, 0, 300, 400});
+    const CRect list = Libraries().GetLibraryListCtrl().GetRect();
+    (Libraries().*(&Opened::OnSize))(cnSizeMinimized, 50, 50);
+    EXPECT_EQ(Libraries().GetLibraryListCtrl().GetRect(), list);
+    EXPECT_EQ(Libraries().GetDesignCombo().GetRect(), CRect(4, 4, 296, 28));
+    (Libraries().*(&Opened::OnSize))(0, 50, 50);
+    EXPECT_EQ(Libraries().GetDesignCombo().GetRect(), CRect(4, 4, 46, 28));
 }
 
 TEST_F(TLibraryViewTest, AnEmptyListSaysNoDesignsInTheHostsLanguage) {
@@ -266,4 +281,22 @@ TEST_F(TLibraryViewTest, TclMayBeFinalizedBeforeTheViewEnds) {
         std::_Exit(0);
     };
     EXPECT_EXIT(endTclFirst(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(TLibraryViewTest, TheCursorIsOverTheListWithinItsLeftAndTopEdgesAlone) {
+    RecordingPeers peers;
+    Show({"a"});
+    const CRect list = Libraries().GetLibraryListCtrl().GetWindowRect();
+    ASSERT_GT(list.Width(), 2);
+    ASSERT_GT(list.Height(), 2);
+    const std::pair<CPoint, bool> cases[] = {
+        {{list.left, list.top}, true},          {{list.right - 1, list.bottom - 1}, true},
+        {{list.left + 1, list.top + 1}, true},  {{list.right, list.top + 1}, false},
+        {{list.left + 1, list.bottom}, false},  {{list.left - 1, list.top + 1}, false},
+        {{list.left + 1, list.top - 1}, false}, {{-10000, 10000}, false},
+    };
+    for (const auto& [cursor, over] : cases) {
+        peers.cursor = cursor;
+        EXPECT_EQ(Libraries().IsCursorOverLibraryList(), over) << cursor.x << ", " << cursor.y;
+    }
 }

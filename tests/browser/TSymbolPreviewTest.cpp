@@ -4,6 +4,8 @@
 #include <tcl.h>
 
 #include "tests/browser/NavigatorFixture.h"
+#include "tests/text/TextHelpers.h"
+#include "tests/toolkit/RecordingPeers.h"
 
 using namespace vapp_library_browser;
 
@@ -21,6 +23,14 @@ protected:
     }
     [[nodiscard]] std::vector<std::string> PreviewLines() const {
         return m_host.LinesStarting("librarynavigator");
+    }
+
+    /// As a desktop reports sizes, minimised ones too.
+    void Resize(UINT type, int cx, int cy) {
+        struct Opened : TSymbolPreview {
+            using TSymbolPreview::OnSize;
+        };
+        (Preview().*(&Opened::OnSize))(type, cx, cy);
     }
 
     HBITMAP m_bitmap = reinterpret_cast<HBITMAP>(&m_host);  // opaque: only its address is looked at
@@ -147,9 +157,56 @@ TEST_F(TSymbolPreviewTest, AHostThatRefreshesInEveryAnswerComesToAnEnd) {
 }
 
 TEST_F(TSymbolPreviewTest, WithoutItsNeighboursItDoesNothing) {
+    TLibraryView withoutCellPane;
     TSymbolPreview preview;
     preview.DisplayNewPreview();
     ASSERT_TRUE(preview.Create(&m_frame, 1, {0, 0, 100, 100}));
-    preview.DisplayNewPreview();
-    EXPECT_EQ(preview.GetLibraryView(), nullptr);
+    preview.SetPreview(false, "inv", m_bitmap);
+    for (TLibraryView* neighbour : {static_cast<TLibraryView*>(nullptr), &withoutCellPane}) {
+        preview.SetLibraryView(neighbour);
+        preview.DisplayNewPreview();
+        EXPECT_EQ(preview.GetPicture().GetImage(), m_bitmap);
+        EXPECT_EQ(preview.GetCaption().GetWindowText(), CString("inv"));
+    }
+    EXPECT_TRUE(m_host.Lines().empty());
+}
+
+TEST_F(TSymbolPreviewTest, TheCaptionShowsInTheActiveCodePage) {
+    const text_test::TCodePageGuard guard(1252);
+    Initialize();
+    m_browser.SetPreview(false, CStringU("caf\xC3\xA9", TextEncoding::Utf8Auto), nullptr);
+    EXPECT_EQ(Preview().GetCaption().GetWindowText(), CString("caf\xE9"));
+}
+
+TEST_F(TSymbolPreviewTest, AMinimisedPaneKeepsItsLayoutAndSendsNoLine) {
+    ShowFocusedCell();
+    Preview().MoveWindow({0, 0, 208, 232});
+    m_host.ClearLines();
+    Resize(cnSizeMinimized, 50, 50);
+    EXPECT_EQ(Preview().GetPicture().GetRect(), CRect(4, 4, 204, 204));
+    EXPECT_TRUE(m_host.Lines().empty());
+}
+
+TEST_F(TSymbolPreviewTest, ASizeWithoutAWidthLaysOutByTheWindowAndSendsNoLine) {
+    ShowFocusedCell();
+    Preview().MoveWindow({0, 0, 208, 232});
+    m_host.ClearLines();
+    Preview().GetPicture().MoveWindow({4, 4, 5, 5});
+    Resize(0, 0, 77);
+    EXPECT_EQ(Preview().GetPicture().GetRect(), CRect(4, 4, 204, 204));
+    EXPECT_TRUE(m_host.Lines().empty());
+    Resize(0, 208, 232);
+    EXPECT_EQ(PreviewLines().size(), 1u);
+}
+
+TEST_F(TSymbolPreviewTest, AMovedPaneIsPaintedAtOnce) {
+    RecordingPeers peers;
+    Initialize();
+    Preview().MoveWindow({0, 0, 208, 232});
+    peers.ForgetAll();
+    Preview().MoveWindow({0, 0, 218, 232});
+    EXPECT_EQ(peers.Of(Preview()).updates, 0u) << "another size alone is painted when there is time";
+    Preview().MoveWindow({0, 10, 218, 242});
+    EXPECT_EQ(peers.Of(Preview()).updates, 1u);
+    EXPECT_EQ(peers.Of(Preview()).invalidations, 1u);
 }
