@@ -286,6 +286,7 @@ TEST_F(TLibraryViewTest, TclMayBeFinalizedBeforeTheViewEnds) {
 TEST_F(TLibraryViewTest, TheCursorIsOverTheListWithinItsLeftAndTopEdgesAlone) {
     RecordingPeers peers;
     Show({"a"});
+    m_frame.MoveWindow({100, 50, 500, 990});  // the cursor is told by its place on the screen
     const CRect list = Libraries().GetLibraryListCtrl().GetWindowRect();
     ASSERT_GT(list.Width(), 2);
     ASSERT_GT(list.Height(), 2);
