@@ -4,9 +4,9 @@
 
 #include <array>
 
-#include "browser/RunningLines.h"
 #include "vapp/browser/ColumnChooser.h"
 #include "vapp/browser/ExcludeViewNames.h"
+#include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TProfileSection.h"
 #include "vapp/browser/TSymbolPreview.h"

@@ -12,7 +12,7 @@
 
 #include "browser/AnswerDepth.h"
 #include "browser/LineNesting.h"
-#include "browser/RunningLines.h"
+#include "vapp/browser/HostCallScope.h"
 
 namespace vapp_library_browser {
 

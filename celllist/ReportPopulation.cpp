@@ -9,7 +9,6 @@
 #include <optional>
 #include <utility>
 
-#include "browser/RunningLines.h"
 #include "celllist/CellLines.h"
 #include "celllist/CellRows.h"
 #include "celllist/CellSet.h"
@@ -17,6 +16,7 @@
 #include "celllist/RowOrder.h"
 #include "celllist/SubstringFilter.h"
 #include "toolkit/FlagGuard.h"
+#include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/PendingHighlight.h"
 #include "vapp/browser/StateWords.h"

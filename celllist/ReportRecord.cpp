@@ -5,7 +5,7 @@
 /// again; the record itself is kept alive by the report while it is being asked.
 #include <string_view>
 
-#include "browser/RunningLines.h"
+#include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/StateWords.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TclBridge.h"

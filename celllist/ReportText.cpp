@@ -3,8 +3,8 @@
 #include <map>
 #include <string>
 
-#include "browser/RunningLines.h"
 #include "celllist/CellRows.h"
+#include "vapp/browser/HostCallScope.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
 
 namespace vapp_library_browser {
