@@ -1,0 +1,11 @@
+/// @file
+/// On native Linux the world is that of Wine.
+#include "platform/World.h"
+
+namespace vapp_platform {
+
+bool IsWineSystem() noexcept {
+    return true;
+}
+
+}  // namespace vapp_platform

@@ -1,0 +1,31 @@
+#include "platform/World.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using vapp_platform::CurrentWorld;
+using vapp_platform::SetWineAnswer;
+using vapp_platform::World;
+
+struct WorldTest : testing::Test {
+    ~WorldTest() override { SetWineAnswer(std::nullopt); }
+};
+
+TEST_F(WorldTest, TheAnswerIsTheSystemsOwn) {
+    EXPECT_EQ(gIsWine(), vapp_platform::IsWineSystem());
+    EXPECT_EQ(gIsWine(), gIsWine());
+}
+
+TEST_F(WorldTest, ATestSwitchesTheAnswerAndGivesItBack) {
+    SetWineAnswer(false);
+    EXPECT_FALSE(gIsWine());
+    EXPECT_EQ(CurrentWorld(), World::Windows);
+    SetWineAnswer(true);
+    EXPECT_TRUE(gIsWine());
+    EXPECT_EQ(CurrentWorld(), World::Wine);
+    SetWineAnswer(std::nullopt);
+    EXPECT_EQ(gIsWine(), vapp_platform::IsWineSystem());
+}
+
+}  // namespace
