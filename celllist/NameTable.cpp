@@ -1,6 +1,6 @@
 /// @file
-/// The table is a pool of bytes and an index of hashes, so that a name costs no allocation of its own and
-/// growing the index never looks at the bytes.
+/// The table is a pool of bytes and an index, so that a name costs no allocation of its own. The index holds
+/// short names itself, and growing it never looks at the bytes.
 #include "celllist/NameTable.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ constexpr std::size_t cnFirstSlots = 64;
 // So many names are looked up together.
 constexpr std::size_t cnBatch = 32;
 // An index of this size stays in the nearest memory anyway.
-constexpr std::size_t cnHotSlots = 1024;
+constexpr std::size_t cnHotSlots = 512;
 
 template <typename Word>
 std::uint64_t Load(const char* from) {
@@ -27,23 +27,15 @@ std::uint64_t Load(const char* from) {
     return word;
 }
 
-// As == of the two, without a call for the usual sizes.
-bool IsSame(std::string_view left, std::string_view right) {
-    const std::size_t size = left.size();
-    if (size != right.size()) return false;
-    if (size < 8 || size > 16) return left == right;
-    return Load<std::uint64_t>(left.data()) == Load<std::uint64_t>(right.data()) &&
-           Load<std::uint64_t>(left.data() + size - 8) == Load<std::uint64_t>(right.data() + size - 8);
-}
+}  // namespace
 
-// Names are short, and the standard hash spends most of its time on being called: of up to sixteen bytes the
-// first and the last eight, which may overlap, are multiplied together.
-std::uint32_t HashOf(std::string_view name) {
-    const std::size_t size = name.size();
-    if (size > 16) return static_cast<std::uint32_t>(std::hash<std::string_view>()(name));
-    std::uint64_t front = 0;
-    std::uint64_t back = 0;
-    if (size >= 8) {
+// Names are short, and the standard hash spends most of its time on being called: front and back are
+// multiplied together.
+NameTable::Digest::Digest(std::string_view name) : size(static_cast<std::uint32_t>(name.size())) {
+    if (size > 16) {
+        front = Load<std::uint64_t>(name.data());
+        back = std::hash<std::string_view>()(name);
+    } else if (size >= 8) {
         front = Load<std::uint64_t>(name.data());
         back = Load<std::uint64_t>(name.data() + size - 8);
     } else if (size >= 4) {
@@ -61,55 +53,42 @@ std::uint32_t HashOf(std::string_view name) {
     // the index is made of the lowest bits, which have to know of all others.
     const auto folded = static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64U);
     const std::uint64_t mixed = folded ^ front ^ std::rotl(back, 32);
-    return static_cast<std::uint32_t>(((mixed ^ mixed >> 32U) * 0xD6E8FEB86659FD93U) >> 32U);
+    hash = static_cast<std::uint32_t>(((mixed ^ mixed >> 32U) * 0xD6E8FEB86659FD93U) >> 32U);
 }
-
-}  // namespace
 
 std::uint32_t NameTable::Intern(std::string_view name) {
     assert(!IsFrozen());
-    return InternHashed(name, HashOf(name));
+    return InternDigested(name, Digest(name));
 }
 
-// A lookup waits for memory three times: for the slot, for the place of the name that stands there, and for
-// the bytes of that name. Each pass asks for what the next one needs, for an empty slot something of no use,
-// which costs less than to decide. What was asked for may be out of date by then, for a name that is added
-// moves the others; only the last pass decides.
+// A lookup waits for the memory of its slot, so all slots of a batch are asked for first.
 void NameTable::InternAll(std::span<const std::string_view> names, std::uint32_t* numbers) {
     assert(!IsFrozen());
-    std::array<std::uint32_t, cnBatch> hashes;
     if (m_slots.size() <= cnHotSlots && names.size() <= cnHotSlots / 4) {
         std::transform(names.begin(), names.end(), numbers,
                        [this](std::string_view name) { return Intern(name); });
         return;
     }
+    std::array<Digest, cnBatch> digests;
     for (std::size_t first = 0; first < names.size(); first += cnBatch) {
         const std::size_t count = std::min(cnBatch, names.size() - first);
         while (IsFullFor(count))
             Grow();
         const std::size_t mask = m_slots.size() - 1;
         for (std::size_t at = 0; at < count; ++at) {
-            hashes[at] = HashOf(names[first + at]);
-            __builtin_prefetch(&m_slots[hashes[at] & mask]);
+            digests[at] = Digest(names[first + at]);
+            __builtin_prefetch(&m_slots[digests[at].hash & mask]);
         }
-        const auto numberAt = [&](std::size_t at) {
-            const std::uint32_t numberPlusOne = m_slots[hashes[at] & mask].numberPlusOne;
-            return numberPlusOne - static_cast<std::uint32_t>(numberPlusOne != 0);
-        };
         for (std::size_t at = 0; at < count; ++at)
-            __builtin_prefetch(&m_starts[numberAt(at)]);
-        for (std::size_t at = 0; at < count; ++at)
-            __builtin_prefetch(m_bytes.data() + m_starts[numberAt(at)]);
-        for (std::size_t at = 0; at < count; ++at)
-            numbers[first + at] = InternHashed(names[first + at], hashes[at]);
+            numbers[first + at] = InternDigested(names[first + at], digests[at]);
     }
 }
 
-std::uint32_t NameTable::InternHashed(std::string_view name, std::uint32_t hash) {
+std::uint32_t NameTable::InternDigested(std::string_view name, const Digest& digest) {
     if (IsFullFor(1)) Grow();
-    Slot& slot = m_slots[SlotOf(name, hash)];
+    Slot& slot = m_slots[SlotOf(name, digest)];
     if (slot.numberPlusOne == 0) {
-        slot = {hash, static_cast<std::uint32_t>(Count() + 1)};
+        slot = {digest.front, digest.back, digest.size, digest.hash, static_cast<std::uint32_t>(Count() + 1)};
         m_bytes.insert(m_bytes.end(), name.begin(), name.end());
         m_bytes.push_back('\0');
         m_starts.push_back(m_bytes.size());
@@ -120,22 +99,24 @@ std::uint32_t NameTable::InternHashed(std::string_view name, std::uint32_t hash)
 std::optional<std::uint32_t> NameTable::Find(std::string_view name) const {
     assert(!IsFrozen());
     if (m_slots.empty()) return std::nullopt;
-    const Slot& slot = m_slots[SlotOf(name, HashOf(name))];
+    const Slot& slot = m_slots[SlotOf(name, Digest(name))];
     return slot.numberPlusOne == 0 ? std::nullopt : std::optional(slot.numberPlusOne - 1);
 }
 
 bool NameTable::IsFullFor(std::size_t more) const {
-    return 2 * (Count() + more) > m_slots.size();
+    return 4 * (Count() + more) > 3 * m_slots.size();
 }
 
 // The slot that holds the name, or the empty one where it belongs.
-std::size_t NameTable::SlotOf(std::string_view name, std::uint32_t hash) const {
+std::size_t NameTable::SlotOf(std::string_view name, const Digest& digest) const {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t at = hash & mask;
-    while (m_slots[at].numberPlusOne != 0 &&
-           (m_slots[at].hash != hash || !IsSame(At(m_slots[at].numberPlusOne - 1), name))) {
+    const auto isName = [&](const Slot& slot) {
+        return slot.front == digest.front && slot.back == digest.back && slot.size == digest.size &&
+               (digest.size <= 16 || At(slot.numberPlusOne - 1) == name);
+    };
+    std::size_t at = digest.hash & mask;
+    while (m_slots[at].numberPlusOne != 0 && !isName(m_slots[at]))
         at = (at + 1) & mask;
-    }
     return at;
 }
 

@@ -43,14 +43,30 @@ public:
     [[nodiscard]] std::size_t LongestProbe() const;
 
 private:
-    struct Slot {
+    /// What tells names apart. Up to sixteen bytes it is the whole name: its first and its last bytes, which
+    /// may overlap, and its size. A longer name has its hash in place of the last bytes, and is compared as
+    /// well.
+    struct Digest {
+        explicit Digest(std::string_view name);
+        Digest() = default;
+
+        std::uint64_t front = 0;
+        std::uint64_t back = 0;
+        std::uint32_t size = 0;
+        std::uint32_t hash = 0;
+    };
+    /// Half a line of the cache, so that a lookup of a short name waits for memory once.
+    struct alignas(32) Slot {
+        std::uint64_t front = 0;
+        std::uint64_t back = 0;
+        std::uint32_t size = 0;
         std::uint32_t hash = 0;
         std::uint32_t numberPlusOne = 0;  ///< 0: empty
     };
 
-    std::uint32_t InternHashed(std::string_view name, std::uint32_t hash);
+    std::uint32_t InternDigested(std::string_view name, const Digest& digest);
     [[nodiscard]] bool IsFullFor(std::size_t more) const;
-    [[nodiscard]] std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    [[nodiscard]] std::size_t SlotOf(std::string_view name, const Digest& digest) const;
     [[nodiscard]] bool IsFrozen() const { return m_slots.empty() && Count() > 0; }
     void Grow();
 

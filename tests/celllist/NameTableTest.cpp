@@ -66,6 +66,28 @@ TEST(NameTable, InternsManyAsOneAfterTheOther) {
     }
 }
 
+// Short names stand whole in the index, longer ones in part: a name is never taken for one that differs from
+// it in one byte, or by one byte at its end.
+TEST(NameTable, TellsNamesApartByEachOfTheirBytes) {
+    for (std::size_t size = 1; size <= 40; ++size) {
+        NameTable names;
+        const std::string name(size, 'n');
+        std::uint32_t expected = 0;
+        ASSERT_EQ(names.Intern(name), expected++);
+        ASSERT_EQ(names.Intern(name + 'n'), expected++);
+        ASSERT_EQ(names.Intern(name.substr(1)), expected++);
+        for (std::size_t at = 0; at < size; ++at) {
+            for (const char other : {'m', 'N', '\x01', '\xC3'}) {
+                std::string changed = name;
+                changed[at] = other;
+                ASSERT_EQ(names.Intern(changed), expected) << size << " bytes, changed at " << at;
+                ASSERT_EQ(names.Find(changed), expected++);
+            }
+        }
+        EXPECT_EQ(names.Find(name), 0u);
+    }
+}
+
 // One half of such a name cancels against the constant that the hash mixes it with. If that made all hashes
 // the same, each lookup would walk past every name before it.
 TEST(NameTable, KeepsNamesApartWhoseHalvesCancel) {
