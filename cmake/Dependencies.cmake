@@ -14,6 +14,18 @@ target_link_libraries(Tcl::stub INTERFACE Tcl::headers ${TCL_STUB_LIBRARY})
 add_library(Tcl::interpreter INTERFACE IMPORTED)
 target_link_libraries(Tcl::interpreter INTERFACE Tcl::headers ${TCL_LIBRARY})
 
+# Boost.Logic's three-valued bool: headers only, and in our own interface. A cross compiler must not search the
+# machine's own include folder, so there a link shows it Boost alone.
+find_path(BOOST_INCLUDE_DIR boost/logic/tribool.hpp REQUIRED NO_CMAKE_FIND_ROOT_PATH)
+add_library(Boost::logic INTERFACE IMPORTED)
+if(CMAKE_CROSSCOMPILING)
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/boost)
+  file(CREATE_LINK ${BOOST_INCLUDE_DIR}/boost ${CMAKE_BINARY_DIR}/boost/boost SYMBOLIC)
+  target_include_directories(Boost::logic SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/boost)
+else()
+  target_include_directories(Boost::logic SYSTEM INTERFACE ${BOOST_INCLUDE_DIR})
+endif()
+
 if(NOT WIN32)
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc)
