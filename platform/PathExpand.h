@@ -1,0 +1,24 @@
+/// @file
+/// References to the environment in paths and texts: which value counts as an absolute path, and so throws
+/// away what stands in front of it.
+///
+/// The walk over references is that of text/EnvironmentReferences.h. What this file adds is an end: whether a
+/// value is absolute is judged after normalising it, which replaces the references in it, whose values are
+/// judged in turn, and so on; and a value may name itself.
+///
+/// The surprise: a value whose judgement would never end counts as not absolute. All other answers are those
+/// of the plain recursion, but each value is judged only once in a call, and no stack grows with the chain.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/PathRules.h"
+
+namespace vapp_platform {
+
+/// The text with its references replaced, see vapp_text::ExpandEnvironmentReferences.
+[[nodiscard]] std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules);
+[[nodiscard]] CStringU ExpandEnvironment(const CStringU& text, const PathRules& rules);
+
+}  // namespace vapp_platform
