@@ -26,7 +26,10 @@ else()
   target_include_directories(Boost::logic SYSTEM INTERFACE ${BOOST_INCLUDE_DIR})
 endif()
 
-if(NOT WIN32)
+if(WIN32)
+  # The shell's folders and link objects.
+  set(VAPP_PLATFORM_LIBRARIES ole32 shell32 uuid Threads::Threads)
+else()
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc)
   set(VAPP_PLATFORM_LIBRARIES PkgConfig::ICU Threads::Threads)

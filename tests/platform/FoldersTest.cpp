@@ -1,0 +1,154 @@
+#include "platform/Folders.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <string>
+
+#include "platform/ErrorText.h"
+#include "platform/Files.h"
+#include "platform/World.h"
+#include "tests/platform/TemporaryFolder.h"
+
+namespace {
+
+using platform_test::TTemporaryFolder;
+using testing::UnorderedElementsAre;
+
+struct FoldersTest : testing::Test {
+    ~FoldersTest() override { vapp_platform::SetWineAnswer(std::nullopt); }
+    TTemporaryFolder folder;
+};
+
+// The drive or "/" that the test's folder is on.
+CStringU Root(const TTemporaryFolder& folder) {
+    return CStringU(std::u16string_view(folder.Native().root_path().u16string()));
+}
+
+TEST_F(FoldersTest, AFolderExistsAndAFileIsNone) {
+    folder.MakeFile("inv.sch").MakeFolder("lib");
+    EXPECT_TRUE(gDirectoryExists(folder.Path("lib")));
+    EXPECT_TRUE(gDirectoryExists(folder.Path("lib") + '\\'));
+    EXPECT_FALSE(gDirectoryExists(folder.Path("inv.sch")));
+    EXPECT_FALSE(gDirectoryExists(folder.Path("inv.sch") + '\\'));
+    EXPECT_FALSE(gDirectoryExists(folder.Path("missing")));
+    EXPECT_FALSE(gDirectoryExists(""));
+    EXPECT_FALSE(gDirectoryExists("\\\\no-such-server-anywhere"));
+}
+
+TEST_F(FoldersTest, ARootExistsWhereItHasEntries) {
+    EXPECT_TRUE(gDirectoryExists(Root(folder)));
+    EXPECT_FALSE(gIsDirectoryEmpty(Root(folder)));
+}
+
+TEST_F(FoldersTest, AFolderRightBelowARootIsAskedForItsEntries) {
+    const auto top = folder.Native().root_path() / *folder.Native().relative_path().begin();
+    EXPECT_TRUE(gDirectoryExists(CStringU(std::u16string_view(top.u16string()))));
+    EXPECT_FALSE(gDirectoryExists(Root(folder) + "no-such-folder-there"));
+}
+
+TEST_F(FoldersTest, OnlyPathsThatGoUpOrStartHereAreTakenFromTheFolder) {
+    folder.MakeFolder("a/b").MakeFolder("c");
+    EXPECT_TRUE(gDirectoryExistsIn("..\\c", folder.Path("a")));
+    EXPECT_TRUE(gDirectoryExistsIn("../c", folder.Path("a")));
+    EXPECT_TRUE(gDirectoryExistsIn("./b", folder.Path("a")));
+    EXPECT_FALSE(gDirectoryExistsIn("./missing", folder.Path("a")));
+    EXPECT_TRUE(gDirectoryExistsIn(folder.Path("c"), folder.Path("a")));
+    // These two are seen from the current folder.
+    EXPECT_FALSE(gDirectoryExistsIn("b", folder.Path("a")));
+    EXPECT_FALSE(gDirectoryExistsIn(".\\b", folder.Path("a")));
+}
+
+TEST_F(FoldersTest, AFolderIsEmptyWithoutEntries) {
+    folder.MakeFolder("empty").MakeFolder("full/lib").MakeFile("file");
+    EXPECT_TRUE(gIsDirectoryEmpty(folder.Path("empty")));
+    EXPECT_FALSE(gIsDirectoryEmpty(folder.Path("full")));
+    EXPECT_FALSE(gIsDirectoryEmpty(folder.Path("file")));
+    EXPECT_FALSE(gIsDirectoryEmpty(folder.Path("missing")));
+    folder.MakeFile("empty/.hidden");
+    EXPECT_FALSE(gIsDirectoryEmpty(folder.Path("empty")));
+}
+
+TEST_F(FoldersTest, ListsFilesAndFoldersByName) {
+    folder.MakeFile("l/inv.sch")
+        .MakeFolder("l/lib")
+        .MakeFile("l/inv.sch")
+        .MakeFile("l/.rc")
+        .MakeFile("l/a b");
+    EXPECT_THAT(gListFolder(folder.Path("l")), UnorderedElementsAre("inv.sch", "lib", ".rc", "a b"));
+    EXPECT_TRUE(gListFolder(folder.Path("l/lib")).empty());
+    EXPECT_TRUE(gListFolder(folder.Path("l/inv.sch")).empty());
+    EXPECT_TRUE(gListFolder(folder.Path("missing")).empty());
+}
+
+TEST_F(FoldersTest, CreatesAFolderWithItsParents) {
+    CStringU text = "unchanged";
+    std::uint32_t code = 7;
+    EXPECT_TRUE(gCreateDirectories(folder.Path("a/b/c"), &text, &code));
+    EXPECT_TRUE(gDirectoryExists(folder.Path("a/b/c")));
+    EXPECT_TRUE(gCreateDirectories(folder.Path("a/b/c"), &text, &code)) << "it exists already";
+    EXPECT_EQ(text, "unchanged");
+    EXPECT_EQ(code, 7U);
+}
+
+TEST_F(FoldersTest, CreatesWithEitherSeparatorAlsoAtTheEndAndDoubled) {
+    CStringU text;
+    EXPECT_TRUE(gCreateDirectories(folder.Path() + "/x\\y/", &text));
+    EXPECT_TRUE(gDirectoryExists(folder.Path("x/y")));
+    EXPECT_TRUE(gCreateDirectories(folder.Path() + "\\p//q\\\\r\\", &text));
+    EXPECT_TRUE(gDirectoryExists(folder.Path("p/q/r")));
+    EXPECT_EQ(text, CStringU());
+}
+
+TEST_F(FoldersTest, CreatesRelativePaths) {
+    const auto old = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Native());
+    EXPECT_TRUE(gCreateDirectories("rel/below"));
+    EXPECT_TRUE(gDirectoryExists(folder.Path("rel/below")));
+    std::filesystem::current_path(old);
+}
+
+TEST_F(FoldersTest, AFileInTheWayIsToldOnOneLineWithItsCode) {
+    folder.MakeFile("file");
+    CStringU text;
+    std::uint32_t code = 0;
+    EXPECT_FALSE(gCreateDirectories(folder.Path("file/a/b"), &text, &code));
+    EXPECT_EQ(code, 183U);
+    EXPECT_EQ(text, CStringU(" File with the name \"") + folder.Path("file") + "\" already exists. ");
+}
+
+TEST_F(FoldersTest, TheReasonIsLeftOutWhereNobodyAsksForIt) {
+    folder.MakeFile("file");
+    CStringU text;
+    std::uint32_t code = 0;
+    EXPECT_FALSE(gCreateDirectories(folder.Path("file/a"), nullptr, &code));
+    EXPECT_EQ(code, 183U);
+    EXPECT_FALSE(gCreateDirectories(folder.Path("file/a"), &text, nullptr));
+    EXPECT_FALSE(text.IsEmpty());
+    EXPECT_FALSE(gCreateDirectories(folder.Path("file/a")));
+}
+
+TEST_F(FoldersTest, AFileAtTheVeryEndExistsAndThatIsEnough) {
+    folder.MakeFile("file");
+    CStringU text;
+    EXPECT_TRUE(gCreateDirectories(folder.Path("file"), &text));
+    EXPECT_EQ(text, CStringU());
+}
+
+TEST_F(FoldersTest, NothingCanNotBeCreatedAndTheSystemSaysWhy) {
+    CStringU text;
+    std::uint32_t code = 0;
+    EXPECT_FALSE(gCreateDirectories("", &text, &code));
+    EXPECT_NE(code, 0U);
+    EXPECT_FALSE(text.IsEmpty());
+    EXPECT_EQ(text.PayloadView().find_first_of("\r\n"), std::string_view::npos);
+}
+
+TEST_F(FoldersTest, NamesOfAllScriptsComeBackAsTheyWereMade) {
+    const CStringU name(u"M\u00FCller");
+    EXPECT_TRUE(gCreateDirectories(folder.Path() + '/' + name + '/' + "lib"));
+    EXPECT_TRUE(gDirectoryExists(folder.Path() + '/' + name));
+    EXPECT_THAT(gListFolder(folder.Path()), UnorderedElementsAre(name));
+}
+
+}  // namespace
