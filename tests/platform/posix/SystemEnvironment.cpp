@@ -1,0 +1,20 @@
+#include "tests/platform/SystemEnvironment.h"
+
+#include <cstdlib>
+
+#include "text/PlatformText.h"
+
+namespace path_test {
+
+const bool cnNamesIgnoreCase = false;
+
+void SetVariable(std::u16string_view name, const std::optional<std::u16string>& value) {
+    const std::string native = vapp_platform::Utf16ToCodePage(0, name);
+    if (value) {
+        setenv(native.c_str(), vapp_platform::Utf16ToCodePage(0, *value).c_str(), 1);
+    } else {
+        unsetenv(native.c_str());
+    }
+}
+
+}  // namespace path_test
