@@ -2,12 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <string>
 
-#include "platform/World.h"
 #include "tests/platform/SystemEnvironment.h"
-#include "tests/text/TextHelpers.h"
 
 namespace {
 
@@ -31,7 +28,6 @@ TEST(EnvironmentTest, NamesThatNoVariableCanHaveAreUnset) {
 }
 
 TEST(EnvironmentTest, NamesAndValuesBeyondAsciiReturn) {
-    const text_test::TCodePageGuard utf8(vapp_platform::cnCodePageUtf8);
     const VariableGuard guard(u"VAPP_TEST_\u00E9", u"\u4E2D\xD83D\xDE00");
     EXPECT_EQ(GetEnvironmentValue(u"VAPP_TEST_\u00E9"), u"\u4E2D\xD83D\xDE00");
 }

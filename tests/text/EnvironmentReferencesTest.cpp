@@ -15,7 +15,7 @@ using vapp_text::ExpandEnvironmentReferences;
 
 using Variables = std::map<std::u16string, std::u16string>;
 
-const Variables cnVariables = {{u"A", u"<a>"},        {u"A_1", u"<a1>"},    {u"ROOT", u"/root"},
+const Variables cnVariables = {{u"A", u"<a>"},        {u"A_1", u"<a1>"},    {u"ROOT", u"/base"},
                                {u"EMPTY", u""},       {u"A B", u"<blank>"}, {u"\u00E9", u"<e>"},
                                {u"SELF", u"$SELF$A"}, {u"{A", u"<brace>"}};
 
@@ -75,8 +75,8 @@ constexpr ExpansionCase cnCases[] = {
     {"LastPercentBeginsNothing", u"A%", u"A%"},
     {"OneCharacter", u"$", u"$"},
     {"EmptyValue", u"x${EMPTY}y", u"xy"},
-    {"AbsoluteValueDropsWhatIsInFront", u"a$A/${ROOT}/b$A", u"/root/b<a>"},
-    {"TheLastAbsoluteValueWins", u"$ROOT$ROOT-x", u"/root-x"},
+    {"AbsoluteValueDropsWhatIsInFront", u"a$A/${ROOT}/b$A", u"/base/b<a>"},
+    {"TheLastAbsoluteValueWins", u"$ROOT$ROOT-x", u"/base-x"},
     {"ValuesAreNotExpandedAgain", u"$SELF", u"$SELF$A"},
     {"NamesAreTakenAsTheyStand", u"$a", u"$a"},
 };
