@@ -4,10 +4,9 @@
 
 #include <algorithm>
 
-namespace {
+#include "text/DigitsSetting.h"
 
-constexpr unsigned cnMinDigits = 1;
-constexpr unsigned cnMaxDigits = 18;
+namespace {
 
 // Made without code, so that the constructors of a host's own globals may use it already.
 constinit TEngineeringFormatSettings gSettings;
@@ -71,5 +70,5 @@ void TEngineeringFormatSettings::SetDefaultEngineeringFormatRemoveZeroExponents(
 }
 
 void TEngineeringFormatSettings::SetDefaultEngineeringFormatDigits(unsigned digits) noexcept {
-    m_digits.store(std::clamp(digits, cnMinDigits, cnMaxDigits), std::memory_order_relaxed);
+    m_digits.store(std::clamp(digits, vapp_text::GetMinDigits(), vapp_text::GetMaxDigits()), std::memory_order_relaxed);
 }

@@ -235,6 +235,27 @@ public:
     [[nodiscard]] bool EndsWith(const char* narrow) const;
     [[nodiscard]] bool EndsWithNoCase(const CStringU& suffix) const;
 
+    // --- Numbers ---------------------------------------------------------------------------------------
+    // All begin at the front of the text and leave the rest unread. `pos`, unless null, becomes the place in
+    // this text where reading ended. No locale has a say: the point is always ".". Text without a number is
+    // 0.
+
+    /// What strtod reads in C's plain locale: decimal and hexadecimal floats, "inf", "nan". `pos` gets the
+    /// place behind the number, or offset 0 for none. Out of range is infinity or 0 with errno ERANGE.
+    double ToDouble(CStringUPos* pos = nullptr) const;
+    /// A number with an engineering suffix: *1.5k*, *10MEG*, *3mil*, *50%*, by the SPICE reading of suffixes
+    /// ("M" is milli) or by the SI one ("M" is mega). `pos` as in ToDouble, with one oddity that callers
+    /// count on: in the SI reading a number without a suffix leaves it on the number's last character.
+    double ToDoubleEngineering(bool spiceOnly, CStringUPos* pos = nullptr) const;
+    /// An integer in the decimal digits of any script, behind blanks and one sign; "x" or "#" behind zeros or
+    /// in front of all digits means base 16. The unsigned forms take no minus. A digit that would overflow
+    /// ends the number before it. `pos` gets the place behind the last character taken, blanks, sign and "x"
+    /// included.
+    std::int32_t ToInt(CStringUPos* pos = nullptr) const noexcept;
+    std::uint32_t ToUInt(CStringUPos* pos = nullptr) const noexcept;
+    std::int64_t ToInt64(CStringUPos* pos = nullptr) const noexcept;
+    std::uint64_t ToUInt64(CStringUPos* pos = nullptr) const noexcept;
+
     /// Equal payload bytes.
     friend bool operator==(const CStringU& left, const CStringU& right) noexcept {
         return left.PayloadView() == right.PayloadView();

@@ -1,6 +1,6 @@
 /// @file
 /// TeUnitScale: the notations that a number can be written in. For what reads numbers there are only two
-/// readings, SI and SPICE; see vapp/text/ParseEngineering.h.
+/// readings, SI and SPICE; see CStringU::ToDoubleEngineering.
 ///
 /// The values stand in settings files and option lists of hosts, so they stay as they are. Values outside of
 /// the list can come in from there; they are legal, and state no choice.

@@ -1,0 +1,185 @@
+// The numbers that a text reads out of itself: positions in payloads with and without a marker, code pages,
+// and hosts with a locale of their own.
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <string>
+
+#include "tests/text/HostileText.h"
+#include "text/CharToInt.h"
+#include "vapp/text/CStringU.h"
+
+namespace {
+
+using namespace text_test;
+
+TEST(CStringUNumbers, ToDoubleTellsThePlaceBehindTheNumber) {
+    const CStringU text(" -1.5e3k");
+    CStringUPos pos;
+    EXPECT_EQ(text.ToDouble(&pos), -1500);
+    EXPECT_EQ(pos.offset, 7);
+    EXPECT_EQ(pos.owner, &text);
+    EXPECT_EQ(*pos, u'k');
+    EXPECT_EQ(text.ToDouble(), -1500);
+    const CStringU none("abc");
+    EXPECT_EQ(none.ToDouble(&pos), 0);
+    EXPECT_EQ(pos.offset, 0);
+    EXPECT_EQ(CStringU().ToDouble(&pos), 0);
+    EXPECT_EQ(pos.offset, 0);
+}
+
+TEST(CStringUNumbers, ToDoubleReadsWhatStrtodReads) {
+    EXPECT_EQ(CStringU("0x1F").ToDouble(), 31);
+    EXPECT_TRUE(std::isinf(CStringU("-inf").ToDouble()));
+    EXPECT_TRUE(std::isnan(CStringU("nan").ToDouble()));
+    EXPECT_EQ(CStringU("0.1").ToDouble(), 0.1);
+}
+
+TEST(CStringUNumbers, ToDoubleCountsThePayloadAndNotTheMarker) {
+    const CStringU text = Utf8("2.5\xC3\xA9");
+    ASSERT_TRUE(text.HasNonAscii());
+    CStringUPos pos;
+    for (const unsigned codePage : {1252U, 932U, 65001U}) {
+        const TCodePageGuard guard(codePage);
+        EXPECT_EQ(text.ToDouble(&pos), 2.5);
+        EXPECT_EQ(pos.offset, 3);
+        EXPECT_EQ(*pos, u'\u00E9');
+        EXPECT_EQ(text.ToDoubleEngineering(true, &pos), 2.5);
+        EXPECT_EQ(pos.offset, 3);
+    }
+}
+
+TEST(CStringUNumbers, OverlongDigitsHaveMoreBytesThanCharacters) {
+    // Malformed text whose characters are the digits 1 and 2, in two bytes each; the last one sends it
+    // through the code page.
+    const CStringU text = Utf8("\xC0\xB1\xC0\xB2.5\xC3\xA9");
+    CStringUPos pos;
+    EXPECT_EQ(text.ToDouble(&pos), 12.5);
+    EXPECT_EQ(pos.offset, 6);
+}
+
+TEST(CStringUNumbers, AMarkerAloneIsNoNumber) {
+    const CStringU text = Raw("\x80");
+    CStringUPos pos;
+    EXPECT_EQ(text.ToDouble(&pos), 0);
+    EXPECT_EQ(text.ToDoubleEngineering(false, &pos), 0);
+    EXPECT_EQ(text.ToInt(&pos), 0);
+    EXPECT_EQ(pos.offset, 0);
+}
+
+TEST(CStringUNumbers, ToDoubleEngineeringChoosesTheReading) {
+    const CStringU text("10Mx");
+    CStringUPos pos;
+    EXPECT_EQ(text.ToDoubleEngineering(true, &pos), 0.01);
+    EXPECT_EQ(pos.offset, 3);
+    EXPECT_EQ(text.ToDoubleEngineering(false, &pos), 1e7);
+    EXPECT_EQ(pos.offset, 3);
+    EXPECT_EQ(CStringU("2ft").ToDoubleEngineering(false), 0.61);
+}
+
+TEST(CStringUNumbers, WithoutASuffixTheSiReadingEndsOnTheLastCharacter) {
+    const CStringU text("12.5 k");
+    CStringUPos pos;
+    EXPECT_EQ(text.ToDoubleEngineering(true, &pos), 12.5);
+    EXPECT_EQ(*pos, u' ');
+    EXPECT_EQ(text.ToDoubleEngineering(false, &pos), 12.5);
+    EXPECT_EQ(*pos, u'5');
+}
+
+TEST(CStringUNumbers, WithoutANumberEngineeringGivesZeroAtTheFront) {
+    for (const char* none : {"", "k", " . ", "abc"}) {
+        const CStringU text(none);
+        for (const bool spice : {false, true}) {
+            CStringUPos pos(3, nullptr);
+            EXPECT_EQ(text.ToDoubleEngineering(spice, &pos), 0);
+            EXPECT_EQ(pos.offset, 0);
+            EXPECT_EQ(pos.owner, &text);
+        }
+    }
+}
+
+TEST(CStringUNumbers, IntegersOfAllWidths) {
+    const CStringU text = Utf8(" \xE2\x88\x92\xD9\xA3\xD9\xA4z");
+    CStringUPos pos(7, nullptr);
+    EXPECT_EQ(text.ToInt(&pos), -34) << "a minus sign and Arabic-Indic digits";
+    EXPECT_EQ(pos.offset, 8);
+    EXPECT_EQ(pos.owner, &text);
+    EXPECT_EQ(*pos, u'z');
+    EXPECT_EQ(text.ToInt64(&pos), -34);
+    EXPECT_EQ(text.ToUInt(&pos), 0U);
+    EXPECT_EQ(*pos, u'\u2212');
+    EXPECT_EQ(text.ToUInt64(), 0U);
+    EXPECT_EQ(CStringU("4294967295").ToUInt(), 4294967295U);
+    EXPECT_EQ(CStringU("18446744073709551615").ToUInt64(), 18446744073709551615U);
+    EXPECT_EQ(CStringU("-9223372036854775808").ToInt64(), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(CStringU("2147483648").ToInt(), 214748364);
+}
+
+TEST(CStringUNumbers, PositionsStayWithinAnyText) {
+    std::mt19937 random = SeededRandom();
+    for (int i = 0; i < 5000; ++i) {
+        const CStringU text(HostileBytes(random).c_str(),
+                            UpTo(random, 1) == 0 ? TextEncoding::Raw : TextEncoding::Utf8Auto);
+        CStringUPos pos;
+        text.ToDouble(&pos);
+        ASSERT_TRUE(pos.offset >= 0 && pos.offset <= text.GetByteLength());
+        text.ToDoubleEngineering(UpTo(random, 1) == 0, &pos);
+        ASSERT_TRUE(pos.offset >= 0 && pos.offset <= text.GetByteLength());
+        static_cast<void>(text.ToUInt(&pos));
+        ASSERT_TRUE(pos.offset >= 0 && pos.offset <= text.GetByteLength());
+    }
+}
+
+/// A locale for the time of a test; the host's own may be any.
+class TLocaleGuard {
+public:
+    explicit TLocaleGuard(std::initializer_list<const char*> names) {
+        for (const char* name : names) {
+            m_set = m_set || std::setlocale(LC_ALL, name) != nullptr;
+        }
+    }
+    ~TLocaleGuard() { std::setlocale(LC_ALL, "C"); }
+    TLocaleGuard(const TLocaleGuard&) = delete;
+    TLocaleGuard& operator=(const TLocaleGuard&) = delete;
+    [[nodiscard]] bool IsSet() const { return m_set; }
+
+private:
+    bool m_set = false;
+};
+
+void ExpectNumbersOfThePlainLocale() {
+    EXPECT_EQ(CStringU("1.5").ToDouble(), 1.5);
+    EXPECT_EQ(CStringU("1,5").ToDouble(), 1);
+    EXPECT_EQ(CStringU("1.500").ToDouble(), 1.5);
+    EXPECT_TRUE(std::isinf(CStringU("INFINITY").ToDouble()));
+    for (const bool spice : {false, true}) {
+        EXPECT_EQ(CStringU("1.5k").ToDoubleEngineering(spice), 1500);
+        EXPECT_EQ(CStringU("1,5k").ToDoubleEngineering(spice), 1);
+        EXPECT_EQ(CStringU("1.5MI").ToDoubleEngineering(spice), 15 * 2.54e-05 / 10);
+        EXPECT_EQ(Utf8("1.5m\xC4\xB0").ToDoubleEngineering(spice), 0.0015) << "a dotted capital I";
+        EXPECT_EQ(Utf8("1.5m\xC4\xB1").ToDoubleEngineering(spice), 0.0015) << "a small i without its dot";
+    }
+    EXPECT_EQ(CStringU("1.234").ToInt(), 1);
+    EXPECT_EQ(CStringU("0XFF").ToInt(), 255);
+}
+
+TEST(CStringUNumbers, ALocaleWithACommaChangesNothing) {
+    const TLocaleGuard guard({"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "German_Germany.1252"});
+    if (!guard.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    ExpectNumbersOfThePlainLocale();
+}
+
+TEST(CStringUNumbers, TurkishChangesNothing) {
+    const TLocaleGuard guard({"tr_TR.UTF-8", "tr_TR.utf8", "tr_TR", "Turkish_Turkey.1254"});
+    if (!guard.IsSet()) GTEST_SKIP() << "no Turkish locale is installed";
+    ExpectNumbersOfThePlainLocale();
+}
+
+TEST(CStringUNumbers, ThePlainLocaleIsThePlainLocale) {
+    ExpectNumbersOfThePlainLocale();
+}
+
+}  // namespace
