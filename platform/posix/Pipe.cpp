@@ -1,0 +1,176 @@
+/// @file
+/// The end that stays here never blocks in the system: a call tries, and where it would wait it polls the
+/// pipe beside an eventfd that Close sets. The child's end is a description of its own and blocks as always.
+///
+/// Trying first makes the common case one call: bytes are there, or there is room.
+#include "platform/Pipe.h"
+
+#include <fcntl.h>
+#include <sys/eventfd.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <utility>
+
+#include "platform/FaultPoint.h"
+#include "platform/posix/Poll.h"
+#include "platform/posix/QuietWrite.h"
+#include "platform/posix/Retry.h"
+
+namespace vapp_platform {
+
+namespace {
+
+int Descriptor(const OwnedHandle& handle) {
+    return static_cast<int>(handle.Get());
+}
+
+OwnedHandle MakeWake() {
+    return OwnedHandle(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+}
+
+void Wake(const OwnedHandle& wake) {
+    const std::uint64_t one = 1;
+    Retry([&] { return write(Descriptor(wake), &one, sizeof one); });
+}
+
+void StopBlocking(const OwnedHandle& end) {
+    const int flags = fcntl(Descriptor(end), F_GETFL);
+    if (flags >= 0) fcntl(Descriptor(end), F_SETFL, flags | O_NONBLOCK);
+}
+
+// Without a wake (the process has no descriptor left) poll skips it: its number is negative.
+void WaitFor(const OwnedHandle& end, short events, const OwnedHandle& wake) {
+    pollfd both[] = {{Descriptor(end), events, 0}, {Descriptor(wake), POLLIN, 0}};
+    PollFor(both, std::nullopt);
+}
+
+Transfer Done(ssize_t count) {
+    return {static_cast<std::int64_t>(count), 0};
+}
+
+bool WouldBlock() {
+    return errno == EAGAIN || errno == EWOULDBLOCK;
+}
+
+}  // namespace
+
+int CreatePipe(OwnedHandle& readEnd, OwnedHandle& writeEnd) {
+    if (const int fault = FaultOf(SystemCall::CreatePipe); fault != 0) return fault;
+    int ends[2] = {-1, -1};
+    if (pipe2(ends, O_CLOEXEC) != 0) return errno;
+    readEnd = OwnedHandle(ends[0]);
+    writeEnd = OwnedHandle(ends[1]);
+    return 0;
+}
+
+int KeepFromChildren(const OwnedHandle& end) {
+    if (const int fault = FaultOf(SystemCall::KeepFromChildren); fault != 0) return fault;
+    return fcntl(Descriptor(end), F_SETFD, FD_CLOEXEC) == 0 ? 0 : errno;
+}
+
+Transfer WriteOnce(const OwnedHandle& end, const void* data, std::size_t size) {
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t written = Retry(
+            [&] { return QuietWrite(Descriptor(end), static_cast<const char*>(data) + done, size - done); });
+        if (written < 0) return done > 0 ? Done(static_cast<ssize_t>(done)) : Transfer{0, errno};
+        done += static_cast<std::size_t>(written);
+    }
+    return Done(static_cast<ssize_t>(done));
+}
+
+Transfer ReadOnce(const OwnedHandle& end, void* buffer, std::size_t size) {
+    if (size == 0) return {};
+    const ssize_t count = Retry([&] { return read(Descriptor(end), buffer, size); });
+    if (count > 0) return Done(count);
+    return {0, count == 0 ? EPIPE : errno};
+}
+
+PipeReader::PipeReader(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake()) {
+    StopBlocking(m_end);
+}
+
+Transfer PipeReader::Peek() {
+    if (!m_gate.Enter()) return {0, ECANCELED};
+    Transfer result;
+    int available = 0;
+    if (ioctl(Descriptor(m_end), FIONREAD, &available) != 0) {
+        result.code = errno;
+    } else if (available > 0) {
+        result.count = available;
+    } else {
+        pollfd one[] = {{Descriptor(m_end), POLLIN, 0}};
+        PollFor(one, std::chrono::milliseconds(0));
+        // Bytes and the end can have come between the two questions: then the next peek counts them.
+        if ((one[0].revents & (POLLHUP | POLLIN)) == POLLHUP) result.code = EPIPE;
+    }
+    Leave();
+    return result;
+}
+
+Transfer PipeReader::Read(void* buffer, std::size_t size) {
+    if (size == 0) return {};
+    Transfer result{0, ECANCELED};
+    if (!m_gate.Enter()) return result;
+    while (!m_gate.IsClosed()) {
+        const ssize_t count = Retry([&] { return read(Descriptor(m_end), buffer, size); });
+        if (count < 0 && WouldBlock()) {
+            WaitFor(m_end, POLLIN, m_wake);
+            continue;
+        }
+        result = count > 0 ? Done(count) : Transfer{0, count == 0 ? EPIPE : errno};
+        break;
+    }
+    Leave();
+    return result;
+}
+
+void PipeReader::Close() noexcept {
+    if (!m_gate.Close()) return;
+    Wake(m_wake);
+    Leave();
+}
+
+void PipeReader::Leave() noexcept {
+    if (!m_gate.Leave()) return;
+    m_end.Drop();
+    m_wake.Drop();
+}
+
+PipeWriter::PipeWriter(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake()) {
+    StopBlocking(m_end);
+}
+
+Transfer PipeWriter::Write(const void* data, std::size_t size) {
+    if (size == 0) return {};
+    Transfer result{0, ECANCELED};
+    if (!m_gate.Enter()) return result;
+    while (!m_gate.IsClosed()) {
+        const ssize_t count = Retry([&] { return QuietWrite(Descriptor(m_end), data, size); });
+        if (count < 0 && WouldBlock()) {
+            WaitFor(m_end, POLLOUT, m_wake);
+            continue;
+        }
+        result = count >= 0 ? Done(count) : Transfer{0, errno};
+        break;
+    }
+    Leave();
+    return result;
+}
+
+void PipeWriter::Close() noexcept {
+    if (!m_gate.Close()) return;
+    Wake(m_wake);
+    Leave();
+}
+
+void PipeWriter::Leave() noexcept {
+    if (!m_gate.Leave()) return;
+    m_end.Drop();
+    m_wake.Drop();
+}
+
+}  // namespace vapp_platform

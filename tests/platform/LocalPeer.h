@@ -1,0 +1,34 @@
+/// @file
+/// The other side of a connection, made of bare calls: it shares no code with what is tested.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/OwnedHandle.h"
+
+namespace platform_test {
+
+/// A blocking TCP connection to a port of this machine.
+class LocalPeer {
+public:
+    explicit LocalPeer(std::uint16_t port);
+    LocalPeer(LocalPeer&& other) noexcept;
+    LocalPeer(const LocalPeer&) = delete;
+    LocalPeer& operator=(const LocalPeer&) = delete;
+    ~LocalPeer() { Close(); }
+
+    [[nodiscard]] bool IsConnected() const noexcept { return m_handle != vapp_platform::cnNoHandle; }
+    /// Sends all; false where the other side has gone.
+    bool Send(std::string_view bytes) const;
+    /// Exactly so many bytes, fewer at the end of the stream.
+    [[nodiscard]] std::string Receive(std::size_t size) const;
+    void Close();
+
+private:
+    vapp_platform::NativeHandle m_handle = vapp_platform::cnNoHandle;
+};
+
+}  // namespace platform_test

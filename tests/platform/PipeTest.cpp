@@ -1,0 +1,211 @@
+#include "platform/Pipe.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <random>
+#include <string>
+#include <thread>
+#include <utility>
+
+#include "platform/FaultPoint.h"
+#include "tests/platform/ChildRoles.h"
+#include "tests/platform/SystemHelpers.h"
+
+namespace {
+
+using platform_test::PipedChild;
+using platform_test::ReadAll;
+using platform_test::StartRole;
+using platform_test::WriteAll;
+using vapp_platform::OwnedHandle;
+using vapp_platform::PipeReader;
+using vapp_platform::PipeWriter;
+using vapp_platform::SystemCall;
+using vapp_platform::Transfer;
+
+/// Both ends in this process.
+struct OwnPipe {
+    OwnPipe() {
+        OwnedHandle readEnd, writeEnd;
+        EXPECT_EQ(CreatePipe(readEnd, writeEnd), 0);
+        reader = std::make_unique<PipeReader>(std::move(readEnd));
+        writer = std::make_unique<PipeWriter>(std::move(writeEnd));
+    }
+    std::unique_ptr<PipeReader> reader;
+    std::unique_ptr<PipeWriter> writer;
+};
+
+TEST(Pipe, PeekCountsWhatAReadGivesAtOnce) {
+    const OwnPipe pipe;
+    EXPECT_EQ(pipe.reader->Peek().count, 0);
+    EXPECT_FALSE(pipe.reader->Peek().Failed());
+    ASSERT_TRUE(WriteAll(*pipe.writer, "hello"));
+    EXPECT_EQ(pipe.reader->Peek().count, 5);
+    char buffer[3];
+    EXPECT_EQ(pipe.reader->Read(buffer, sizeof buffer).count, 3);
+    EXPECT_EQ(pipe.reader->Peek().count, 2);
+}
+
+TEST(Pipe, ABrokenPipeStillGivesWhatIsInIt) {
+    const OwnPipe pipe;
+    ASSERT_TRUE(WriteAll(*pipe.writer, "rest"));
+    pipe.writer->Close();
+    EXPECT_EQ(pipe.reader->Peek().count, 4);
+    EXPECT_FALSE(pipe.reader->Peek().Failed());
+    EXPECT_EQ(ReadAll(*pipe.reader), "rest");
+    EXPECT_TRUE(pipe.reader->Peek().Failed());
+    char byte = 0;
+    const Transfer end = pipe.reader->Read(&byte, 1);
+    EXPECT_TRUE(end.Failed());
+    EXPECT_EQ(end.count, 0);
+    EXPECT_EQ(end.code, pipe.reader->Peek().code);
+}
+
+TEST(Pipe, NothingWantedIsNothingDone) {
+    const OwnPipe pipe;
+    char byte = 0;
+    EXPECT_FALSE(pipe.reader->Read(&byte, 0).Failed());
+    EXPECT_FALSE(pipe.writer->Write(&byte, 0).Failed());
+    EXPECT_EQ(pipe.reader->Peek().count, 0);
+}
+
+TEST(Pipe, WritingToNobodyIsACodeAndNoSignal) {
+    const OwnPipe pipe;
+    pipe.reader->Close();
+    for (int round = 0; round < 3; ++round) {
+        const Transfer written = pipe.writer->Write("x", 1);
+        EXPECT_TRUE(written.Failed());
+        EXPECT_EQ(written.count, 0);
+    }
+}
+
+TEST(Pipe, AMebibyteGoesThroughWhole) {
+    const PipedChild piped = StartRole("echo");
+    ASSERT_NE(piped.child, nullptr);
+    std::mt19937 random(5);
+    std::string sent(1024 * 1024, '\0');
+    for (char& byte : sent)
+        byte = static_cast<char>(random());
+    std::thread writing([&] {
+        EXPECT_TRUE(WriteAll(*piped.input, sent));
+        piped.input->Close();
+    });
+    const bool same = ReadAll(*piped.output) == sent;
+    writing.join();
+    EXPECT_TRUE(same);
+}
+
+TEST(Pipe, CloseWakesABlockedRead) {
+    const OwnPipe pipe;
+    std::atomic<bool> reading = false;
+    Transfer result;
+    std::thread reader([&] {
+        char byte = 0;
+        reading = true;
+        result = pipe.reader->Read(&byte, 1);
+    });
+    while (!reading)
+        std::this_thread::yield();
+    pipe.reader->Close();
+    reader.join();
+    EXPECT_TRUE(result.Failed());
+    char byte = 0;
+    EXPECT_TRUE(pipe.reader->Read(&byte, 1).Failed());
+    EXPECT_TRUE(pipe.reader->Peek().Failed());
+}
+
+TEST(Pipe, CloseWakesABlockedWrite) {
+    const OwnPipe pipe;
+    std::atomic<std::int64_t> written = 0;
+    std::thread writer([&] {
+        const std::string block(65536, 'x');
+        while (true) {
+            const Transfer result = pipe.writer->Write(block.data(), block.size());
+            if (result.Failed()) return;
+            written += result.count;
+        }
+    });
+    while (written == 0)
+        std::this_thread::yield();
+    pipe.writer->Close();
+    writer.join();
+    EXPECT_TRUE(pipe.writer->Write("x", 1).Failed());
+}
+
+TEST(Pipe, ClosingBetweenReadsAndWritesNeverHangsNorLosesAHandle) {
+    const int before = platform_test::CountOpenHandles();
+    for (int round = 0; round < 300; ++round) {
+        const OwnPipe pipe;
+        std::thread reader([&] {
+            char buffer[64];
+            while (!pipe.reader->Read(buffer, sizeof buffer).Failed()) {
+            }
+        });
+        std::thread writer([&] {
+            while (!pipe.writer->Write("some words", 10).Failed()) {
+            }
+        });
+        if (round % 2 == 0) {
+            pipe.reader->Close();
+            pipe.writer->Close();
+        } else {
+            pipe.writer->Close();
+            pipe.reader->Close();
+        }
+        reader.join();
+        writer.join();
+    }
+    EXPECT_EQ(platform_test::CountOpenHandles(), before);
+}
+
+TEST(Pipe, ASlowReaderGetsEveryByte) {
+    const OwnPipe pipe;
+    const std::string sent(300000, 'y');
+    std::thread writing([&] {
+        EXPECT_TRUE(WriteAll(*pipe.writer, sent));
+        pipe.writer->Close();
+    });
+    std::size_t got = 0;
+    char buffer[7];
+    while (true) {
+        const Transfer read = pipe.reader->Read(buffer, sizeof buffer);
+        if (read.Failed()) break;
+        got += static_cast<std::size_t>(read.count);
+    }
+    writing.join();
+    EXPECT_EQ(got, sent.size());
+}
+
+TEST(Pipe, OneShotCallsReadAndWritePlainEnds) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    EXPECT_EQ(WriteOnce(writeEnd, "abcdef", 6).count, 6);
+    char buffer[4];
+    EXPECT_EQ(ReadOnce(readEnd, buffer, 4).count, 4);
+    EXPECT_EQ(writeEnd.Close(), 0);
+    EXPECT_EQ(ReadOnce(readEnd, buffer, 4).count, 2);
+    EXPECT_TRUE(ReadOnce(readEnd, buffer, 4).Failed());
+    OwnedHandle otherRead, otherWrite;
+    ASSERT_EQ(CreatePipe(otherRead, otherWrite), 0);
+    otherRead.Drop();
+    EXPECT_TRUE(WriteOnce(otherWrite, "x", 1).Failed());
+}
+
+TEST(Pipe, FaultsComeWhereATestAsksForThem) {
+    vapp_platform::SetFaultSource([](SystemCall call) { return call == SystemCall::CreatePipe ? 24 : 0; });
+    OwnedHandle readEnd, writeEnd;
+    EXPECT_EQ(CreatePipe(readEnd, writeEnd), 24);
+    EXPECT_FALSE(readEnd.IsOpen());
+    vapp_platform::SetFaultSource(
+        [](SystemCall call) { return call == SystemCall::KeepFromChildren ? 6 : 0; });
+    EXPECT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    EXPECT_EQ(KeepFromChildren(readEnd), 6);
+    vapp_platform::SetFaultSource([](SystemCall call) { return call == SystemCall::CloseHandle ? 6 : 0; });
+    EXPECT_EQ(readEnd.Close(), 6);
+    vapp_platform::SetFaultSource(nullptr);
+    EXPECT_EQ(readEnd.Close(), 0);
+    EXPECT_EQ(readEnd.Close(), 0);
+}
+
+}  // namespace

@@ -1,0 +1,11 @@
+/// @file
+/// The tests of child processes, pipes and sockets; also the child in them.
+#include <gtest/gtest.h>
+
+#include "tests/platform/ChildRoles.h"
+
+int main(int count, char** arguments) {
+    platform_test::PlayChildRole(count, arguments);
+    testing::InitGoogleTest(&count, arguments);
+    return RUN_ALL_TESTS();
+}

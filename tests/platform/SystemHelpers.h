@@ -1,0 +1,23 @@
+/// @file
+/// What the tests ask of the system itself; written once for each system.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/OwnedHandle.h"
+
+namespace platform_test {
+
+/// Standard input, output or error (0, 1, 2) of this process.
+[[nodiscard]] vapp_platform::NativeHandle StandardStream(int number);
+/// How many handles this process has open.
+[[nodiscard]] int CountOpenHandles();
+/// Whether a process with this id runs; one that has ended and waits to be collected doesn't.
+[[nodiscard]] bool IsRunning(std::uint32_t id);
+/// Makes this process deaf to polite requests to end.
+void IgnoreRequestsToEnd();
+/// What only this system's children can say about themselves, by the name of a question; empty for none.
+[[nodiscard]] std::string AnswerAboutSelf(const std::string& question);
+
+}  // namespace platform_test

@@ -1,0 +1,49 @@
+#include "tests/platform/LocalPeer.h"
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <utility>
+
+namespace platform_test {
+
+LocalPeer::LocalPeer(std::uint16_t port) {
+    const int handle = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, IPPROTO_TCP);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(port);
+    m_handle = handle;
+    if (connect(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) Close();
+}
+
+LocalPeer::LocalPeer(LocalPeer&& other) noexcept
+    : m_handle(std::exchange(other.m_handle, vapp_platform::cnNoHandle)) {}
+
+bool LocalPeer::Send(std::string_view bytes) const {
+    while (!bytes.empty()) {
+        const ssize_t sent = send(static_cast<int>(m_handle), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        if (sent <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(sent));
+    }
+    return true;
+}
+
+std::string LocalPeer::Receive(std::size_t size) const {
+    std::string bytes(size, '\0');
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t got = recv(static_cast<int>(m_handle), bytes.data() + done, size - done, 0);
+        if (got <= 0) break;
+        done += static_cast<std::size_t>(got);
+    }
+    bytes.resize(done);
+    return bytes;
+}
+
+void LocalPeer::Close() {
+    if (IsConnected()) close(static_cast<int>(std::exchange(m_handle, vapp_platform::cnNoHandle)));
+}
+
+}  // namespace platform_test

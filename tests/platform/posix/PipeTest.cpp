@@ -1,0 +1,120 @@
+/// @file
+/// Pipes beside the host's signals.
+#include "platform/Pipe.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <pthread.h>
+#include <signal.h>
+
+#include <atomic>
+#include <memory>
+#include <string>
+#include <thread>
+#include <utility>
+
+#include "tests/platform/ChildRoles.h"
+
+namespace {
+
+using vapp_platform::OwnedHandle;
+using vapp_platform::PipeReader;
+using vapp_platform::PipeWriter;
+
+std::atomic<int> gPipeSignals = 0;
+
+struct BrokenPipe {
+    BrokenPipe() {
+        OwnedHandle readEnd, writeEnd;
+        EXPECT_EQ(CreatePipe(readEnd, writeEnd), 0);
+        readEnd.Drop();
+        writer = std::make_unique<PipeWriter>(std::move(writeEnd));
+    }
+    std::unique_ptr<PipeWriter> writer;
+};
+
+bool IsPipeSignalPending() {
+    sigset_t pending;
+    sigpending(&pending);
+    return sigismember(&pending, SIGPIPE) == 1;
+}
+
+TEST(PosixPipe, TheHostsHandlerForBrokenPipesNeverRuns) {
+    gPipeSignals = 0;
+    struct sigaction counting {};
+    counting.sa_handler = [](int) { ++gPipeSignals; };
+    struct sigaction before {};
+    sigaction(SIGPIPE, &counting, &before);
+    const BrokenPipe broken;
+    EXPECT_EQ(broken.writer->Write("x", 1).code, EPIPE);
+    EXPECT_EQ(gPipeSignals, 0);
+    EXPECT_FALSE(IsPipeSignalPending());
+    // The host's own one still comes.
+    raise(SIGPIPE);
+    EXPECT_EQ(gPipeSignals, 1);
+    sigaction(SIGPIPE, &before, nullptr);
+}
+
+TEST(PosixPipe, ASignalThatWasPendingBeforeStaysPending) {
+    sigset_t pipe;
+    sigset_t before;
+    sigemptyset(&pipe);
+    sigaddset(&pipe, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &pipe, &before);
+    const BrokenPipe broken;
+    EXPECT_EQ(broken.writer->Write("x", 1).code, EPIPE);
+    EXPECT_FALSE(IsPipeSignalPending());
+    pthread_kill(pthread_self(), SIGPIPE);
+    EXPECT_EQ(broken.writer->Write("x", 1).code, EPIPE);
+    EXPECT_TRUE(IsPipeSignalPending());
+    int number = 0;
+    sigwait(&pipe, &number);
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
+TEST(PosixPipe, BothEndsAreClosedOnExecFromTheirBirth) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    EXPECT_EQ(fcntl(static_cast<int>(readEnd.Get()), F_GETFD), FD_CLOEXEC);
+    EXPECT_EQ(fcntl(static_cast<int>(writeEnd.Get()), F_GETFD), FD_CLOEXEC);
+}
+
+TEST(PosixPipe, AStormOfSignalsCostsNoByte) {
+    struct sigaction quiet {};
+    quiet.sa_handler = [](int) {};
+    struct sigaction before {};
+    sigaction(SIGUSR2, &quiet, &before);
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    PipeReader reader(std::move(readEnd));
+    PipeWriter writer(std::move(writeEnd));
+    const std::string sent(2000000, 'z');
+    std::atomic<bool> over = false;
+    std::string got;
+    std::thread reading([&] { got = platform_test::ReadAll(reader); });
+    std::thread writing([&] {
+        EXPECT_TRUE(platform_test::WriteAll(writer, sent));
+        writer.Close();
+    });
+    const pthread_t targets[] = {reading.native_handle(), writing.native_handle()};
+    std::thread storm([&] {
+        while (!over) {
+            for (const pthread_t target : targets)
+                pthread_kill(target, SIGUSR2);
+        }
+    });
+    // Nobody is joined while the storm still aims at it.
+    while (writer.Write("", 0).code == 0 && !over) {
+        const auto left = reader.Peek();
+        if (left.Failed()) over = true;
+        std::this_thread::yield();
+    }
+    over = true;
+    storm.join();
+    writing.join();
+    reading.join();
+    sigaction(SIGUSR2, &before, nullptr);
+    EXPECT_EQ(got.size(), sent.size());
+}
+
+}  // namespace

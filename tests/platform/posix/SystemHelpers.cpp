@@ -1,0 +1,69 @@
+/// @file
+/// Linux says all of it in /proc.
+#include "tests/platform/SystemHelpers.h"
+
+#include <dirent.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <string>
+
+namespace platform_test {
+
+namespace {
+
+// The numbers of the open descriptors, each followed by a blank; the one that reads the folder is left out.
+std::string OpenDescriptors() {
+    std::string numbers;
+    DIR* const folder = opendir("/proc/self/fd");
+    for (const dirent* entry = readdir(folder); entry != nullptr; entry = readdir(folder)) {
+        const std::string name = entry->d_name;
+        if (name[0] != '.' && name != std::to_string(dirfd(folder))) numbers += name + ' ';
+    }
+    closedir(folder);
+    return numbers;
+}
+
+std::string StatusLine(const std::string& front) {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.starts_with(front)) return line;
+    }
+    return {};
+}
+
+}  // namespace
+
+vapp_platform::NativeHandle StandardStream(int number) {
+    return number;
+}
+
+int CountOpenHandles() {
+    int count = 0;
+    for (const char sign : OpenDescriptors())
+        count += sign == ' ' ? 1 : 0;
+    return count;
+}
+
+bool IsRunning(std::uint32_t id) {
+    std::ifstream file("/proc/" + std::to_string(id) + "/stat");
+    std::string all;
+    std::getline(file, all);
+    const auto behindName = all.rfind(')');
+    return behindName != std::string::npos && all.substr(behindName + 2, 1) != "Z";
+}
+
+void IgnoreRequestsToEnd() {
+    signal(SIGTERM, SIG_IGN);
+    signal(SIGINT, SIG_IGN);
+    signal(SIGHUP, SIG_IGN);
+}
+
+std::string AnswerAboutSelf(const std::string& question) {
+    if (question == "descriptors") return OpenDescriptors();
+    return StatusLine(question);
+}
+
+}  // namespace platform_test
