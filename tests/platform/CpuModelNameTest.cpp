@@ -49,11 +49,11 @@ CStringU Numbers(const TCpuModel& model) {
                                model.extendedFamily, model.model, model.extendedModel);
 }
 
-// Every family and model that four bits can tell, with and without extensions: the rows have their names, all
+// Every family and model that four bits can tell, with small extensions: the rows have their names, all
 // others their numbers.
 void ExpectTable(const char* vendor, const std::vector<TRow>& rows) {
-    for (std::uint32_t bits = 0; bits < 1u << 16; ++bits) {
-        const TCpuModel model{bits & 15, bits >> 12 & 15, bits >> 4 & 15, bits >> 8 & 15};
+    for (std::uint32_t bits = 0; bits < 1u << 12; ++bits) {
+        const TCpuModel model{bits & 15, bits >> 11 & 1, bits >> 4 & 15, bits >> 8 & 7};
         CStringU expected = Numbers(model);
         for (const TRow& row : rows) {
             if (row.model == model) expected = row.name;

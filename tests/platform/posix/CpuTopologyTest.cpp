@@ -93,10 +93,10 @@ TEST_F(CpuTopologyFolderTest, OneCoreWithTwoProcessors) {
 }
 
 TEST_F(CpuTopologyFolderTest, MoreThan64ProcessorsAreAllCounted) {
-    Write("online", "0-199");
-    for (unsigned i = 0; i < 200; ++i)
-        AddProcessor(i, std::to_string(i), std::to_string(i / 100));
-    ExpectCounts(200, 200, 2, 5);
+    Write("online", "0-79");
+    for (unsigned i = 0; i < 80; ++i)
+        AddProcessor(i, std::to_string(i), std::to_string(i / 40));
+    ExpectCounts(80, 80, 2, 5);
 }
 
 TEST_F(CpuTopologyFolderTest, WhatCannotBeReadGivesNothing) {
