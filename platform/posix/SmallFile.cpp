@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace vapp_platform {
@@ -26,20 +27,23 @@ private:
     int m_number;
 };
 
-bool IsRegularFile(int descriptor) {
+// The size of a regular file; nothing for anything else.
+std::optional<std::size_t> SizeOf(int descriptor) {
     struct stat found {};
-    return fstat(descriptor, &found) == 0 && S_ISREG(found.st_mode);
+    if (fstat(descriptor, &found) != 0 || !S_ISREG(found.st_mode)) return std::nullopt;
+    return static_cast<std::size_t>(found.st_size);
 }
 
 }  // namespace
 
 std::optional<std::string> ReadSmallFile(const std::string& path, std::size_t limit) {
     const TDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    if (file.Number() < 0 || !IsRegularFile(file.Number())) return std::nullopt;
-    std::string bytes(limit, '\0');
+    const auto size = file.Number() >= 0 ? SizeOf(file.Number()) : std::nullopt;
+    if (!size) return std::nullopt;
+    std::string bytes(std::min(*size, limit), '\0');
     std::size_t filled = 0;
-    while (filled < limit) {
-        const ssize_t count = read(file.Number(), bytes.data() + filled, limit - filled);
+    while (filled < bytes.size()) {
+        const ssize_t count = read(file.Number(), bytes.data() + filled, bytes.size() - filled);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;
         if (count == 0) break;
