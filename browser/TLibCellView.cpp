@@ -38,7 +38,7 @@ CStringU TLibCellView::Join(const CStringU& separator) const {
 }
 
 CStringU TLibCellView::Describe(bool capitalised) const {
-    return CStringU::Formatted("%s \"%s\" library \"%s\" view \"%s\"", capitalised ? "Cell" : "cell",
+    return CStringU::Formatted(R"(%s "%s" library "%s" view "%s")", capitalised ? "Cell" : "cell",
                                cell.Payload(), library.Payload(), view.Payload());
 }
 

@@ -87,7 +87,7 @@ int EvaluateTcl(Tcl_Interp* interp, const char* line, TTclObject* result) {
 
 int EvaluateTcl(Tcl_Interp* interp, const CStringU& line, Tcl_Obj** result) {
     // The line's own script may change the caller's text while Tcl reads it.
-    const CStringU held = line;
+    const CStringU held = line;  // NOLINT(performance-unnecessary-copy-initialization)
     TTclObject answer;
     const int code = EvaluateTcl(interp, held.Payload(), result != nullptr ? &answer : nullptr);
     if (result != nullptr) *result = answer.Release();

@@ -7,6 +7,7 @@
 #include <climits>
 #include <memory>
 #include <optional>
+#include <ranges>
 #include <utility>
 
 #include "celllist/CellLines.h"
@@ -190,8 +191,8 @@ void TReport::SortRows(CellRows& rows, const RowOrder& order) {
         rows.ArrangeByNames(order.parts[0].names, false);
         return;
     }
-    for (auto part = order.parts.rbegin(); part != order.parts.rend(); ++part)
-        rows.ArrangeByKeys(KeysOf(rows, *part), part->names);
+    for (const RowOrderPart& part : order.parts | std::views::reverse)
+        rows.ArrangeByKeys(KeysOf(rows, part), part.names);
 }
 
 void TReport::ApplyTheme(bool dark) {

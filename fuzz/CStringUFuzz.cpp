@@ -51,7 +51,7 @@ void CutAndEdit(const CStringU& text, std::int64_t at, std::int64_t count) {
 void Convert(const CStringU& text) {
     const std::u16string units = text.ToWide();
     const CStringU again(units.c_str());
-    const std::u16string expected(units.c_str());
+    const std::u16string expected(units.data());
     Require(again.ToWide() == expected);
     Require(static_cast<std::size_t>(again.GetCharCount()) == expected.size());
     Require(CStringU(again.StripMarker().GetString(), TextEncoding::Utf8Auto) == again);

@@ -133,12 +133,12 @@ void Search(const std::string& text, const char* needle, std::int64_t from, std:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
-    const std::int64_t from = static_cast<std::int8_t>(data[0]);
+    const std::int64_t from = std::int64_t{data[0]} - 128;
     const std::size_t limit = data[0] & 0xFU;
     const std::string rest(data + 1, data + size);
     const std::size_t split = rest.find('\0');
     // Copies that end where their texts end, so that a sanitizer sees a read behind them.
-    const std::string a(rest.c_str());
+    const std::string a(rest.data());
     const std::string b(split == std::string::npos ? "" : rest.c_str() + split + 1);
     CompareAny(a.c_str(), b.c_str(), limit);
     CompareWellFormed(a.c_str(), b.c_str());

@@ -25,9 +25,9 @@ FileStamp gStampOf(const fs::path& file) {
     if (error || !fs::is_regular_file(status)) return stamp;
     stamp.permissions = status.permissions();
     stamp.size = fs::file_size(file, error);
-    if (error) return FileStamp();
+    if (error) return {};
     stamp.modified = fs::last_write_time(file, error);
-    if (error) return FileStamp();
+    if (error) return {};
     stamp.exists = true;
     return stamp;
 }

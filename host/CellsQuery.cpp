@@ -146,7 +146,7 @@ public:
         if (m_object != nullptr) Tcl_DecrRefCount(m_object);
         m_object = object;
     }
-    Tcl_Obj* Get() const { return m_object; }
+    [[nodiscard]] Tcl_Obj* Get() const { return m_object; }
 
 private:
     Tcl_Obj* m_object = nullptr;
@@ -255,10 +255,11 @@ int gAnswerCellsQuery(Tcl_Interp* interp, DesignStore& store, const CellsQuery& 
     if (design == nullptr) return gTclFailure(interp, "no design \"" + query.design + "\" is open");
     CellsAnswer answer(store, query);
     answer.Walk(*design);
-    if (query.isCount)
+    if (query.isCount) {
         Tcl_SetObjResult(interp, Tcl_NewWideIntObj(static_cast<Tcl_WideInt>(answer.Count())));
-    else
+    } else {
         Tcl_SetObjResult(interp, answer.TakeList());
+    }
     return TCL_OK;
 }
 

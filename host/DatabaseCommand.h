@@ -30,7 +30,7 @@ public:
     void SetChangeHandler(std::function<void(DatabaseChange)> handler) { m_changed = std::move(handler); }
 
     /// Library, cell and view; the design stays empty.
-    const std::optional<CellViewName>& SelectedMaster() const { return m_selectedMaster; }
+    [[nodiscard]] const std::optional<CellViewName>& SelectedMaster() const { return m_selectedMaster; }
 
     /// All sub-commands, by name.
     static std::span<const CommandHelp> Help();

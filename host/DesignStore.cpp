@@ -295,10 +295,11 @@ const FileFacts& DesignStore::HeadOf(const CellViewRef& view) const {
     FileFacts& facts = FactsOf(*view.library, *speaker);
     if (!facts.isHeadRead) {
         // A netlist or a program text has no property blocks.
-        if (speaker->format == ViewFormat::Text)
+        if (speaker->format == ViewFormat::Text) {
             facts.isHeadRead = true;
-        else
+        } else {
             gReadHead(FileOf(*view.library, *speaker), facts);
+        }
     }
     return facts;
 }

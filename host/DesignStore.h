@@ -38,7 +38,7 @@ struct Design {
     std::filesystem::path folder;
     std::vector<Library> libraries;  ///< In byte order of their names.
 
-    const Library* FindLibrary(std::string_view name) const;
+    [[nodiscard]] const Library* FindLibrary(std::string_view name) const;
 };
 
 /// A view that the store has. Valid until the next OpenFolder or Rescan.

@@ -40,7 +40,7 @@ public:
         m_low = {std::min(m_low.x(), point.x()), std::min(m_low.y(), point.y())};
         m_high = {std::max(m_high.x(), point.x()), std::max(m_high.y(), point.y())};
     }
-    QRectF Rect() const { return m_isEmpty ? QRectF() : QRectF(m_low, m_high); }
+    [[nodiscard]] QRectF Rect() const { return m_isEmpty ? QRectF() : QRectF(m_low, m_high); }
 
 private:
     bool m_isEmpty = true;

@@ -45,7 +45,7 @@ struct DisplayList {
     bool isCut = false;
 
     /// The rectangle around all; null if there is nothing.
-    QRectF Bounds() const;
+    [[nodiscard]] QRectF Bounds() const;
 };
 
 inline constexpr int cnDeepestInstance = 8;

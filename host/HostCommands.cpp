@@ -59,10 +59,11 @@ int ParsePreview(Tcl_Interp* interp, TclWords options, PreviewRequest& request) 
         int code =
             Tcl_GetIndexFromObj(interp, options[next], csPreviewOptions.data(), "option", TCL_EXACT, &option);
         if (code != TCL_OK) return code;
-        if (next + 1 == options.size())
+        if (next + 1 == options.size()) {
             return gTclFailure(interp, std::string("option ") +
                                            csPreviewOptions[static_cast<std::size_t>(option)] +
                                            " needs a value");
+        }
         code = TakeOption(interp, option, options[next + 1], request);
         if (code != TCL_OK) return code;
     }

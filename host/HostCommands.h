@@ -33,7 +33,7 @@ public:
     }
 
     /// The last logged lines, the oldest first; at most cnLinesKept.
-    const std::deque<std::string>& Log() const { return m_log; }
+    [[nodiscard]] const std::deque<std::string>& Log() const { return m_log; }
 
     static constexpr std::size_t cnLinesKept = 1000;
 

@@ -54,9 +54,9 @@ struct Library {
     std::vector<ViewFile> shadowed;  ///< Further files for pairs that `files` has.
 
     /// The views of a cell, an empty range if there is none.
-    std::span<const ViewFile> Cell(std::string_view cell) const;
+    [[nodiscard]] std::span<const ViewFile> Cell(std::string_view cell) const;
     /// One view; null if there is none.
-    const ViewFile* Find(std::string_view cell, std::string_view view) const;
+    [[nodiscard]] const ViewFile* Find(std::string_view cell, std::string_view view) const;
 };
 
 /// Whether the folders in a folder are cells. They are not in a design's own folder: there they are

@@ -48,9 +48,10 @@ int OpenFolders(Navigator& navigator, const Options& options) {
 /// Makes the window and runs the script. Gives the exit status.
 int Start(Navigator& navigator, const Options& options) {
     navigator.CreateWindow(options.width, options.height, options.isDark);
-    if (options.script)
+    if (options.script) {
         if (const auto failure = navigator.SourceScript(*options.script))
             return Fail(*failure, cnFailureStatus);
+    }
     navigator.LoadSetup();
     return EXIT_SUCCESS;
 }

@@ -122,6 +122,7 @@ std::string Navigator::Dump() {
     Populate();
     auto& report = m_browser->GetCellListView()->GetReport();
     std::vector<CStringU> captions;
+    captions.reserve(static_cast<std::size_t>(report.GetColumns().GetCount()));
     for (int position = 0; position < report.GetColumns().GetCount(); ++position)
         captions.emplace_back(report.GetColumns().GetAt(position)->GetCaption());
     CStringU text;

@@ -78,9 +78,10 @@ std::optional<std::string> Apply(const OptionRow& row, const std::string& value,
             options.screenshot = value;
             break;
         case OptionId::Size:
-            if (!ParseSize(value, options))
+            if (!ParseSize(value, options)) {
                 return "The size \"" + value +
                        "\" is not WIDTHxHEIGHT with sides from 50 to 16384, as in 900x700.";
+            }
             break;
         case OptionId::Scale:
             if (!ParseScale(value, options))

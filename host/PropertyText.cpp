@@ -37,7 +37,7 @@ public:
         return true;
     }
 
-    std::string_view Name() const { return m_name; }
+    [[nodiscard]] std::string_view Name() const { return m_name; }
     std::string& Value() { return m_value; }
 
 private:

@@ -29,14 +29,14 @@ class FieldReader {
 public:
     explicit FieldReader(std::string_view text) : m_text(text) {}
 
-    bool AtEnd() const { return m_at >= m_text.size(); }
-    std::size_t Position() const { return m_at; }
+    [[nodiscard]] bool AtEnd() const { return m_at >= m_text.size(); }
+    [[nodiscard]] std::size_t Position() const { return m_at; }
     void MoveTo(std::size_t position) { m_at = position; }
     /// A brace was opened that the text never closes.
-    bool FoundOpenBrace() const { return m_foundOpenBrace; }
+    [[nodiscard]] bool FoundOpenBrace() const { return m_foundOpenBrace; }
     void ForgetOpenBrace() { m_foundOpenBrace = false; }
 
-    char Peek() const { return AtEnd() ? '\0' : m_text[m_at]; }
+    [[nodiscard]] char Peek() const { return AtEnd() ? '\0' : m_text[m_at]; }
 
     void SkipBlanks() {
         while (!AtEnd() && IsBlank(m_text[m_at]))
@@ -120,7 +120,7 @@ public:
             ParseLine();
         return std::move(m_symbol);
     }
-    bool ReachedDrawing() const { return m_reachedDrawing; }
+    [[nodiscard]] bool ReachedDrawing() const { return m_reachedDrawing; }
 
 private:
     void ParseLine() {
@@ -212,7 +212,7 @@ private:
         const std::optional<double> count = layer ? m_reader.Number() : std::nullopt;
         if (!count || *count < 1) return false;
         polygon.layer = *layer;
-        for (double number = 0; number < *count; ++number) {
+        while (static_cast<double>(polygon.points.size()) < *count) {
             SymbolPoint point{};
             if (!m_reader.Numbers({&point.x, &point.y})) return false;
             polygon.points.push_back(point);

@@ -92,7 +92,7 @@ struct Symbol {
     std::size_t skippedLines = 0;  ///< Lines that are not empty and could not be read.
 
     /// A property of the symbol itself: of block K, or else of block G. Empty if neither has it.
-    std::string Property(std::string_view name) const;
+    [[nodiscard]] std::string Property(std::string_view name) const;
 };
 
 /// Reads a whole file. Never fails; see Symbol::skippedLines. Coordinates are finite and below 1e9.

@@ -37,7 +37,7 @@ struct Fit {
     double zoom = 1;
     QPointF offset;
 
-    QPointF Map(const QPointF& point) const { return point * zoom + offset; }
+    [[nodiscard]] QPointF Map(const QPointF& point) const { return point * zoom + offset; }
 };
 
 QRectF AtLeast(QRectF bounds, double extent) {
@@ -77,7 +77,7 @@ public:
     }
 
 private:
-    QColor ColourOf(const Stroke& stroke) const {
+    [[nodiscard]] QColor ColourOf(const Stroke& stroke) const {
         if (stroke.kind == StrokeKind::Missing) return gMissingColour(m_request.isDark);
         return gLayerColour(stroke.layer, m_request.isDark);
     }
@@ -92,10 +92,11 @@ private:
         points.reserve(stroke.points.size());
         for (const QPointF& point : stroke.points)
             points << (stroke.isCurve ? m_fit.Map(point) : Snap(m_fit.Map(point), width));
-        if (stroke.isClosed || stroke.isFilled)
+        if (stroke.isClosed || stroke.isFilled) {
             m_painter.drawPolygon(points);
-        else
+        } else {
             m_painter.drawPolyline(points);
+        }
     }
 
     static QBrush BrushOf(const Stroke& stroke, QColor colour) {

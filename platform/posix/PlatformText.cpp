@@ -8,7 +8,7 @@
 #include "text/PlatformText.h"
 
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is POSIX
 #include <strings.h>
 #include <unicode/uchar.h>
 #include <unicode/ucnv.h>

@@ -16,7 +16,6 @@ using navigator_test::SchematicOf;
 using navigator_test::TempFolder;
 using navigator_test::TestInterp;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 class CellsQueryTest : public testing::Test {
 protected:

@@ -44,10 +44,11 @@ TEST(DisplayList, PlacementFlipsFirstAndThenTurnsClockwise) {
     const Row rows[] = {{0, false, {10, 3}},  {1, false, {-3, 10}}, {2, false, {-10, -3}},
                         {3, false, {3, -10}}, {0, true, {-10, 3}},  {1, true, {-3, -10}},
                         {2, true, {10, -3}},  {3, true, {3, 10}}};
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         EXPECT_EQ(gPlacement(100, 200, row.rotation, row.flip).map(QPointF(10, 3)),
                   row.expected + QPointF(100, 200))
             << row.rotation << row.flip;
+    }
 }
 
 TEST(DisplayList, AnInstanceIsDrawnAtItsPlaceWithItsValues) {
@@ -57,7 +58,7 @@ TEST(DisplayList, AnInstanceIsDrawnAtItsPlaceWithItsValues) {
         "K {template=\"name=R1 value=1k\"}\nL 4 0 -40 0 40 {}\nT {@name=@value} 10 0 0 0 0.2 0.2 {}\n");
     const DisplayList list = List("C {res} 100 50 1 0 {name=R7}\n", source);
     ASSERT_EQ(list.strokes.size(), 1u);
-    EXPECT_EQ(list.strokes[0].points, QPolygonF({{140, 50}, {60, 50}}));
+    EXPECT_EQ(list.strokes[0].points, QPolygonF(QList<QPointF>{{140, 50}, {60, 50}}));
     ASSERT_EQ(list.texts.size(), 1u);
     EXPECT_EQ(list.texts[0].text, "R7=1k");
     EXPECT_TRUE(list.texts[0].isVertical);

@@ -56,10 +56,11 @@ TEST(NavigatorProgram, DumpsTheSampleWithoutADisplay) {
 }
 
 TEST(NavigatorProgram, NamesSurviveEveryLocale) {
-    for (const char* locale : {"C", "POSIX", "C.UTF-8", "tr_TR.UTF-8", "no_such_locale"})
+    for (const char* locale : {"C", "POSIX", "C.UTF-8", "tr_TR.UTF-8", "no_such_locale"}) {
         EXPECT_THAT(RunProgram({QStringLiteral("--dump")}, QString::fromLatin1(locale)).output,
                     HasSubstr("verst\xC3\xA4rker,symbol,analog\n"))
             << locale;
+    }
 }
 
 TEST(NavigatorProgram, FolderThatCannotBeReadGivesASentenceAndStatusTwo) {
