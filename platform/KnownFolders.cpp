@@ -4,6 +4,7 @@
 
 #include "platform/Paths.h"
 #include "platform/SystemFolders.h"
+#include "platform/WineNames.h"
 #include "platform/World.h"
 
 CStringU gGetExePath() {
@@ -23,7 +24,7 @@ CStringU gGetModuleFolder() {
 }
 
 CStringU gGetDocumentsFolder() {
-    return vapp_platform::DocumentsFolder();
+    return gGetUnixNameU(vapp_platform::DocumentsFolder());
 }
 
 CStringU gGetUserDataFolder() {

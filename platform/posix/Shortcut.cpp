@@ -13,8 +13,10 @@
 #include <vector>
 
 #include "platform/FileSystem.h"
-#include "platform/Paths.h"
+#include "platform/PathNormalize.h"
+#include "platform/PathRules.h"
 #include "platform/ShellLinkFile.h"
+#include "platform/WineNames.h"
 #include "platform/posix/NativePath.h"
 #include "platform/posix/SmallFile.h"
 
@@ -29,13 +31,22 @@ struct TFree {
     void operator()(char* text) const noexcept { std::free(text); }
 };
 
+// The path as seen from the shortcut's folder. Names are names: nothing in them is expanded.
+CStringU SeenFrom(const CStringU& shortcut, const CStringU& relativePath) {
+    static const vapp_text::EnvironmentLookup cnNothingSet = [](std::u16string_view) {
+        return std::optional<std::u16string>();
+    };
+    const std::string_view path = shortcut.PayloadView();
+    const std::size_t slash = path.find_last_of(cnSeparators);
+    const std::string_view folder = path.substr(0, slash == std::string_view::npos ? 0 : slash + 1);
+    return NormalizePath(PieceOf(shortcut, folder) + relativePath, {World::Wine, cnNothingSet});
+}
+
 std::vector<CStringU> PlacesOf(const TShellLink& link, const CStringU& shortcut) {
     std::vector<CStringU> places;
-    if (!link.networkPath.IsEmpty()) places.push_back(gNormalizePath(link.networkPath));
-    if (!link.localPath.IsEmpty()) places.push_back(gNormalizePath(link.localPath));
-    if (!link.relativePath.IsEmpty()) {
-        places.push_back(gJoinPath(gGetDirectory(shortcut), link.relativePath));
-    }
+    if (!link.networkPath.IsEmpty()) places.push_back(gGetUnixPathOf(link.networkPath));
+    if (!link.localPath.IsEmpty()) places.push_back(gGetUnixPathOf(link.localPath));
+    if (!link.relativePath.IsEmpty()) places.push_back(SeenFrom(shortcut, link.relativePath));
     return places;
 }
 

@@ -14,10 +14,12 @@
 
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
 #include "platform/Folders.h"
+#include "platform/posix/EnvironmentLock.h"
 #include "platform/posix/NativePath.h"
 #include "platform/posix/SmallFile.h"
 #include "platform/posix/UserDirs.h"
@@ -64,6 +66,7 @@ std::string HomeOfAccount() {
 
 // A variable with an absolute path; the rules ignore any other.
 std::string PathVariable(const char* name) {
+    const std::lock_guard guard(EnvironmentLock());
     const char* value = std::getenv(name);
     return value != nullptr && *value == '/' ? value : std::string();
 }

@@ -29,6 +29,12 @@ TEST_F(ShortcutTest, ARelativePathIsSeenFromTheShortcutsFolder) {
     EXPECT_EQ(gResolveShortcut(folder.Path("links/s.lnk")), folder.Path("lib/inv.sch"));
 }
 
+TEST_F(ShortcutTest, NamesThatLookLikeVariablesStayInTheFolder) {
+    folder.MakeFolder("$HOME").MakeFile("$HOME/%PATH%");
+    MakeShortcut("$HOME/s.lnk", {.relativePath = u".\\%PATH%"});
+    EXPECT_EQ(gResolveShortcut(folder.Path("$HOME/s.lnk")), folder.Path("$HOME/%PATH%"));
+}
+
 TEST_F(ShortcutTest, OfSeveralPlacesTheFirstThatExistsCounts) {
     folder.MakeFile("here").MakeFile("there");
     const std::u16string here = folder.Path("here").ToWide();
@@ -42,7 +48,7 @@ TEST_F(ShortcutTest, OfSeveralPlacesTheFirstThatExistsCounts) {
 TEST_F(ShortcutTest, OfPlacesThatAreAllMissingTheFirstIsTold) {
     MakeShortcut("s.lnk",
                  {.localBase = "\\gone\\a", .share = "\\\\gone\\share", .suffix = "b", .relativePath = u"c"});
-    EXPECT_EQ(gResolveShortcut(folder.Path("s.lnk")), "\\\\gone\\share\\b");
+    EXPECT_EQ(gResolveShortcut(folder.Path("s.lnk")), "//gone/share/b");
     MakeShortcut("t.lnk", {.localBase = "\\gone\\a"});
     EXPECT_EQ(gResolveShortcut(folder.Path("t.lnk")), "/gone/a");
 }
