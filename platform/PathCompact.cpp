@@ -17,17 +17,17 @@ int CountOf(const CStringU& path, std::string_view piece) {
     return path.HasNonAscii() ? PieceOf(path, piece).GetCharCount() : static_cast<int>(piece.size());
 }
 
-/// The place of the next of `set` at or behind `from`; the end of the path without one.
-std::size_t Find(std::string_view path, std::string_view set, std::size_t from) noexcept {
-    return std::min(path.find_first_of(set, from), path.size());
+/// The place of the next separator at or behind `from`; the end of the path without one.
+std::size_t NextSeparator(std::string_view path, std::size_t from) noexcept {
+    return std::min(FindSeparator(path, from), path.size());
 }
 
 /// Where the root ends: in front of a separator, or at the end of a path that has none there.
 std::size_t RootEnd(const CStringU& path, bool isUnix, int charsBeforeName) {
     const std::string_view bytes = path.PayloadView();
     std::size_t root = isUnix ? 0 : StartOfThird(path);
-    if (StartsWithTwoSeparators(bytes)) root = Find(bytes, "\\", root);
-    if (charsBeforeName > 3) root = Find(bytes, cnSeparators, root + 1);
+    if (StartsWithTwoSeparators(bytes)) root = std::min(bytes.find('\\', root), bytes.size());
+    if (charsBeforeName > 3) root = NextSeparator(bytes, root + 1);
     return root;
 }
 
@@ -50,7 +50,7 @@ CStringU CompactPath(const CStringU& path, int maximum, bool keepName) {
     int restLength = length - rootLength;
     std::size_t rest = rootEnd;
     while (rest < bytes.size() && rootLength + cnDots + restLength > maximum) {
-        const std::size_t next = Find(bytes, cnSeparators, rest + 1);
+        const std::size_t next = NextSeparator(bytes, rest + 1);
         restLength -= CountOf(path, bytes.substr(rest, next - rest));
         rest = next;
     }

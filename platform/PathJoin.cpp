@@ -17,9 +17,9 @@ constexpr auto cnNone = std::string_view::npos;
 std::string_view RootFor(const CStringU& base) {
     const std::string_view bytes = base.PayloadView();
     if (StartsWithTwoSeparators(bytes)) {
-        const std::size_t behindServer = bytes.find_first_of(cnSeparators, 3);
+        const std::size_t behindServer = FindSeparator(bytes, 3);
         if (behindServer == cnNone) return bytes;
-        return bytes.substr(0, bytes.find_first_of(cnSeparators, behindServer + 1));
+        return bytes.substr(0, FindSeparator(bytes, behindServer + 1));
     }
     if (const std::size_t drive = DriveBytes(base); drive > 0) return bytes.substr(0, drive);
     return EndsWithSeparator(bytes) ? bytes.substr(0, bytes.size() - 1) : bytes;

@@ -13,14 +13,18 @@ constexpr auto cnNone = std::string_view::npos;
 
 /// Where the name begins.
 std::size_t NameStart(std::string_view path) noexcept {
-    const std::size_t last = path.find_last_of(cnNameSeparators);
-    return last == cnNone ? 0 : last + 1;
+    std::size_t start = path.size();
+    while (start > 0 && !IsNameSeparator(path[start - 1]))
+        --start;
+    return start;
 }
 
 /// Where the extension begins, behind its dot; cnNone without one.
 std::size_t ExtensionStart(std::string_view path) noexcept {
-    const std::size_t last = path.find_last_of("\\/:.");
-    return last == cnNone || path[last] != '.' ? cnNone : last + 1;
+    std::size_t start = path.size();
+    while (start > 0 && path[start - 1] != '.' && !IsNameSeparator(path[start - 1]))
+        --start;
+    return start > 0 && path[start - 1] == '.' ? start : cnNone;
 }
 
 CStringU WithExtension(std::string_view front, std::string_view between, const CStringU& extension) {

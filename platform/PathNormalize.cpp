@@ -107,8 +107,7 @@ bool IsAbsolutePlain(const CStringU& path, const PathRules& rules) {
     const bool wine = rules.world == World::Wine;
     if (bytes.empty()) return false;
     if (IsSeparator(bytes[0])) {
-        return wine || (StartsWithTwoSeparators(bytes) &&
-                        bytes.find_first_of(cnSeparators, 2) != std::string_view::npos);
+        return wine || (StartsWithTwoSeparators(bytes) && FindSeparator(bytes, 2) != std::string_view::npos);
     }
     if (bytes.size() >= 2 && bytes[1] == ':') return bytes.size() >= 3 && IsSeparator(bytes[2]);
     if (bytes.find(':') == std::string_view::npos) return false;

@@ -29,13 +29,23 @@ struct PathRules {
 
 /// The separators of folders.
 inline constexpr std::string_view cnSeparators = "\\/";
-/// What ends the part before a name: the colon of a drive counts too.
-inline constexpr std::string_view cnNameSeparators = "\\/:";
 
 /// True for "\" and "/".
 template <typename Unit>
 [[nodiscard]] constexpr bool IsSeparator(Unit unit) noexcept {
     return unit == Unit('\\') || unit == Unit('/');
+}
+
+/// True for what ends the part before a name: the colon of a drive counts too.
+[[nodiscard]] constexpr bool IsNameSeparator(char byte) noexcept {
+    return IsSeparator(byte) || byte == ':';
+}
+
+/// The place of the next separator at or behind `from`; npos without one.
+[[nodiscard]] constexpr std::size_t FindSeparator(std::string_view text, std::size_t from) noexcept {
+    while (from < text.size() && !IsSeparator(text[from]))
+        ++from;
+    return from < text.size() ? from : std::string_view::npos;
 }
 
 /// True where a text has a separator at its start, at its end, or twice at its start (a share).

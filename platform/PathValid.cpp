@@ -18,9 +18,10 @@ bool HasForbidden(std::string_view part) noexcept {
 
 /// The next part behind `at`, which moves behind it; empty at the end. Empty parts are passed over.
 std::string_view NextPart(std::string_view path, std::size_t& at) noexcept {
-    const std::size_t first = path.find_first_not_of(cnSeparators, at);
-    if (first == cnNone) return {};
-    at = std::min(path.find_first_of(cnSeparators, first), path.size());
+    while (at < path.size() && IsSeparator(path[at]))
+        ++at;
+    const std::size_t first = at;
+    at = std::min(FindSeparator(path, first), path.size());
     return path.substr(first, at - first);
 }
 
