@@ -45,8 +45,12 @@ char* CString::Allocate(int capacity) {
 void CString::Release() noexcept {
     Header& header = GetHeader();
     if (header.capacity == 0) return;
-    // The last owner must see what the others did to the buffer before they let go of it.
-    if (header.shares.fetch_sub(1, std::memory_order_acq_rel) != 1) return;
+    // The last owner must see what the others did to the buffer before they let go of it. A sole owner stays
+    // alone, since only it could share the buffer, so that it needs no locked operation.
+    if (header.shares.load(std::memory_order_acquire) != 1 &&
+        header.shares.fetch_sub(1, std::memory_order_acq_rel) != 1) {
+        return;
+    }
     const std::size_t size = sizeof(Header) + static_cast<std::size_t>(header.capacity) + 1;
     header.~Header();
     std::allocator<char>().deallocate(m_text - sizeof(Header), size);

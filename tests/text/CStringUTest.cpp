@@ -31,6 +31,15 @@ TEST(CStringU, AsciiIsStoredAsItStands) {
     EXPECT_FALSE(text.HasNonAscii());
 }
 
+TEST(CStringU, TakesAsciiAsItStands) {
+    CString ascii("1.5k");
+    const char* const bytes = ascii.GetString();
+    const CStringU text(std::move(ascii), CStringU::TAscii());
+    EXPECT_EQ(text, "1.5k");
+    EXPECT_EQ(text.Payload(), bytes) << "not copied";
+    EXPECT_TRUE(CStringU(CString(), CStringU::TAscii()).IsEmpty());
+}
+
 TEST(CStringU, NoTextIsEmpty) {
     for (const CStringU& text : {CStringU(), CStringU(nullptr), CStringU(""), CStringU(CString()),
                                  CStringU(static_cast<const char16_t*>(nullptr)), CStringU(u'\0'),

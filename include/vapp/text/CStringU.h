@@ -49,6 +49,7 @@ public:
     /// Name the way in at a constructor, where the type of the text alone doesn't tell it.
     struct TSwapped {};
     struct TMarked {};
+    struct TAscii {};
     struct TAnsi {
         unsigned codePage;
     };
@@ -80,6 +81,9 @@ public:
     CStringU(const char* text, TAnsi way, int length = -1);
     CStringU(const char* text, TAnsiAuto way, int length = -1);
     CStringU(const CString& utf8, TMarked way);
+    /// Takes a narrow text known to be ASCII as it stands, without a look at it: for what is made byte by
+    /// byte here, such as the text of a number.
+    CStringU(CString&& ascii, TAscii) noexcept : m_stored(std::move(ascii)) {}
 
     CStringU& operator=(const char* text);
     CStringU& operator=(const CString& text);
