@@ -36,7 +36,7 @@ std::string WellFormed(const std::string& text) {
         char encoded[cnMaxEncodedBytes];
         bytes.append(encoded, static_cast<std::size_t>(EncodeChar(DecodeNext(walk), encoded)));
     }
-    return bytes.c_str();
+    return bytes.substr(0, bytes.find('\0'));
 }
 
 template <typename Integer>
@@ -54,7 +54,8 @@ void Agree(const std::pair<Narrow, std::int64_t>& narrow, const std::pair<Wide, 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string text(std::string(data, data + size).c_str());
+    const std::string bytes(data, data + size);
+    const std::string text = bytes.substr(0, bytes.find('\0'));
     Agree(Read<std::int32_t>(text), Read<std::int64_t>(text));
     Agree(Read<std::uint32_t>(text), Read<std::uint64_t>(text));
     IgnoresTheRest<std::int32_t>(WellFormed(text));

@@ -96,7 +96,8 @@ void ReadMembers(const CStringU& text, bool spice) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
     const bool si = (data[0] & 1U) != 0;
-    const std::string text(std::string(data + 1, data + size).c_str());
+    const std::string bytes(data + 1, data + size);
+    const std::string text = bytes.substr(0, bytes.find('\0'));
     ReadEngineering(text, si);
     ReadPlain(text);
     ReadMembers(CStringU(text.c_str(), TextEncoding::Utf8Auto), !si);

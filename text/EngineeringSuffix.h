@@ -33,7 +33,7 @@ namespace suffix_detail {
 
 struct TLetter {
     char letter;
-    std::int8_t exponent;
+    std::int16_t exponent;
 };
 
 inline constexpr TLetter cnSpice[] = {
@@ -48,12 +48,12 @@ inline constexpr TLetter cnSi[] = {
 };
 
 /// Exponents by character; 0, which no single letter has, is no suffix.
-using TExponents = std::array<std::int8_t, 128>;
+using TExponents = std::array<std::int16_t, 128>;
 
 constexpr TExponents MakeSpice() noexcept {
     TExponents exponents{};
     for (const TLetter& row : cnSpice) {
-        const auto code = static_cast<std::size_t>(row.letter);
+        const std::size_t code = CodeOf(row.letter);
         exponents[code] = row.exponent;
         if (row.letter >= 'a') exponents[code - 0x20] = row.exponent;
     }
@@ -63,7 +63,7 @@ constexpr TExponents MakeSpice() noexcept {
 constexpr TExponents MakeSi() noexcept {
     TExponents exponents{};
     for (const TLetter& row : cnSi)
-        exponents[static_cast<std::size_t>(row.letter)] = row.exponent;
+        exponents[CodeOf(row.letter)] = row.exponent;
     return exponents;
 }
 

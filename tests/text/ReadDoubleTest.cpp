@@ -157,6 +157,8 @@ TEST(ReadDouble, RandomNumbersReadAsByStrtod) {
         const double wanted = std::strtod(text.Get(), &wantedEnd);
         ASSERT_EQ(end - text.Get(), wantedEnd - text.Get()) << bytes;
         if (std::isnan(value) && std::isnan(wanted)) continue;
+        // Some C libraries give a zero with a sign for what is no number.
+        if (end == text.Get() && value == 0 && wanted == 0) continue;
         ASSERT_EQ(std::bit_cast<std::uint64_t>(value), std::bit_cast<std::uint64_t>(wanted)) << bytes;
     }
 }
