@@ -153,18 +153,21 @@ TEST_F(FileWalkTest, ADeepTreeIsWalkedToItsEnd) {
     EXPECT_EQ(found[0].GetByteLength(), static_cast<int>(path.size()) + 2);
 }
 
-TEST_F(FileWalkTest, AHundredThousandEntriesInOneFolder) {
-    constexpr int cnFiles = 100000;
+// Wine looks at every name of a folder to make one more, so that there a hundred thousand take hours.
+constexpr bool cnMakesFilesSlowly = std::filesystem::path::preferred_separator == '\\';
+
+TEST_F(FileWalkTest, AFolderOfVeryManyEntries) {
+    constexpr std::size_t cnFiles = cnMakesFilesSlowly ? 3000 : 100000;
     folder.MakeFolder("many");
-    for (int i = 0; i < cnFiles; ++i)
+    for (std::size_t i = 0; i < cnFiles; ++i)
         folder.MakeFile("many/f" + std::to_string(i) + (i % 2 == 0 ? ".sch" : ".sym"));
     const auto all = Collect("");
-    ASSERT_EQ(all.size(), std::size_t{cnFiles});
+    ASSERT_EQ(all.size(), cnFiles);
     EXPECT_EQ(all.front(), "many/f0.sch");
     EXPECT_EQ(all[99], "many/f99.sym");
-    EXPECT_EQ(all.back(), "many/f99999.sym");
-    EXPECT_EQ(Collect("sym").size(), std::size_t{cnFiles / 2});
-    EXPECT_EQ(gFindFiles(folder.Path(), "f4711.sym").size(), 1U);
+    EXPECT_EQ(all.back(), "many/f" + std::to_string(cnFiles - 1) + ".sym");
+    EXPECT_EQ(Collect("sym").size(), cnFiles / 2);
+    EXPECT_EQ(gFindFiles(folder.Path(), "f1711.sym").size(), 1U);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/ErrorText.h"
+#include "platform/FileWalk.h"
 #include "platform/Files.h"
 #include "platform/World.h"
 #include "tests/platform/TemporaryFolder.h"
@@ -149,6 +150,23 @@ TEST_F(FoldersTest, NamesOfAllScriptsComeBackAsTheyWereMade) {
     EXPECT_TRUE(gCreateDirectories(folder.Path() + '/' + name + '/' + "lib"));
     EXPECT_TRUE(gDirectoryExists(folder.Path() + '/' + name));
     EXPECT_THAT(gListFolder(folder.Path()), UnorderedElementsAre(name));
+}
+
+TEST_F(FoldersTest, TheAnswersAreTheSameInBothWorlds) {
+    folder.MakeFolder("a/b").MakeFile("a/f");
+    for (const bool isWine : {true, false}) {
+        SCOPED_TRACE(isWine);
+        vapp_platform::SetWineAnswer(isWine);
+        EXPECT_TRUE(gDirectoryExists(folder.Path("a")));
+        EXPECT_TRUE(gDirectoryExistsIn("./b", folder.Path("a")));
+        EXPECT_TRUE(gIsDirectoryEmpty(folder.Path("a/b")));
+        EXPECT_FALSE(gIsDirectoryEmpty(folder.Path("a")));
+        EXPECT_THAT(gListFolder(folder.Path("a")), UnorderedElementsAre("b", "f"));
+        EXPECT_TRUE(gCreateDirectories(folder.Path(isWine ? "new/wine" : "new/windows")));
+        const auto found = gCollectFiles(folder.Path("a"), "", false);
+        ASSERT_EQ(found.size(), 1U);
+        EXPECT_TRUE(gFileExists(found[0]));
+    }
 }
 
 }  // namespace
