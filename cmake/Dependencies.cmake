@@ -14,21 +14,13 @@ target_link_libraries(Tcl::stub INTERFACE Tcl::headers ${TCL_STUB_LIBRARY})
 add_library(Tcl::interpreter INTERFACE IMPORTED)
 target_link_libraries(Tcl::interpreter INTERFACE Tcl::headers ${TCL_LIBRARY})
 
-# Boost.Logic's three-valued bool: headers only, and in our own interface. A cross compiler must not search the
-# machine's own include folder, so there a link shows it Boost alone.
-find_path(BOOST_INCLUDE_DIR boost/logic/tribool.hpp REQUIRED NO_CMAKE_FIND_ROOT_PATH)
+# Boost.Logic's three-valued bool: headers only, and in our own interface.
+find_path(BOOST_INCLUDE_DIR boost/logic/tribool.hpp REQUIRED)
 add_library(Boost::logic INTERFACE IMPORTED)
-if(CMAKE_CROSSCOMPILING)
-  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/boost)
-  file(CREATE_LINK ${BOOST_INCLUDE_DIR}/boost ${CMAKE_BINARY_DIR}/boost/boost SYMBOLIC)
-  target_include_directories(Boost::logic SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/boost)
-else()
-  target_include_directories(Boost::logic SYSTEM INTERFACE ${BOOST_INCLUDE_DIR})
-endif()
+target_include_directories(Boost::logic SYSTEM INTERFACE ${BOOST_INCLUDE_DIR})
 
 if(WIN32)
-  # The shell's folders and link objects.
-  set(VAPP_PLATFORM_LIBRARIES ole32 shell32 uuid Threads::Threads)
+  set(VAPP_PLATFORM_LIBRARIES advapi32 ole32 shell32 user32 uuid version ws2_32 Threads::Threads)
 else()
   find_package(PkgConfig REQUIRED)
   pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc)
@@ -36,4 +28,8 @@ else()
 endif()
 if(VAPP_QT)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
+endif()
+
+if(WIN32)
+  include(WindowsRuntime)
 endif()

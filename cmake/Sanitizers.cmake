@@ -3,3 +3,10 @@ if(VAPP_SANITIZE)
   add_compile_options(-fsanitize=${VAPP_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${VAPP_SANITIZE})
 endif()
+# The compiler for Windows has no sanitizers: its checked builds have the standard library's assertions and guarded
+# stack frames.
+if(VAPP_CHECKED)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+  add_compile_options(-fstack-protector-strong)
+  add_link_options(-fstack-protector-strong)
+endif()

@@ -17,7 +17,9 @@ namespace vapp_platform {
 inline constexpr unsigned cnCodePageUtf8 = 65001;
 
 /// The lower-case form of one 16-bit character: one character in, one out, no locale, simple mapping over the
-/// Basic Multilingual Plane. What has no lower-case form, a surrogate half among it, comes back as it is.
+/// Basic Multilingual Plane. What has no lower-case form, a surrogate half among it, comes back as it is, and
+/// so does a character whose lower-case form is that of another one (the Kelvin sign, say, or a title-case
+/// letter).
 [[nodiscard]] char16_t LowerCaseChar(char16_t unit) noexcept;
 
 /// The upper-case form of one 16-bit character, by the same rules.

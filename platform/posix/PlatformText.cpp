@@ -153,14 +153,17 @@ constinit std::atomic<locale_t> gPlainLocale{nullptr};
 
 }  // namespace
 
+// A character has another case only where that one leads back to it, as in the tables of the system that has
+// a one-character call: "K" and "k" are a pair, and the Kelvin sign, whose small letter is "k" too, stays
+// alone.
 char16_t LowerCaseChar(char16_t unit) noexcept {
     const UChar32 lower = u_tolower(unit);
-    return lower <= 0xFFFF ? static_cast<char16_t>(lower) : unit;
+    return lower <= 0xFFFF && u_toupper(lower) == unit ? static_cast<char16_t>(lower) : unit;
 }
 
 char16_t UpperCaseChar(char16_t unit) noexcept {
     const UChar32 upper = u_toupper(unit);
-    return upper <= 0xFFFF ? static_cast<char16_t>(upper) : unit;
+    return upper <= 0xFFFF && u_tolower(upper) == unit ? static_cast<char16_t>(upper) : unit;
 }
 
 int CompareAsciiNoCase(const char* a, const char* b) noexcept {

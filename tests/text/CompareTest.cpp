@@ -60,7 +60,7 @@ constexpr Row cnRows[] = {
     {u"\uffff", u"\x01", 0xFFFE, 0xFFFE},
     {u"\x01", u"\uffff", -0xFFFE, -0xFFFE},
     {u"\u023a", u"\u2c65", 0x23A - 0x2C65, 0},
-    {u"k", u"\u212a", 'k' - 0x212A, 0},  // the Kelvin sign folds to ASCII
+    {u"k", u"\u212a", 'k' - 0x212A, 'k' - 0x212A},  // the Kelvin sign is no letter's capital
     {u"\xd83d\xde00", u"\xd83d\xde01", -1, -1},
 };
 

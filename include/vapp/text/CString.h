@@ -168,9 +168,9 @@ public:
     [[nodiscard]] CString Tokenize(const char* separators, int& start) const;
 
     /// Replaces the text by a printf result. For formats that the compiler sees; sizes are "%zu" there.
-    void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
+    void Format(const char* format, ...) VAPP_PRINTF_LIKE(2, 3);
     /// Appends a printf result.
-    void AppendFormat(const char* format, ...) __attribute__((format(printf, 2, 3)));
+    void AppendFormat(const char* format, ...) VAPP_PRINTF_LIKE(2, 3);
     /// Format for texts that come at run time (from users, from translations). There the size prefix `I`
     /// stands for a size of this machine ("%Iu cells"), `I64` and `I32` for 64 and 32 bits. A format that the
     /// system refuses gives empty text.

@@ -1,20 +1,52 @@
 /// @file
 /// The handful of system types that stand in signatures of the toolkit: colours, message parameters, opaque
-/// handles. On Windows they are the very types of the system's headers, declared compatibly so that those
-/// headers need not be included here; elsewhere they are ours, of the same width and meaning.
+/// handles. On Windows they are the system's own, and so is its header, included here before any of our
+/// classes: a host may include it in either order. Elsewhere they are ours, of the same width and meaning.
 #pragma once
 
 #include <cstdint>
 
 #if defined(_WIN32)
-struct HBITMAP__;  // NOLINT(bugprone-reserved-identifier): the name that the system gives it
-using HBITMAP = HBITMAP__*;
-using UINT = unsigned int;
-using DWORD = unsigned long;
-using COLORREF = DWORD;
-using WPARAM = unsigned long long;
-using LPARAM = long long;
-using LRESULT = long long;
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+// The system's header names these calls by macros, which would rename members of ours in whatever is compiled
+// behind it. They become functions of the same use, so that both kinds of names hold.
+#undef GetProfileInt
+#undef GetProfileString
+#undef GetWindowText
+#undef SendMessage
+#undef SetWindowText
+#undef WriteProfileString
+#ifdef UNICODE
+#define VAPP_SYSTEM_CALL(name) name##W
+#else
+#define VAPP_SYSTEM_CALL(name) name##A
+#endif
+static inline UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, INT standard) {
+    return VAPP_SYSTEM_CALL(GetProfileInt)(section, entry, standard);
+}
+static inline DWORD GetProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR standard, LPTSTR out,
+                                     DWORD room) {
+    return VAPP_SYSTEM_CALL(GetProfileString)(section, entry, standard, out, room);
+}
+static inline int GetWindowText(HWND window, LPTSTR out, int room) {
+    return VAPP_SYSTEM_CALL(GetWindowText)(window, out, room);
+}
+static inline LRESULT SendMessage(HWND window, UINT message, WPARAM first, LPARAM second) {
+    return VAPP_SYSTEM_CALL(SendMessage)(window, message, first, second);
+}
+static inline BOOL SetWindowText(HWND window, LPCTSTR text) {
+    return VAPP_SYSTEM_CALL(SetWindowText)(window, text);
+}
+static inline BOOL WriteProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR text) {
+    return VAPP_SYSTEM_CALL(WriteProfileString)(section, entry, text);
+}
+#undef VAPP_SYSTEM_CALL
 #else
 /// Opaque picture; a toolkit adapter says what stands behind the pointer.
 struct HBITMAP__;  // NOLINT(bugprone-reserved-identifier): the name that the system gives it

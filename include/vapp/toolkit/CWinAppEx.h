@@ -6,6 +6,7 @@
 
 #include "vapp/Export.h"
 #include "vapp/text/CString.h"
+#include "vapp/toolkit/BasicTypes.h"
 #include "vapp/toolkit/CObject.h"
 #include "vapp/toolkit/MemoryProfileStore.h"
 #include "vapp/toolkit/ProfileStore.h"

@@ -1,0 +1,8 @@
+# What Windows programs need beside them when they run: Tcl and the compiler's runtime as DLLs, and Tcl's scripts where its
+# DLL looks for them, in ../lib of the program's folder.
+find_file(TCL_DLL tcl86.dll PATHS ${VAPP_WINDOWS_LIBRARIES}/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+get_filename_component(folder ${TCL_DLL} DIRECTORY)
+file(GLOB dlls ${folder}/*.dll)
+file(COPY ${dlls} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+file(CREATE_LINK ${folder}/../lib/tcl8.6 ${CMAKE_BINARY_DIR}/lib/tcl8.6 SYMBOLIC COPY_ON_ERROR)
