@@ -82,6 +82,7 @@ std::optional<std::vector<TProcessorRecord>> ReadCpuTopology(const std::filesyst
     }
 
     std::vector<TProcessorRecord> records;
+    records.reserve(cores.size() + packages.size());
     for (const auto& [siblings, mask] : cores)
         records.push_back({.mask = mask, .relation = cnRelationCore});
     records.resize(records.size() + packages.size(), {.mask = 1, .relation = cnRelationPackage});
