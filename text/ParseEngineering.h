@@ -17,7 +17,7 @@
 /// first 18 digits count, leading zeros among them; they become a double, that is multiplied by the suffix's
 /// factor and then multiplied or divided by a power of ten, which is a product of 1e1, 1e2, 1e4 ... 1e256.
 /// Stored values rely on each bit of this, and on what follows from it:
-///  - results are correct to about 8 units in the last place, and exact for short numbers;
+///  - results are correct to a few units in the last place, and exact for short numbers;
 ///  - the power of ten is infinite from 1e309 on: *1e-310* is 0, *1e309* infinite and *0e309* not a number;
 ///  - *0.00000000000000000012* is 0: its 18 digits are all zeros.
 /// A power beyond 511 counts as 511 and sets errno to ERANGE; nothing else touches errno. The error text
