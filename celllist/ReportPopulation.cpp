@@ -3,11 +3,11 @@
 ///
 /// The new rows are gathered aside and shown at the end, so that host script which runs in the middle sees an
 /// empty list and never half of one.
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <memory>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 #include "celllist/CellLines.h"
@@ -191,8 +191,8 @@ void TReport::SortRows(CellRows& rows, const RowOrder& order) {
         rows.ArrangeByNames(order.parts[0].names, false);
         return;
     }
-    for (const RowOrderPart& part : order.parts | std::views::reverse)
-        rows.ArrangeByKeys(KeysOf(rows, part), part.names);
+    std::for_each(order.parts.rbegin(), order.parts.rend(),
+                  [&rows](const RowOrderPart& part) { rows.ArrangeByKeys(KeysOf(rows, part), part.names); });
 }
 
 void TReport::ApplyTheme(bool dark) {
