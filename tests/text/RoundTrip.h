@@ -45,6 +45,9 @@ inline double ReadExactly(std::string_view text, TeUnitScale scale) {
 /// Where the readers' double arithmetic holds: below, the power of ten that they divide by is infinite.
 inline constexpr double cnLeastReadValue = 1e-290;
 
+/// From here on few digits may round a number up to one that no double holds.
+inline constexpr double cnLeastRoundedOut = 1.79e308;
+
 /// The most that a number read by double arithmetic is off.
 inline constexpr double cnMostReadUnits = 8;
 
@@ -72,6 +75,7 @@ private:
     [[nodiscard]] bool CheckExact(double value, unsigned digits, TeUnitScale scale) {
         m_exact = ReadExactly(m_text, scale);
         if (digits >= 17) return m_exact == value;
+        if (std::fabs(value) > cnLeastRoundedOut) return true;
         const double written = std::fabs(value) * 0.5 * std::pow(10.0, 1 - static_cast<int>(digits));
         const double read = std::fabs(value) * std::numeric_limits<double>::epsilon();
         return std::fabs(m_exact - value) <= written + read + std::numeric_limits<double>::denorm_min();

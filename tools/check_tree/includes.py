@@ -22,6 +22,7 @@ MAY_INCLUDE = {
     "toolkit/qt": {"toolkit/qt", "toolkit", "text"},
     "host": {"host", "toolkit/qt"},
     "examples": {"examples", "toolkit/qt"},
+    "examples/units": {"examples/units", "text"},  # shows a room that is not exported
 }
 LIBRARY_ROOMS = {"text", "platform", "connection", "toolkit", "app", "browser", "celllist"}
 # Rooms that are included through their exported headers only. The two panes' rooms are one window tree with pointers
