@@ -8,6 +8,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import unittest.mock
 
 TOOLS = pathlib.Path(__file__).resolve().parent.parent.parent / "tools"
 sys.path.insert(0, str(TOOLS))
@@ -231,6 +232,13 @@ class ExportedSymbolsTest(unittest.TestCase):
             subprocess.run(["c++", "-shared", "-fPIC", "-o", str(root / "libvapp.so"), str(root / "a.cpp")], check=True)
             shown = sorted(finding.what for finding in symbols.check(Tree(root), root))
         self.assertEqual(shown, ["shows gStray()", "shows vapp_text::CText()"])
+
+    def test_reads_the_export_table_of_a_dll(self):
+        listing = ("Export Address Table -- Ordinal Base 1\n\t[   0] +base[   1] 1320 Export RVA\n\n"
+                   "[Ordinal/Name Pointer] Table\n\t[   0] _ZN5CText4LeftEv\n\t[   1] _Z6gStrayv\n\nThe Function Table\n")
+        with unittest.mock.patch.object(symbols, "answer_of", side_effect=[listing, "CText::Left()\ngStray()\n"]) as asked:
+            self.assertEqual(list(symbols.shown_by_dll(pathlib.Path("libvapp.dll"))), ["CText::Left()", "gStray()"])
+        self.assertEqual(asked.call_args.kwargs, {"text": "_ZN5CText4LeftEv\n_Z6gStrayv"})
 
     def test_a_build_without_library_is_a_finding(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -19,21 +19,34 @@ MEND = ("take VAPP_EXPORT off, or declare the name in a header of include/vapp; 
 
 
 def check(tree, build):
-    library = build / "libvapp.so"
-    if not library.exists():
-        return [Finding(str(library), 0, "not there: its symbols can't be checked", f"ninja -C {build} vapp")]
-    answer = subprocess.run(["nm", "-D", "--defined-only", "-C", str(library)], check=True, capture_output=True,
-                            text=True).stdout
+    library = next((path for path in (build / "libvapp.so", build / "bin/libvapp.dll") if path.exists()), None)
+    if library is None:
+        return [Finding(str(build / "libvapp.so"), 0, "not there: its symbols can't be checked", f"ninja -C {build} vapp")]
     declared = words_of_exported_headers(tree)
     findings = []
-    for line in answer.splitlines():
-        kind, _, name = line.lstrip("0123456789abcdef").strip().partition(" ")
+    for name in shown_by_dll(library) if library.suffix == ".dll" else shown_by_so(library):
         owner = owner_of(name, declared["namespaces"])
-        if kind in "tdbr" or LINKER.match(name) or kind == "A":
-            continue
         if name.startswith(INTERNAL) or owner not in declared["names"]:
             findings.append(Finding(library.name, 0, f"shows {name}", MEND))
     return findings
+
+
+def shown_by_so(library):
+    for line in answer_of("nm", "-D", "--defined-only", "-C", str(library)).splitlines():
+        kind, _, name = line.lstrip("0123456789abcdef").strip().partition(" ")
+        if kind not in "tdbrA" and not LINKER.match(name):
+            yield name
+
+
+def shown_by_dll(library):
+    """The names of a DLL's export table, which stand there as the compiler made them."""
+    table = answer_of("objdump", "-p", str(library)).partition("[Ordinal/Name Pointer] Table")[2]
+    names = re.findall(r"^\s*\[ *\d+\](?: \+base\[ *\d+\])?\s+(?:[0-9a-f]{4,8}\s+)?(\S+)$", table, re.MULTILINE)
+    return answer_of("c++filt", text="\n".join(names)).splitlines()
+
+
+def answer_of(*command, text=None):
+    return subprocess.run(command, check=True, capture_output=True, text=True, input=text).stdout
 
 
 def words_of_exported_headers(tree):
