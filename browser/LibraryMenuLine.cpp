@@ -3,7 +3,7 @@
 #include "browser/LibraryMenuLine.h"
 
 #include "vapp/browser/TclBridge.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace vapp_library_browser {
 

@@ -12,7 +12,7 @@
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace vapp_library_browser {
 

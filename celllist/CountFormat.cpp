@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace vapp_library_browser {
 

@@ -10,7 +10,7 @@
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/toolkit/CWinAppEx.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace vapp_library_browser {
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace {
 

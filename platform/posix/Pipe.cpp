@@ -27,8 +27,8 @@ int Descriptor(const OwnedHandle& handle) {
     return static_cast<int>(handle.Get());
 }
 
-OwnedHandle MakeWake() {
-    return OwnedHandle(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+OwnedHandle MakeWake(const OwnedHandle& end) {
+    return OwnedHandle(end.IsOpen() ? eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK) : -1);
 }
 
 void Wake(const OwnedHandle& wake) {
@@ -89,7 +89,7 @@ Transfer ReadOnce(const OwnedHandle& end, void* buffer, std::size_t size) {
     return {0, count == 0 ? EPIPE : errno};
 }
 
-PipeReader::PipeReader(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake()) {
+PipeReader::PipeReader(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake(m_end)) {
     StopBlocking(m_end);
 }
 
@@ -140,7 +140,7 @@ void PipeReader::Leave() noexcept {
     m_wake.Drop();
 }
 
-PipeWriter::PipeWriter(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake()) {
+PipeWriter::PipeWriter(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake(m_end)) {
     StopBlocking(m_end);
 }
 

@@ -8,7 +8,7 @@
 #include <array>
 
 #include "tests/browser/RecordingHost.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 using namespace vapp_library_browser;
 

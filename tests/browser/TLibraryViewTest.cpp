@@ -12,7 +12,7 @@
 #include "tests/browser/NavigatorFixture.h"
 #include "tests/browser/TclInterpreter.h"
 #include "tests/toolkit/RecordingPeers.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 using namespace vapp_library_browser;
 

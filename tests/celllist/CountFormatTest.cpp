@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "tests/celllist/CellListFixture.h"
 #include "tests/celllist/ListeningWindow.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace {
 

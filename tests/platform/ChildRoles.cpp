@@ -20,7 +20,7 @@ namespace {
 using vapp_platform::OwnedHandle;
 using Arguments = std::vector<std::string>;
 
-std::string& OwnProgram() {
+std::string& ProgramPath() {
     static std::string path;
     return path;
 }
@@ -107,8 +107,8 @@ int Flood(const Arguments& arguments) {
     return 0;
 }
 
-const std::map<std::string, std::function<int(const Arguments&)>, std::less<>>& Roles() {
-    static const std::map<std::string, std::function<int(const Arguments&)>, std::less<>> roles = {
+std::map<std::string, Role, std::less<>>& Roles() {
+    static std::map<std::string, Role, std::less<>> roles = {
         {"about-self", SayAboutSelf},
         {"arguments", SayArguments},
         {"both-streams", SayOnBothStreams},
@@ -126,8 +126,16 @@ const std::map<std::string, std::function<int(const Arguments&)>, std::less<>>& 
 
 }  // namespace
 
+const std::string& OwnProgram() {
+    return ProgramPath();
+}
+
+void AddRole(const std::string& name, Role role) {
+    Roles().insert_or_assign(name, std::move(role));
+}
+
 void PlayChildRole(int count, char** arguments) {
-    OwnProgram() = std::filesystem::absolute(arguments[0]).string();
+    ProgramPath() = std::filesystem::absolute(arguments[0]).string();
     constexpr std::string_view csSwitch = "--child=";
     if (count < 2 || !std::string_view(arguments[1]).starts_with(csSwitch)) return;
     const auto role = Roles().find(std::string_view(arguments[1]).substr(csSwitch.size()));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,9 +14,18 @@
 
 namespace platform_test {
 
+/// What a child does; the result is its exit status.
+using Role = std::function<int(const std::vector<std::string>&)>;
+
+/// Adds a role of the test program's own. To be called before PlayChildRole.
+void AddRole(const std::string& name, Role role);
+
 /// Plays the role of "--child=ROLE" in the arguments and ends the process with its status; comes back where
 /// the arguments have none. To be called first in main.
 void PlayChildRole(int count, char** arguments);
+
+/// The path of this program; known once PlayChildRole was called.
+[[nodiscard]] const std::string& OwnProgram();
 
 /// A command line that starts this program in a role.
 [[nodiscard]] CStringU RoleCommand(const std::string& role, const std::vector<std::string>& arguments = {});

@@ -25,6 +25,8 @@ public:
     bool Send(std::string_view bytes) const;
     /// Exactly so many bytes, fewer at the end of the stream.
     [[nodiscard]] std::string Receive(std::size_t size) const;
+    /// One to `size` bytes; none at the end of the stream.
+    [[nodiscard]] std::string ReceiveSome(std::size_t size) const;
     void Close();
 
 private:

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "vapp/toolkit/CStatic.h"
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 namespace {
 

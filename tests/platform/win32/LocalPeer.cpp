@@ -39,14 +39,19 @@ bool LocalPeer::Send(std::string_view bytes) const {
 }
 
 std::string LocalPeer::Receive(std::size_t size) const {
-    std::string bytes(size, '\0');
-    std::size_t done = 0;
-    while (done < size) {
-        const int got = recv(AsSocket(m_handle), bytes.data() + done, static_cast<int>(size - done), 0);
-        if (got <= 0) break;
-        done += static_cast<std::size_t>(got);
+    std::string bytes;
+    while (bytes.size() < size) {
+        const std::string more = ReceiveSome(size - bytes.size());
+        if (more.empty()) break;
+        bytes += more;
     }
-    bytes.resize(done);
+    return bytes;
+}
+
+std::string LocalPeer::ReceiveSome(std::size_t size) const {
+    std::string bytes(size, '\0');
+    const int got = recv(AsSocket(m_handle), bytes.data(), static_cast<int>(size), 0);
+    bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
     return bytes;
 }
 

@@ -1,7 +1,9 @@
 /// @file
-/// The host's translations, by key. Without one the key shows itself, without its prefix.
-#include "vapp/toolkit/Translate.h"
+/// The host's translations, by key. Without one the key shows itself, without its prefix. A lock, because
+/// workers are started, and fail to start, on any thread.
+#include "vapp/text/Translate.h"
 
+#include <mutex>
 #include <string_view>
 #include <unordered_map>
 
@@ -16,20 +18,28 @@ Texts& Translations() {
     return texts;
 }
 
+std::mutex& Lock() {
+    static std::mutex lock;
+    return lock;
+}
+
 }  // namespace
 
 CString gTranslate(const char* key) {
     const CString whole(key);
+    const std::lock_guard guard(Lock());
     if (const auto found = Translations().find(whole); found != Translations().end()) return found->second;
     const std::string_view prefix(csKeyPrefix);
     return whole.View().starts_with(prefix) ? whole.Mid(static_cast<int>(prefix.size())) : whole;
 }
 
 void gSetTranslation(const CString& key, const CString& text) {
+    const std::lock_guard guard(Lock());
     Translations().insert_or_assign(key, text);
 }
 
 void gClearTranslations() {
+    const std::lock_guard guard(Lock());
     Translations().clear();
 }
 

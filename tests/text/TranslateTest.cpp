@@ -1,6 +1,6 @@
 /// @file
 /// User texts by key.
-#include "vapp/toolkit/Translate.h"
+#include "vapp/text/Translate.h"
 
 #include <gtest/gtest.h>
 

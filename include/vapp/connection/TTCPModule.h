@@ -1,0 +1,52 @@
+/// @file
+/// TTCPModule: a worker that connects back by TCP. This process listens, on a port that the system picks, and
+/// the worker finds the address in its environment.
+#pragma once
+
+#include <array>
+
+#include "vapp/Export.h"
+#include "vapp/connection/TConnectionModule.h"
+
+namespace vapp_platform {
+class Socket;
+class SocketLibrary;
+}  // namespace vapp_platform
+
+/// The TCP transport. A default keyword rule: what comes first must begin with the keyword; an empty keyword
+/// is matched by anything, also by nothing.
+///
+/// The constructors set CONNECTION_TYPE_TCP (to nothing) and VORNEX_HOST_NAME in the environment of this
+/// process, for its children from then on.
+class VAPP_EXPORT TTCPModule : public TConnectionModule {
+public:
+    TTCPModule(ConnectionInfo&& info);
+    TTCPModule(const ConnectionInfo& info);
+    /// Closes.
+    ~TTCPModule() override;
+
+    /// Adds TCONNECT_ADDRESS=localhost:<port> as the last entry of `environment`, which stays so; an empty
+    /// one is filled with this process's environment first. A given one must end with two NULs. On success
+    /// `message` is the command line with a line feed.
+    bool InitConnection(std::vector<wchar_t>& environment, CStringU& message) override;
+    /// Waits for one worker for 30 seconds, then for its keyword, 30 seconds for each piece.
+    bool AcceptConnection(CStringU& message) override;
+    /// `size` counts as a signed number of 32 bits. False without a message where the worker takes nothing
+    /// for 30 seconds; another failure also disconnects.
+    bool Send(const char* data, std::uint64_t size, CStringU& message) override;
+    int Recv(char* buffer, int capacity, CStringU& message) override;
+    void Disconnect() override;
+    void Close() override;
+
+private:
+    int ReadKeyword(CStringU& received, CStringU& message) override;
+    bool InitSocket(CStringU& message);
+    void SetTCPEnvironments();
+
+    std::unique_ptr<vapp_platform::SocketLibrary> m_socketLibrary;
+    std::unique_ptr<vapp_platform::Socket> m_listenSocket;
+    std::unique_ptr<vapp_platform::Socket> m_clientSocket;
+    /// The listening socket's own address as the system writes it.
+    std::array<unsigned char, 16> m_address{};
+    std::uint16_t m_port = 0;
+};

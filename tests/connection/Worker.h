@@ -1,0 +1,42 @@
+/// @file
+/// The test program as a worker: what it says and does on its channel is a row of words on its command line.
+///
+///     say:TEXT     sends the text
+///     bytes:HEX    sends bytes, two digits each
+///     dots:TEXT    sends the text byte by byte, each with a moment behind it
+///     blocks:N     sends N blocks of 64 KB
+///     get:N        waits for N bytes and forgets them
+///     echo         sends back what comes, until the end
+///     slow-echo:N  reads one byte at a time, N of them, then echoes
+///     end          closes its side of the channel
+///     live         does nothing, for ever
+///     deaf         does nothing for ever and ignores polite requests to end
+///     grandchild   starts a child that holds the worker's streams, for ever
+///     exit:N       ends the process
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "vapp/connection/ConnectionInfo.h"
+
+namespace connection_test {
+
+/// Adds the roles of workers, "tcp" and "pipe", and that of the login program, which plays the worker that
+/// its command names. To be called before PlayChildRole.
+void AddWorkerRoles();
+
+/// True where the program was started under the name of the login program; its role is to be played then.
+[[nodiscard]] bool IsLoginProgram(const char* ownName);
+
+/// Plays the login program: anything but the right switches and a target is an error that it prints.
+[[nodiscard]] int PlayLoginProgram(const std::vector<std::string>& arguments);
+
+/// Lays a login program below the folder of this program, where connections look for it.
+void LayLoginProgram();
+
+/// What starts a local worker with these words, in the role "tcp" or "pipe", that is to say this keyword.
+[[nodiscard]] ConnectionInfo LocalWorker(const std::string& transport, const std::vector<std::string>& words,
+                                         const std::string& keyword);
+
+}  // namespace connection_test
