@@ -70,5 +70,6 @@ void TEngineeringFormatSettings::SetDefaultEngineeringFormatRemoveZeroExponents(
 }
 
 void TEngineeringFormatSettings::SetDefaultEngineeringFormatDigits(unsigned digits) noexcept {
-    m_digits.store(std::clamp(digits, vapp_text::GetMinDigits(), vapp_text::GetMaxDigits()), std::memory_order_relaxed);
+    m_digits.store(std::clamp(digits, vapp_text::GetMinDigits(), vapp_text::GetMaxDigits()),
+                   std::memory_order_relaxed);
 }
