@@ -1,95 +1,116 @@
 /// @file
 /// The judgement of values is a walk in depth over the values that values name, with its stack on the heap.
+///
+/// A call keeps each value that it meets once, however many names it has and however often these are named,
+/// and expands only as much of it as shows how it begins.
 #include "platform/PathExpand.h"
 
+#include <deque>
 #include <unordered_map>
-#include <utility>
-#include <vector>
 
 #include "platform/PathNormalize.h"
 
 namespace vapp_platform {
 namespace {
 
-/// Judges values for one call.
-class ValueJudge {
-public:
-    explicit ValueJudge(const PathRules& rules) noexcept : m_rules(rules) {}
+// An absolute path shows itself by its first three characters.
+constexpr std::size_t cnTellingUnits = 3;
 
-    [[nodiscard]] bool IsAbsolute(std::u16string_view value) {
-        if (!m_verdicts.contains(std::u16string(value))) Judge(std::u16string(value));
-        return VerdictOf(value) == Verdict::Absolute;
+/// The environment as one call sees it.
+class JudgedEnvironment {
+public:
+    explicit JudgedEnvironment(const PathRules& rules) noexcept : m_rules(rules) {}
+
+    [[nodiscard]] std::optional<vapp_text::EnvironmentValue> Find(std::u16string_view name) {
+        Value* const value = ValueNamed(name);
+        if (value == nullptr) return std::nullopt;
+        if (value->second == Verdict::Unknown) Judge(*value);
+        return Told(*value);
     }
 
 private:
-    enum class Verdict { Unknown, Pending, Absolute, Relative };
+    // Endless is what leads to a value that names itself. It counts as relative, but only in the answer: all
+    // that names it is endless too, whatever was judged before.
+    enum class Verdict { Unknown, Pending, Absolute, Relative, Endless };
+    using Value = std::pair<const std::u16string, Verdict>;
 
-    /// A value whose judgement waits for the values that it names.
+    /// A value whose judgement waits for the values that it names. Stays where it is, as its references are
+    /// views of its normal form.
     struct PendingValue {
-        std::u16string value;
-        std::u16string normal;
-        std::vector<std::u16string> named;
+        explicit PendingValue(Value& judged)
+            : value(judged), normal(NormalizeUnits(judged.first)), references(normal) {}
+        PendingValue(const PendingValue&) = delete;
+        PendingValue& operator=(const PendingValue&) = delete;
+
+        Value& value;
+        const std::u16string normal;
+        vapp_text::EnvironmentReferences references;
     };
 
-    void Judge(std::u16string value) {
-        std::vector<PendingValue> pending;
-        Begin(std::move(value), pending);
+    [[nodiscard]] static vapp_text::EnvironmentValue Told(const Value& value) noexcept {
+        return {.text = value.first, .isAbsolute = value.second == Verdict::Absolute};
+    }
+
+    /// Null where the variable is unset.
+    [[nodiscard]] Value* ValueNamed(std::u16string_view name) {
+        const auto [entry, isNew] = m_names.try_emplace(std::u16string(name), nullptr);
+        if (isNew) {
+            if (auto text = m_rules.environment(name))
+                entry->second = &*m_values.try_emplace(*std::move(text), Verdict::Unknown).first;
+        }
+        return entry->second;
+    }
+
+    void Judge(Value& first) {
+        std::deque<PendingValue> pending;
+        Begin(first, pending);
         while (!pending.empty()) {
-            std::vector<std::u16string>& named = pending.back().named;
-            if (named.empty()) {
+            const auto reference = pending.back().references.Next();
+            if (!reference) {
                 Finish(pending.back());
                 pending.pop_back();
                 continue;
             }
-            std::u16string next = std::move(named.back());
-            named.pop_back();
-            const Verdict known = VerdictOf(next);
-            if (known == Verdict::Unknown) {
-                Begin(std::move(next), pending);
-            } else if (known == Verdict::Pending) {
-                // Every value that waits needs this one, which needs itself: none of their judgements ends.
+            Value* const named = ValueNamed(reference->name);
+            if (named == nullptr) continue;
+            if (named->second == Verdict::Unknown) {
+                Begin(*named, pending);
+            } else if (named->second == Verdict::Pending || named->second == Verdict::Endless) {
+                // Each value that waits needs the one behind it, and so all of them this one.
                 for (const PendingValue& endless : pending)
-                    m_verdicts[endless.value] = Verdict::Relative;
+                    endless.value.second = Verdict::Endless;
                 return;
             }
         }
     }
 
-    void Begin(std::u16string value, std::vector<PendingValue>& pending) {
-        m_verdicts[value] = Verdict::Pending;
-        PendingValue begun{std::move(value), {}, {}};
-        begun.normal = NormalizeUnits(begun.value);
-        vapp_text::EnvironmentReferences references(begun.normal);
-        while (const auto reference = references.Next()) {
-            if (auto named = m_rules.environment(reference->name)) begun.named.push_back(*std::move(named));
-        }
-        pending.push_back(std::move(begun));
+    static void Begin(Value& value, std::deque<PendingValue>& pending) {
+        value.second = Verdict::Pending;
+        pending.emplace_back(value);
     }
 
     void Finish(const PendingValue& judged) {
-        const std::u16string expanded = vapp_text::ExpandEnvironmentReferences(
-            judged.normal, m_rules.environment,
-            [this](std::u16string_view named) { return VerdictOf(named) == Verdict::Absolute; });
-        const bool absolute = IsAbsoluteForm(expanded, m_rules.world);
-        m_verdicts[judged.value] = absolute ? Verdict::Absolute : Verdict::Relative;
-    }
-
-    [[nodiscard]] Verdict VerdictOf(std::u16string_view value) const {
-        const auto known = m_verdicts.find(std::u16string(value));
-        return known != m_verdicts.end() ? known->second : Verdict::Unknown;
+        const auto lookup = [this](std::u16string_view name) -> std::optional<vapp_text::EnvironmentValue> {
+            const Value* const value = ValueNamed(name);
+            return value != nullptr ? std::optional(Told(*value)) : std::nullopt;
+        };
+        const std::u16string start =
+            vapp_text::ExpandEnvironmentReferences(judged.normal, lookup, cnTellingUnits);
+        judged.value.second = IsAbsoluteForm(start, m_rules.world) ? Verdict::Absolute : Verdict::Relative;
     }
 
     const PathRules& m_rules;
-    std::unordered_map<std::u16string, Verdict> m_verdicts;
+    std::unordered_map<std::u16string, Verdict> m_values;
+    std::unordered_map<std::u16string, Value*> m_names;
 };
 
 }  // namespace
 
 std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules) {
     if (!vapp_text::MayHoldEnvironmentReference(text)) return std::u16string(text);
-    ValueJudge judge(rules);
+    JudgedEnvironment environment(rules);
     return vapp_text::ExpandEnvironmentReferences(
-        text, rules.environment, [&judge](std::u16string_view value) { return judge.IsAbsolute(value); });
+        text, [&environment](std::u16string_view name) { return environment.Find(name); });
 }
 
 CStringU ExpandEnvironment(const CStringU& text, const PathRules& rules) {

@@ -6,8 +6,9 @@
 /// value is absolute is judged after normalising it, which replaces the references in it, whose values are
 /// judged in turn, and so on; and a value may name itself.
 ///
-/// The surprise: a value whose judgement would never end counts as not absolute. All other answers are those
-/// of the plain recursion, but each value is judged only once in a call, and no stack grows with the chain.
+/// The surprise: a value whose judgement would never end, as it names itself or one that does, counts as not
+/// absolute. All other answers are those of the plain recursion, but each variable is asked for and judged
+/// only once in a call, and no stack grows with the chain.
 #pragma once
 
 #include <string>

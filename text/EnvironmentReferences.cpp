@@ -58,23 +58,27 @@ bool MayHoldEnvironmentReference(std::string_view text) noexcept {
     return text.find('$') != std::string_view::npos || text.find('%') != std::string_view::npos;
 }
 
-std::u16string ExpandEnvironmentReferences(std::u16string_view text, const EnvironmentLookup& lookup,
-                                           const AbsoluteValueTest& isAbsolute) {
+std::u16string ExpandEnvironmentReferences(std::u16string_view text, const JudgedEnvironmentLookup& lookup,
+                                           std::size_t most) {
     std::u16string expanded;
+    const auto append = [&expanded, most](std::u16string_view piece) {
+        expanded.append(piece.substr(0, most - expanded.size()));
+    };
     std::size_t copied = 0;
     EnvironmentReferences references(text);
     while (const auto reference = references.Next()) {
-        const std::optional<std::u16string> value = lookup(reference->name);
+        const std::optional<EnvironmentValue> value = lookup(reference->name);
         if (!value) continue;
-        if (isAbsolute(*value)) {
+        if (value->isAbsolute) {
             expanded.clear();
         } else {
-            expanded.append(text.substr(copied, reference->first - copied));
+            append(text.substr(copied, reference->first - copied));
         }
-        expanded.append(*value);
+        append(value->text);
         copied = reference->behind;
     }
-    return expanded.append(text.substr(copied));
+    append(text.substr(copied));
+    return expanded;
 }
 
 }  // namespace vapp_text

@@ -28,8 +28,14 @@ namespace vapp_text {
 /// The value of the variable of a name, nothing where it is unset.
 using EnvironmentLookup = std::function<std::optional<std::u16string>(std::u16string_view name)>;
 
-/// Whether a value is an absolute path.
-using AbsoluteValueTest = std::function<bool(std::u16string_view value)>;
+/// The value of a variable, and whether it is an absolute path.
+struct EnvironmentValue {
+    std::u16string_view text;
+    bool isAbsolute;
+};
+
+/// The value of the variable of a name, nothing where it is unset. The text must stay until the next call.
+using JudgedEnvironmentLookup = std::function<std::optional<EnvironmentValue>(std::u16string_view name)>;
 
 /// One reference: its place in the text, and the name in it.
 struct EnvironmentReference {
@@ -61,9 +67,10 @@ private:
 [[nodiscard]] bool MayHoldEnvironmentReference(std::string_view text) noexcept;
 
 /// The text with each reference to a set variable replaced by its value; a reference to an unset one stays. A
-/// value for which `isAbsolute` holds also drops everything in front of it.
+/// value that is an absolute path also drops everything in front of it. No more than the first `most` units
+/// of the result are made: who wants to know only how it begins pays for no long values.
 [[nodiscard]] std::u16string ExpandEnvironmentReferences(std::u16string_view text,
-                                                         const EnvironmentLookup& lookup,
-                                                         const AbsoluteValueTest& isAbsolute);
+                                                         const JudgedEnvironmentLookup& lookup,
+                                                         std::size_t most = std::u16string_view::npos);
 
 }  // namespace vapp_text

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <optional>
 
 #include "platform/PathNormalize.h"
 #include "tests/platform/PathSamples.h"
@@ -94,60 +94,85 @@ TEST(PathExpandTest, TextsGetTheMarkerByTheirContent) {
     EXPECT_TRUE(text_test::HoldsMarkerInvariant(expanded));
 }
 
-/// The plain recursion, which ends where no value leads back to itself.
-bool IsAbsoluteByRecursion(std::u16string_view value, const FakeEnvironment& environment, World world) {
+// A value stands in memory once, however often it is named.
+TEST(PathExpandTest, ALongValueThatIsNamedVeryOftenIsNotCopiedForEach) {
+    std::u16string names;
+    for (int i = 0; i < 40'000; ++i)
+        names += u"$A";
+    const FakeEnvironment environment{{u"A", std::u16string(1U << 17U, u'a')}, {u"B", names}};
+    EXPECT_EQ(Expand(u"x$B", environment, World::Wine), u"x" + names);
+    EXPECT_EQ(environment.Asked(), 2U);
+}
+
+TEST(PathExpandTest, AValueThatLeadsToACircleIsJudgedAlikeInAnyOrder) {
+    const FakeEnvironment environment{{u"A", u"/$A"}, {u"TO", u"/t$A"}, {u"D", u"/d"}};
+    EXPECT_EQ(Expand(u"x$TO", environment, World::Wine), u"x/t$A");
+    EXPECT_EQ(Expand(u"x$A-y$TO", environment, World::Wine), u"x/$A-y/t$A");
+    EXPECT_EQ(Expand(u"x$TO-y$A", environment, World::Wine), u"x/t$A-y/$A");
+    EXPECT_EQ(Expand(u"x$A-y$D-z$TO", environment, World::Wine), u"/d-z/t$A");
+}
+
+/// The plain recursion over variables that may name one another in any way: nothing where it does not end,
+/// which shows by its getting deeper than there are variables, `left` of them.
+std::optional<bool> IsAbsoluteByRecursion(std::u16string_view value, const FakeEnvironment& environment,
+                                          World world, std::size_t left) {
+    if (left == 0) return std::nullopt;
+    bool ends = true;
     const std::u16string expanded = vapp_text::ExpandEnvironmentReferences(
-        vapp_platform::NormalizeUnits(value), environment.Lookup(),
-        [&](std::u16string_view named) { return IsAbsoluteByRecursion(named, environment, world); });
-    return vapp_platform::IsAbsoluteForm(expanded, world);
+        vapp_platform::NormalizeUnits(value),
+        [&](std::u16string_view name) -> std::optional<vapp_text::EnvironmentValue> {
+            const auto found = environment.Variables().find(std::u16string(name));
+            if (found == environment.Variables().end()) return std::nullopt;
+            const auto isAbsolute = IsAbsoluteByRecursion(found->second, environment, world, left - 1);
+            ends = ends && isAbsolute.has_value();
+            return vapp_text::EnvironmentValue{found->second, isAbsolute.value_or(false)};
+        });
+    return ends ? std::optional(vapp_platform::IsAbsoluteForm(expanded, world)) : std::nullopt;
 }
 
-TEST(PathExpandTest, WhereThePlainRecursionEndsItsAnswerHolds) {
-    std::mt19937 random = text_test::SeededRandom();
-    static constexpr std::u16string_view pieces[] = {u"a",  u"/",       u"\\", u"C:\\",
-                                                     u"..", u"\\\\s\\", u"%",  u"./"};
-    for (int round = 0; round < 500; ++round) {
-        // Each value names only variables of lower numbers.
-        std::map<std::u16string, std::u16string> variables;
-        for (int i = 0; i < 6; ++i) {
-            std::u16string value;
-            for (std::size_t left = UpTo(random, 4); left > 0; --left) {
-                value += OneOf(random, pieces);
-                if (i > 0 && UpTo(random, 1) == 0)
-                    value +=
-                        Numbered(u"${V", static_cast<int>(UpTo(random, static_cast<std::size_t>(i) - 1))) +
-                        u"}";
-            }
-            variables[Numbered(u"V", i)] = value;
-        }
-        const FakeEnvironment environment(variables);
-        for (const World world : cnWorlds) {
-            const std::u16string text = u"x$V5-$V4/$V3";
-            const std::u16string expected = vapp_text::ExpandEnvironmentReferences(
-                text, environment.Lookup(),
-                [&](std::u16string_view value) { return IsAbsoluteByRecursion(value, environment, world); });
-            ASSERT_EQ(Expand(text, environment, world), expected);
-        }
-    }
+std::u16string ExpandByRecursion(std::u16string_view text, const FakeEnvironment& environment, World world) {
+    return vapp_text::ExpandEnvironmentReferences(
+        text, [&](std::u16string_view name) -> std::optional<vapp_text::EnvironmentValue> {
+            const auto found = environment.Variables().find(std::u16string(name));
+            if (found == environment.Variables().end()) return std::nullopt;
+            const auto isAbsolute =
+                IsAbsoluteByRecursion(found->second, environment, world, environment.Variables().size());
+            return vapp_text::EnvironmentValue{found->second, isAbsolute.value_or(false)};
+        });
 }
 
-TEST(PathExpandTest, ItEndsWhateverTheValuesName) {
+/// Values of at most five pieces, each with a name among its pieces or none.
+FakeEnvironment RandomEnvironment(std::mt19937& random) {
+    static constexpr std::u16string_view pieces[] = {u"a",   u"/",   u"\\",     u"C:\\",  u"..",   u"\\\\s\\",
+                                                     u"%",   u"./",  u"$",      u"${V0}", u"%V1%", u"$V2",
+                                                     u"$V3", u"$V4", u"${V1}/", u"$V0"};
+    std::map<std::u16string, std::u16string> variables;
+    for (int i = 0; i < 5; ++i) {
+        std::u16string& value = variables[Numbered(u"V", i)];
+        for (std::size_t left = UpTo(random, 4); left > 0; --left)
+            value += OneOf(random, pieces);
+    }
+    return FakeEnvironment(std::move(variables));
+}
+
+TEST(PathExpandTest, TheAnswerIsThatOfThePlainRecursionWhateverValuesName) {
     std::mt19937 random = text_test::SeededRandom();
-    static constexpr std::u16string_view pieces[] = {u"/",   u"$V0", u"${V1}", u"%V2%",
-                                                     u"$V3", u"a",   u"$",     u"%"};
-    for (int round = 0; round < 2000; ++round) {
-        std::map<std::u16string, std::u16string> variables;
-        for (int i = 0; i < 4; ++i) {
-            for (std::size_t left = UpTo(random, 4); left > 0; --left)
-                variables[Numbered(u"V", i)] += OneOf(random, pieces);
-        }
-        const FakeEnvironment environment(variables);
+    std::size_t endless = 0;
+    for (int round = 0; round < 800; ++round) {
+        const FakeEnvironment environment = RandomEnvironment(random);
         for (const World world : cnWorlds) {
-            const std::u16string expanded = Expand(u"x$V0/$V1-$V2", environment, world);
-            ASSERT_LT(expanded.size(), 100U);
-            ASSERT_LT(environment.Asked(), 2000U);
+            for (const auto& [name, value] : environment.Variables())
+                endless += IsAbsoluteByRecursion(value, environment, world, 5) ? 0U : 1U;
+            const std::u16string text = u"x$V0/$V1-$V2\\$V3+$V4";
+            ASSERT_EQ(Expand(text, environment, world), ExpandByRecursion(text, environment, world))
+                << NameOf(world);
+            const std::u16string turned = u"x$V4/$V3-$V2\\$V1+$V0";
+            ASSERT_EQ(Expand(turned, environment, world), ExpandByRecursion(turned, environment, world))
+                << NameOf(world);
+            ASSERT_LE(environment.Asked(), 1000U);
         }
     }
+    EXPECT_GT(endless, 30U) << "the samples lead to circles too";
 }
 
 }  // namespace

@@ -19,19 +19,17 @@ const Variables cnVariables = {{u"A", u"<a>"},        {u"A_1", u"<a1>"},    {u"R
                                {u"EMPTY", u""},       {u"A B", u"<blank>"}, {u"\u00E9", u"<e>"},
                                {u"SELF", u"$SELF$A"}, {u"{A", u"<brace>"}};
 
-vapp_text::EnvironmentLookup LookupIn(const Variables& variables) {
-    return [&variables](std::u16string_view name) -> std::optional<std::u16string> {
+// A value is an absolute path here if it begins with a slash.
+vapp_text::JudgedEnvironmentLookup LookupIn(const Variables& variables) {
+    return [&variables](std::u16string_view name) -> std::optional<vapp_text::EnvironmentValue> {
         const auto found = variables.find(std::u16string(name));
-        return found != variables.end() ? std::optional(found->second) : std::nullopt;
+        if (found == variables.end()) return std::nullopt;
+        return vapp_text::EnvironmentValue{found->second, found->second.starts_with(u'/')};
     };
 }
 
-bool StartsWithSlash(std::u16string_view value) {
-    return value.starts_with(u'/');
-}
-
 std::u16string Expand(std::u16string_view text) {
-    return ExpandEnvironmentReferences(text, LookupIn(cnVariables), StartsWithSlash);
+    return ExpandEnvironmentReferences(text, LookupIn(cnVariables));
 }
 
 struct ExpansionCase {
@@ -110,12 +108,12 @@ std::u16string ExpandInPlace(std::u16string text, const Variables& variables) {
         const auto value = LookupIn(variables)(text.substr(name, nameEnd - name));
         if (!value) {
             i = behind;
-        } else if (StartsWithSlash(*value)) {
-            text = *value + text.substr(behind);
-            i = value->size();
+        } else if (value->isAbsolute) {
+            text = std::u16string(value->text) + text.substr(behind);
+            i = value->text.size();
         } else {
-            text.replace(i, behind - i, *value);
-            i += value->size();
+            text.replace(i, behind - i, value->text);
+            i += value->text.size();
         }
     }
     return text;
@@ -130,7 +128,11 @@ TEST(EnvironmentReferencesPropertyTest, AgreesWithEditingInPlace) {
         std::u16string text;
         for (std::size_t left = text_test::UpTo(random, 9); left > 0; --left)
             text += pieces[text_test::UpTo(random, std::size(pieces) - 1)];
-        ASSERT_EQ(Expand(text), ExpandInPlace(text, cnVariables)) << text_test::Shown(text_test::Bytes(text));
+        const std::u16string expected = ExpandInPlace(text, cnVariables);
+        ASSERT_EQ(Expand(text), expected) << text_test::Shown(text_test::Bytes(text));
+        const std::size_t most = text_test::UpTo(random, 12);
+        ASSERT_EQ(ExpandEnvironmentReferences(text, LookupIn(cnVariables), most), expected.substr(0, most))
+            << text_test::Shown(text_test::Bytes(text));
     }
 }
 
