@@ -8,6 +8,7 @@
 #include <string>
 
 #include "tests/text/HostileText.h"
+#include "tests/text/LocaleGuard.h"
 #include "text/CharToInt.h"
 #include "vapp/text/CStringU.h"
 
@@ -132,23 +133,6 @@ TEST(CStringUNumbers, PositionsStayWithinAnyText) {
     }
 }
 
-/// A locale for the time of a test; the host's own may be any.
-class TLocaleGuard {
-public:
-    explicit TLocaleGuard(std::initializer_list<const char*> names) {
-        for (const char* name : names) {
-            m_set = m_set || std::setlocale(LC_ALL, name) != nullptr;
-        }
-    }
-    ~TLocaleGuard() { std::setlocale(LC_ALL, "C"); }
-    TLocaleGuard(const TLocaleGuard&) = delete;
-    TLocaleGuard& operator=(const TLocaleGuard&) = delete;
-    [[nodiscard]] bool IsSet() const { return m_set; }
-
-private:
-    bool m_set = false;
-};
-
 void ExpectNumbersOfThePlainLocale() {
     // The code page is another matter than the locale: some of them turn a foreign i into an i.
     const TCodePageGuard guard(65001);
@@ -168,14 +152,14 @@ void ExpectNumbersOfThePlainLocale() {
 }
 
 TEST(CStringUNumbers, ALocaleWithACommaChangesNothing) {
-    const TLocaleGuard guard({"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "German_Germany.1252"});
+    const TLocaleGuard guard(cnCommaLocales);
     if (!guard.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
     ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     ExpectNumbersOfThePlainLocale();
 }
 
 TEST(CStringUNumbers, TurkishChangesNothing) {
-    const TLocaleGuard guard({"tr_TR.UTF-8", "tr_TR.utf8", "tr_TR", "Turkish_Turkey.1254"});
+    const TLocaleGuard guard(cnTurkishLocales);
     if (!guard.IsSet()) GTEST_SKIP() << "no Turkish locale is installed";
     ExpectNumbersOfThePlainLocale();
 }

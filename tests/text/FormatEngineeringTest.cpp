@@ -11,6 +11,7 @@
 #include <limits>
 #include <string>
 
+#include "tests/text/LocaleGuard.h"
 #include "vapp/text/TEngineeringFormatSettings.h"
 
 namespace {
@@ -355,18 +356,28 @@ TEST_F(FormatEngineeringText, HasALetterForEachPowerOfAThousand) {
     EXPECT_EQ(UnitSuffix(INT_MAX, TeUnitScale::Si), "");
 }
 
-TEST_F(FormatEngineeringText, AsksNoLocale) {
-    const std::string before = std::setlocale(LC_ALL, nullptr);
-    const CStringU plain = Long(1234.5e6, 6, cnSignificant, TeUnitScale::HSpice);
-    EXPECT_EQ(plain, "1.23450G");
-    for (const char* locale : {"de_DE.UTF-8", "tr_TR.UTF-8", "German_Germany.1252", "Turkish_Turkey.1254"}) {
-        if (std::setlocale(LC_ALL, locale) == nullptr) continue;  // not installed here
-        EXPECT_EQ(Long(1234.5e6, 6, cnSignificant, TeUnitScale::HSpice), plain) << locale;
-        EXPECT_EQ(vapp_text::FormatGeneral(1.5), "1.5") << locale;
-        EXPECT_EQ(Short(1e6, 3, TeUnitScale::HSpice), "1MEG") << locale;
-        EXPECT_EQ(FormatDistinct(1.25, 1.5, TeUnitScale::Si), "1.25") << locale;
-    }
-    std::setlocale(LC_ALL, before.c_str());
+void ExpectTextsOfThePlainLocale() {
+    EXPECT_EQ(Long(1234.5e6, 6, cnSignificant, TeUnitScale::HSpice), "1.23450G");
+    EXPECT_EQ(vapp_text::FormatGeneral(1.5), "1.5");
+    EXPECT_EQ(Short(1e6, 3, TeUnitScale::HSpice), "1MEG");
+    EXPECT_EQ(FormatDistinct(1.25, 1.5, TeUnitScale::Si), "1.25");
+}
+
+TEST_F(FormatEngineeringText, ThePlainLocaleIsThePlainLocale) {
+    ExpectTextsOfThePlainLocale();
+}
+
+TEST_F(FormatEngineeringText, ALocaleWithACommaChangesNothing) {
+    const text_test::TLocaleGuard guard(text_test::cnCommaLocales);
+    if (!guard.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    ExpectTextsOfThePlainLocale();
+}
+
+TEST_F(FormatEngineeringText, TurkishChangesNothing) {
+    const text_test::TLocaleGuard guard(text_test::cnTurkishLocales);
+    if (!guard.IsSet()) GTEST_SKIP() << "no Turkish locale is installed";
+    ExpectTextsOfThePlainLocale();
 }
 
 }  // namespace
