@@ -2,7 +2,7 @@
 //
 // Besides not crashing, the target holds what no input may break: all widths of characters read the same, the
 // end lies within the text, the end is written exactly where there is a number, and what is behind the end
-// has no say.
+// has no say, in whatever code page.
 //
 // Input: one byte that chooses the reading, then a text. For the wide readers each byte is a character.
 
@@ -15,6 +15,7 @@
 
 #include "text/DigitsSetting.h"
 #include "text/ParseEngineering.h"
+#include "text/PlatformText.h"
 #include "text/ReadDouble.h"
 
 namespace {
@@ -80,15 +81,34 @@ void ReadPlain(const std::string& text) {
     Require(IsSame(ReadDouble(text.substr(0, static_cast<std::size_t>(taken)).c_str(), nullptr), value));
 }
 
+// The characters up to the end are the number: without the others it is the same.
+void RequireNumberBefore(const CStringUPos& pos, double value) {
+    const CStringU head = pos.owner->Head(pos);
+    const std::u16string units = head.ToWide();
+    // Overlong ASCII alone never meets the code page.
+    const bool asciiOnly = std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x80; });
+    if (head.HasNonAscii() && asciiOnly) return;
+    Require(IsSame(head.ToDouble(), value));
+}
+
 void ReadMembers(const CStringU& text, bool spice) {
     CStringUPos pos;
-    text.ToDouble(&pos);
+    const double value = text.ToDouble(&pos);
     Require(pos.offset >= 0 && pos.offset <= text.GetByteLength());
+    RequireNumberBefore(pos, value);
     text.ToDoubleEngineering(spice, &pos);
     Require(pos.offset >= 0 && pos.offset <= text.GetByteLength());
     const unsigned digits = ParseDigitsSetting(text);
     Require(digits >= GetMinDigits() && digits <= GetMaxDigits());
     Require(ParseDecimalsSetting(text) <= 17);
+}
+
+void ReadMembersInCodePages(const CStringU& text, bool spice) {
+    for (const unsigned codePage : {1252U, 932U, 54936U, vapp_platform::cnCodePageUtf8}) {
+        vapp_platform::SetActiveCodePage(codePage);
+        ReadMembers(text, spice);
+    }
+    vapp_platform::SetActiveCodePage(0);
 }
 
 }  // namespace
@@ -100,6 +120,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = bytes.substr(0, bytes.find('\0'));
     ReadEngineering(text, si);
     ReadPlain(text);
-    ReadMembers(CStringU(text.c_str(), TextEncoding::Utf8Auto), !si);
+    ReadMembersInCodePages(CStringU(text.c_str(), TextEncoding::Utf8Auto), !si);
     return 0;
 }

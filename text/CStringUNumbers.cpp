@@ -4,9 +4,14 @@
 /// code page, whose conversion may turn a foreign digit into an ASCII one. Integers are read from the
 /// characters themselves.
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 #include "text/CharToInt.h"
 #include "text/Codec.h"
 #include "text/ParseEngineering.h"
+#include "text/PlatformText.h"
 #include "text/ReadDouble.h"
 #include "vapp/text/CStringU.h"
 
@@ -14,20 +19,51 @@ using namespace vapp_text;  // NOLINT(google-build-using-namespace): members of 
 
 namespace {
 
+/// How many characters of a text became these first bytes of it. One character may have become several bytes
+/// of a number, and stateful code pages put bytes between characters, so that only converting tells.
+std::size_t CharactersOf(std::string_view bytes, std::u16string_view units, unsigned codePage) {
+    // Nearly all pages have the characters of numbers where ASCII has them.
+    const bool plain = bytes.size() <= units.size() &&
+                       std::equal(bytes.begin(), bytes.end(), units.begin(), [](char byte, char16_t unit) {
+                           return static_cast<unsigned char>(byte) == unit;
+                       });
+    if (plain) return bytes.size();
+    std::size_t least = 0;
+    std::size_t most = units.size();
+    while (least < most) {
+        const std::size_t middle = least + (most - least) / 2;
+        if (vapp_platform::Utf16ToCodePage(codePage, units.substr(0, middle)).size() < bytes.size())
+            least = middle + 1;
+        else
+            most = middle;
+    }
+    return least;
+}
+
+std::int64_t OffsetOf(const CStringU& text, std::size_t characters) noexcept {
+    const char* walk = text.Payload();
+    for (; characters > 0 && *walk != '\0'; --characters)
+        static_cast<void>(DecodeNext(walk));
+    return walk - text.Payload();
+}
+
 /// Runs `read` on the narrow form of a text and moves `pos` to where it ended.
 template <typename Reader>
 double ReadNarrow(const CStringU& text, CStringUPos* pos, Reader read) {
-    const bool ascii = !text.HasNonAscii();
-    const CString narrow = ascii ? CString() : text.ToAnsi();
-    const char* begin = ascii ? text.Payload() : narrow.GetString();
+    if (!text.HasNonAscii()) {
+        const char* end = text.Payload();
+        const double value = read(text.Payload(), &end);
+        if (pos != nullptr) *pos = {end - text.Payload(), &text};
+        return value;
+    }
+    const unsigned codePage = vapp_platform::ActiveCodePage();
+    const CString narrow = text.ToAnsi(codePage);
+    const char* const begin = narrow.GetString();
     const char* end = begin;
     const double value = read(begin, &end);
     if (pos != nullptr) {
-        // What numbers are made of has one byte for each character, in every code page.
-        const char* walk = text.Payload();
-        for (auto left = end - begin; left > 0 && *walk != '\0'; --left)
-            static_cast<void>(DecodeNext(walk));
-        *pos = {walk - text.Payload(), &text};
+        const std::string_view taken(begin, static_cast<std::size_t>(end - begin));
+        *pos = {OffsetOf(text, CharactersOf(taken, text.ToWide(), codePage)), &text};
     }
     return value;
 }

@@ -42,9 +42,11 @@ void SetActiveCodePage(unsigned codePage) noexcept;
 /// gives empty text; 0 is the active one.
 [[nodiscard]] std::u16string CodePageToUtf16(unsigned codePage, std::string_view bytes);
 
-/// UTF-16 as bytes of a code page. What it can't express becomes its default character, "?" (U+FFFD in UTF-8,
-/// where only half a surrogate pair can't be expressed). A code page that the system does not know gives
-/// empty text; 0 is the active one.
+/// UTF-16 as bytes of a code page. What it can't express becomes a character that looks alike, where the
+/// system's table has one (a full-width digit becomes a digit), otherwise its default character, "?", once
+/// for each unit; invisible characters are no exception (U+FFFD in UTF-8, where only half a surrogate pair
+/// can't be expressed). So no character vanishes. A code page that the system does not know gives empty text;
+/// 0 is the active one.
 [[nodiscard]] std::string Utf16ToCodePage(unsigned codePage, std::u16string_view text);
 
 }  // namespace vapp_platform

@@ -12,6 +12,7 @@
 #include <strings.h>
 #include <unicode/uchar.h>
 #include <unicode/ucnv.h>
+#include <unicode/ucnv_cb.h>
 #include <unicode/ustring.h>
 
 #include <algorithm>
@@ -121,6 +122,18 @@ TConverter OpenCodePage(unsigned codePage) {
     return converter != nullptr ? std::move(converter) : OpenByName("ibm-" + number);
 }
 
+// What the code page can't express becomes one substitution for each unit of it. ICU's own way of
+// substituting leaves out characters that are invisible, such as a zero width space: what was parted by one
+// would be joined, and be another number, say, or another file.
+void SubstituteEachUnit(const void* /*context*/, UConverterFromUnicodeArgs* args, const char16_t* /*units*/,
+                        int32_t length, UChar32 /*character*/, UConverterCallbackReason reason,
+                        UErrorCode* status) {
+    if (reason > UCNV_IRREGULAR) return;  // the converter is reset or closed
+    *status = U_ZERO_ERROR;
+    for (int32_t unit = 0; unit < length; ++unit)
+        ucnv_cbFromUWriteSub(args, 0, status);
+}
+
 // ICU counts in 32 bits; a text is never longer.
 template <typename View>
 int32_t Count(const View& view) {
@@ -213,6 +226,7 @@ std::string Utf16ToCodePage(unsigned codePage, std::u16string_view text) {
     if (converter == nullptr) return {};
     UErrorCode ignored = U_ZERO_ERROR;
     ucnv_setSubstString(converter.get(), u"?", 1, &ignored);
+    ucnv_setFromUCallBack(converter.get(), SubstituteEachUnit, nullptr, nullptr, nullptr, &ignored);
     ucnv_setFallback(converter.get(), true);
     return SizedThenFilled<std::string>([&](char* out, int32_t room, UErrorCode& status) {
         return ucnv_fromUChars(converter.get(), out, room, text.data(), Count(text), &status);

@@ -61,6 +61,87 @@ TEST(CStringUNumbers, OverlongDigitsHaveMoreBytesThanCharacters) {
     EXPECT_EQ(pos.offset, 6);
 }
 
+struct TInvisible {
+    const char* utf8;
+    const char* name;
+};
+constexpr TInvisible cnInvisible[] = {
+    {"\xE2\x80\x8B", "zero width space"},
+    {"\xEF\xBB\xBF", "zero width no-break space"},
+    {"\xE2\x81\xA0", "word joiner"},
+    {"\xC2\xAD", "soft hyphen"},
+};
+
+// If a character vanished on its way into the code page, the digits on its two sides would make one number.
+TEST(CStringUNumbers, InvisibleCharactersEndANumber) {
+    for (const unsigned codePage : {1252U, 932U, 65001U}) {
+        const TCodePageGuard guard(codePage);
+        for (const TInvisible& row : cnInvisible) {
+            SCOPED_TRACE(std::string(row.name) + " in code page " + std::to_string(codePage));
+            const CStringU text = Utf8((std::string("1") + row.utf8 + "2.5k").c_str());
+            CStringUPos pos;
+            EXPECT_EQ(text.ToDouble(&pos), 1);
+            EXPECT_EQ(pos.offset, 1);
+            EXPECT_EQ(text.ToDoubleEngineering(true, &pos), 1);
+            EXPECT_EQ(pos.offset, 1);
+            EXPECT_EQ(text.ToDoubleEngineering(false, &pos), 1);
+            EXPECT_EQ(pos.offset, 0) << "without a suffix the SI reading ends on the last character";
+            // In front of the unit: the unit is not read.
+            const CStringU parted = Utf8((std::string("12") + row.utf8 + "k").c_str());
+            EXPECT_EQ(parted.ToDoubleEngineering(true, &pos), 12);
+            EXPECT_EQ(pos.offset, 2);
+        }
+    }
+}
+
+TEST(CStringUNumbers, InvisibleCharactersInFrontMakeItNoNumber) {
+    for (const unsigned codePage : {1252U, 932U, 65001U}) {
+        const TCodePageGuard guard(codePage);
+        for (const TInvisible& row : cnInvisible) {
+            SCOPED_TRACE(std::string(row.name) + " in code page " + std::to_string(codePage));
+            const CStringU text = Utf8((std::string(row.utf8) + "2.5k").c_str());
+            // Some systems' tables have a minus for a soft hyphen where the page has none.
+            if (text.ToAnsi(codePage).GetString()[0] == '-') continue;
+            CStringUPos pos;
+            EXPECT_EQ(text.ToDouble(&pos), 0);
+            EXPECT_EQ(pos.offset, 0);
+            EXPECT_EQ(text.ToDoubleEngineering(true, &pos), 0);
+            EXPECT_EQ(pos.offset, 0);
+            EXPECT_EQ(text.ToDoubleEngineering(false, &pos), 0);
+            EXPECT_EQ(pos.offset, 0);
+        }
+    }
+}
+
+// Code pages without full-width characters have the plain ones for them, those that have them keep them.
+TEST(CStringUNumbers, FullWidthDigitsAreDigitsWhereTheCodePageMakesThemSo) {
+    const CStringU text = Utf8("\xEF\xBC\x91\xEF\xBC\x8E\xEF\xBC\x95k\xC3\xA9");
+    CStringUPos pos;
+    for (const unsigned codePage : {932U, 65001U}) {
+        const TCodePageGuard guard(codePage);
+        EXPECT_EQ(text.ToDouble(&pos), 0) << codePage;
+        EXPECT_EQ(pos.offset, 0) << codePage;
+    }
+    const TCodePageGuard guard(1252);
+    EXPECT_EQ(text.ToDouble(&pos), 1.5);
+    EXPECT_EQ(pos.offset, 9);
+    EXPECT_EQ(text.ToDoubleEngineering(false, &pos), 1500);
+    EXPECT_EQ(pos.offset, 10);
+    EXPECT_EQ(*pos, u'\u00E9');
+    EXPECT_EQ(Utf8("\xEF\xBC\x91\xEF\xBC\x95").ToDoubleEngineering(false, &pos), 15);
+    EXPECT_EQ(pos.offset, 3) << "on the last digit";
+}
+
+// In some code pages one character becomes several bytes that a number can be made of.
+TEST(CStringUNumbers, ACharacterThatBecomesSeveralDigitsIsCountedOnce) {
+    const TCodePageGuard guard(1200);  // two bytes for each: those of this one are the digits 1 and 2
+    const CStringU text = Utf8("\xE3\x88\xB1\xE3\x88\xB1\xC3\xA9");
+    CStringUPos pos;
+    if (text.ToAnsi(1200).IsEmpty()) GTEST_SKIP() << "the system converts into no such page";
+    EXPECT_EQ(text.ToDouble(&pos), 1212);
+    EXPECT_EQ(pos.offset, 6);
+}
+
 TEST(CStringUNumbers, AMarkerAloneIsNoNumber) {
     const CStringU text = Raw("\x80");
     CStringUPos pos;
@@ -120,7 +201,9 @@ TEST(CStringUNumbers, IntegersOfAllWidths) {
 
 TEST(CStringUNumbers, PositionsStayWithinAnyText) {
     std::mt19937 random = SeededRandom();
+    constexpr unsigned codePages[] = {1252, 932, 54936, 65000, 65001};
     for (int i = 0; i < 5000; ++i) {
+        const TCodePageGuard guard(codePages[UpTo(random, std::size(codePages) - 1)]);
         const CStringU text(HostileBytes(random).c_str(),
                             UpTo(random, 1) == 0 ? TextEncoding::Raw : TextEncoding::Utf8Auto);
         CStringUPos pos;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "tests/text/TextHelpers.h"
 
 namespace {
@@ -59,6 +61,36 @@ TEST(DigitsSetting, ForeignCharactersAreNoNumber) {
         << "a no-break space";
     EXPECT_EQ(ParseDigitsSetting(text_test::Utf8("\xD9\xA3")), 4U) << "an Arabic-Indic three";
     EXPECT_EQ(ParseDecimalsSetting(text_test::Utf8("7\xC3\xA9")), 6U);
+}
+
+// Full-width digits tell what was converted: 1252 has none and takes plain ones for them, UTF-8 keeps them.
+TEST(DigitsSetting, FieldsAreReadInTheActiveCodePage) {
+    const CStringU fullWidth = text_test::Utf8("\xEF\xBC\x91\xEF\xBC\x95");
+    {
+        const text_test::TCodePageGuard guard(1252);
+        EXPECT_EQ(ParseDigitsSetting(fullWidth), 15U);
+        EXPECT_EQ(ParseDecimalsSetting(fullWidth), 15U);
+    }
+    const text_test::TCodePageGuard guard(65001);
+    EXPECT_EQ(ParseDigitsSetting(fullWidth), 4U);
+    EXPECT_EQ(ParseDecimalsSetting(fullWidth), 6U);
+}
+
+TEST(DigitsSetting, InvisibleCharactersAreNoPartOfANumber) {
+    for (const unsigned codePage : {1252U, 932U, 65001U}) {
+        const text_test::TCodePageGuard guard(codePage);
+        for (const std::string invisible : {"\xE2\x80\x8B", "\xEF\xBB\xBF", "\xE2\x81\xA0", "\xC2\xAD"}) {
+            for (const std::string& text : {"1" + invisible + "2", "9" + invisible}) {
+                EXPECT_EQ(ParseDigitsSetting(text_test::Utf8(text.c_str())), 4U) << codePage;
+                EXPECT_EQ(ParseDecimalsSetting(text_test::Utf8(text.c_str())), 6U) << codePage;
+            }
+            const CStringU front = text_test::Utf8((invisible + "9").c_str());
+            // Some systems' tables have a minus for a soft hyphen where the page has none.
+            if (front.ToAnsi(codePage).GetString()[0] == '-') continue;
+            EXPECT_EQ(ParseDigitsSetting(front), 4U) << codePage;
+            EXPECT_EQ(ParseDecimalsSetting(front), 6U) << codePage;
+        }
+    }
 }
 
 TEST(DigitsSetting, TheLimits) {

@@ -268,16 +268,58 @@ TEST_F(ParseEngineeringWithSettingsTest, TheDefaultDecidesWhereTheCallerDoesNot)
     }
 }
 
+// Full-width digits tell what was converted: 1252 has none and takes plain ones for them, UTF-8 keeps them.
 TEST_F(ParseEngineeringWithSettingsTest, TextIsReadInTheActiveCodePage) {
-    const text_test::TCodePageGuard guard(1252);
-    double value = 0;
-    EXPECT_TRUE(ParseEngineeringWithSettings(text_test::Utf8("3k\xCE\xA9"), &value, true).IsEmpty());
-    EXPECT_EQ(value, 3000);
-    EXPECT_TRUE(ParseEngineeringWithSettings(text_test::Utf8("3\xC2\xB5"), &value, true).IsEmpty());
-    EXPECT_EQ(value, 3) << "a Greek mu is no suffix";
-    EXPECT_EQ(ParseEngineeringWithSettings(text_test::Utf8("\xC3\xA9"), &value, true), "Not a number");
-    EXPECT_EQ(ParseEngineeringWithSettings(CStringU(), &value, true), "Not a number");
-    EXPECT_EQ(value, 0);
+    const CStringU fullWidth = text_test::Utf8("\xEF\xBC\x91\xEF\xBC\x95\xEF\xBD\x8B");
+    double value = 99;
+    {
+        const text_test::TCodePageGuard guard(1252);
+        EXPECT_TRUE(ParseEngineeringWithSettings(fullWidth, &value, true).IsEmpty());
+        EXPECT_EQ(value, 15000);
+        EXPECT_TRUE(ParseEngineeringWithSettings(text_test::Utf8("3k\xCE\xA9"), &value, true).IsEmpty());
+        EXPECT_EQ(value, 3000);
+        EXPECT_TRUE(ParseEngineeringWithSettings(text_test::Utf8("3\xC2\xB5"), &value, true).IsEmpty());
+        EXPECT_EQ(value, 3) << "a micro sign is no suffix";
+        EXPECT_EQ(ParseEngineeringWithSettings(text_test::Utf8("\xC3\xA9"), &value, true), "Not a number");
+        EXPECT_EQ(ParseEngineeringWithSettings(CStringU(), &value, true), "Not a number");
+        EXPECT_EQ(value, 0);
+    }
+    const text_test::TCodePageGuard guard(65001);
+    EXPECT_EQ(ParseEngineeringWithSettings(fullWidth, &value, true), "Not a number");
+}
+
+TEST_F(ParseEngineeringWithSettingsTest, NarrowTextIsUsedAsItStands) {
+    for (const unsigned codePage : {1252U, 932U, 65001U}) {
+        const text_test::TCodePageGuard guard(codePage);
+        double value = 99;
+        EXPECT_TRUE(ParseEngineeringWithSettings("2k\xB5", &value, true).IsEmpty());
+        EXPECT_EQ(value, 2000);
+        EXPECT_TRUE(ParseEngineeringWithSettings("2\xEF\xBC\x91", &value, true).IsEmpty());
+        EXPECT_EQ(value, 2) << codePage << " makes no digit of the bytes of a full-width one";
+        EXPECT_EQ(ParseEngineeringWithSettings("\xEF\xBC\x91", &value, true), "Not a number") << codePage;
+        EXPECT_EQ(ParseEngineeringWithSettings("\x80"
+                                               "1",
+                                               &value, true),
+                  "Not a number")
+            << codePage;
+    }
+}
+
+TEST_F(ParseEngineeringWithSettingsTest, InvisibleCharactersEndANumber) {
+    for (const unsigned codePage : {1252U, 932U, 65001U}) {
+        const text_test::TCodePageGuard guard(codePage);
+        for (const std::string invisible : {"\xE2\x80\x8B", "\xEF\xBB\xBF", "\xE2\x81\xA0", "\xC2\xAD"}) {
+            double value = 99;
+            const CStringU inside = text_test::Utf8(("1" + invisible + "2.5k").c_str());
+            EXPECT_TRUE(ParseEngineeringWithSettings(inside, &value, true).IsEmpty());
+            EXPECT_EQ(value, 1) << codePage;
+            const CStringU front = text_test::Utf8((invisible + "2.5k").c_str());
+            // Some systems' tables have a minus for a soft hyphen where the page has none.
+            if (front.ToAnsi(codePage).GetString()[0] == '-') continue;
+            EXPECT_EQ(ParseEngineeringWithSettings(front, &value, true), "Not a number") << codePage;
+            EXPECT_EQ(value, 0);
+        }
+    }
 }
 
 }  // namespace

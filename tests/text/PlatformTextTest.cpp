@@ -93,6 +93,39 @@ TEST(PlatformText, InvalidInputGivesReplacements) {
     EXPECT_EQ(CodePageToUtf16(932, "\x83").size(), 1U) << "cut off in the middle";
 }
 
+// If an invisible character vanished, what it parts would be joined: "1", a zero width space and "2" would be
+// twelve.
+TEST(PlatformText, InvisibleCharactersDoNotVanish) {
+    for (const unsigned codePage : {437U, 932U, 949U, 1250U, 1251U, 1252U, 1254U, 20127U, 28591U}) {
+        for (const char16_t invisible : {u'\u200B', u'\u2060', u'\uFEFF', u'\u034F', u'\u180E', u'\u2064'}) {
+            const std::u16string text = {u'1', invisible, u'2'};
+            EXPECT_EQ(Utf16ToCodePage(codePage, text), "1?2")
+                << codePage << ' ' << static_cast<unsigned>(invisible);
+        }
+    }
+    EXPECT_EQ(Utf16ToCodePage(1252, u"1\u00AD2"),
+              "1\xAD"
+              "2")
+        << "a soft hyphen, which the page has";
+}
+
+TEST(PlatformText, EveryUnitHasAByteInASingleByteCodePage) {
+    for (const unsigned codePage : {437U, 1250U, 1251U, 1252U, 20866U, 28591U}) {
+        for (unsigned value = 1; value <= 0xFFFF; ++value) {
+            const std::u16string unit(1, static_cast<char16_t>(value));
+            ASSERT_EQ(Utf16ToCodePage(codePage, unit).size(), 1U) << codePage << ' ' << value;
+        }
+        EXPECT_EQ(Utf16ToCodePage(codePage, u"a\U0001F600z"), "a??z") << codePage;
+        EXPECT_EQ(Utf16ToCodePage(codePage, u"a\U000E0020z"), "a??z") << codePage << " an invisible pair";
+    }
+}
+
+TEST(PlatformText, TheNearestCharacterComesBeforeTheDefaultOne) {
+    EXPECT_EQ(Utf16ToCodePage(1252, u"\uFF11\uFF0E\uFF15\uFF4B"), "1.5k");
+    EXPECT_EQ(Utf16ToCodePage(932, u"\uFF11"), "\x82\x50") << "a page that has full-width digits keeps them";
+    EXPECT_EQ(Utf16ToCodePage(65001, u"\uFF11"), "\xEF\xBC\x91");
+}
+
 TEST(PlatformText, UnknownCodePagesAndEmptyTextsGiveEmptyText) {
     EXPECT_EQ(CodePageToUtf16(99999, "abc"), u"");
     EXPECT_EQ(Utf16ToCodePage(99999, u"abc"), "");
