@@ -85,7 +85,7 @@ double CStringU::ToDouble(CStringUPos* pos) const {
 double CStringU::ToDoubleEngineering(bool spiceOnly, CStringUPos* pos) const {
     return ReadNarrow(*this, pos, [spiceOnly](const char* text, const char** end) {
         double value = 0.0;
-        static_cast<void>(ParseEngineering(text, &value, end, !spiceOnly));
+        static_cast<void>(ReadEngineering(text, &value, end, !spiceOnly));
         return value;
     });
 }

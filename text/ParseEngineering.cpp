@@ -112,7 +112,7 @@ double Scaled(double value, std::int64_t exponent) noexcept {
 }
 
 template <typename Unit>
-CStringU Parse(const Unit* text, double& value, const Unit** end, bool siSuffix) {
+bool Read(const Unit* text, double& value, const Unit** end, bool siSuffix) noexcept {
     static constexpr Unit empty[1] = {};
     TScan<Unit> scan{text == nullptr ? empty : text};
     SkipSpaces(scan.walk);
@@ -120,7 +120,7 @@ CStringU Parse(const Unit* text, double& value, const Unit** end, bool siSuffix)
     ScanMantissa(scan);
     if (scan.digits == 0) {
         value = 0.0;
-        return "Not a number";
+        return false;
     }
     ScanExponent(scan);
     const TEngineeringSuffix suffix = FindEngineeringSuffix(scan.walk, siSuffix);
@@ -130,7 +130,12 @@ CStringU Parse(const Unit* text, double& value, const Unit** end, bool siSuffix)
         Scaled(static_cast<double>(static_cast<std::int64_t>(scan.mantissa)) * suffix.factor,
                scan.exponent + suffix.exponent);
     value = negative ? -magnitude : magnitude;
-    return {};
+    return true;
+}
+
+template <typename Unit>
+CStringU Parse(const Unit* text, double& value, const Unit** end, bool siSuffix) {
+    return Read(text, value, end, siSuffix) ? CStringU() : CStringU("Not a number");
 }
 
 }  // namespace
@@ -145,6 +150,10 @@ CStringU ParseEngineering(const wchar_t* text, double* value, const wchar_t** en
 
 CStringU ParseEngineering(const char16_t* text, double* value, const char16_t** end, bool siSuffix) {
     return Parse(text, *value, end, siSuffix);
+}
+
+bool ReadEngineering(const char* text, double* value, const char** end, bool siSuffix) noexcept {
+    return Read(text, *value, end, siSuffix);
 }
 
 CStringU ParseEngineeringWithSettings(const CStringU& text, double* value, boost::logic::tribool siSuffix) {

@@ -42,14 +42,21 @@ namespace vapp_text {
 /// Reads a number from text that ends with a NUL; a null pointer is empty text. `value` gets the number,
 /// `end` the end position unless it is null. `siSuffix` chooses the SI reading of suffixes before the SPICE
 /// one. Returns "Not a number", or empty text for success.
-CStringU ParseEngineering(const char* text, double* value, const char** end, bool siSuffix);
+[[nodiscard]] CStringU ParseEngineering(const char* text, double* value, const char** end, bool siSuffix);
 /// The same on wide text: only ASCII characters mean anything, values above 0xFFFF too end the number.
-CStringU ParseEngineering(const wchar_t* text, double* value, const wchar_t** end, bool siSuffix);
-CStringU ParseEngineering(const char16_t* text, double* value, const char16_t** end, bool siSuffix);
+[[nodiscard]] CStringU ParseEngineering(const wchar_t* text, double* value, const wchar_t** end,
+                                        bool siSuffix);
+[[nodiscard]] CStringU ParseEngineering(const char16_t* text, double* value, const char16_t** end,
+                                        bool siSuffix);
+
+/// The same without words: false for "Not a number". For those who show no error text, and would pay for it.
+[[nodiscard]] bool ReadEngineering(const char* text, double* value, const char** end, bool siSuffix) noexcept;
 
 /// The same with the process' default reading of suffixes where the caller states none. A CStringU is read in
 /// the active code page, whose conversion may turn a foreign character into an ASCII one.
-CStringU ParseEngineeringWithSettings(const CStringU& text, double* value, boost::logic::tribool siSuffix);
-CStringU ParseEngineeringWithSettings(const char* text, double* value, boost::logic::tribool siSuffix);
+[[nodiscard]] CStringU ParseEngineeringWithSettings(const CStringU& text, double* value,
+                                                    boost::logic::tribool siSuffix);
+[[nodiscard]] CStringU ParseEngineeringWithSettings(const char* text, double* value,
+                                                    boost::logic::tribool siSuffix);
 
 }  // namespace vapp_text

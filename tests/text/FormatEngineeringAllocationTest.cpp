@@ -1,43 +1,17 @@
-// A number's text costs one allocation, its own. A program for itself, since it counts every allocation of
-// the process.
+// A number's text costs one allocation, its own.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <new>
 
+#include "tests/text/AllocationCount.h"
 #include "text/FormatEngineering.h"
 
 namespace {
 
-std::size_t gAllocations = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    ++gAllocations;
-    void* const memory = std::malloc(size);
-    if (memory == nullptr) throw std::bad_alloc();
-    return memory;
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-
-namespace {
+using text_test::CountAllocations;
 
 constexpr double cnValues[] = {0.0, -1.5, 1e-12, 123456.789, 1e300, -5e-324, HUGE_VAL, 0.1};
-
-template <typename Function>
-std::size_t CountAllocations(Function function) {
-    const std::size_t before = gAllocations;
-    function();
-    return gAllocations - before;
-}
 
 TEST(FormatEngineeringAllocation, ATextIsTheOnlyAllocation) {
     for (const double value : cnValues) {
