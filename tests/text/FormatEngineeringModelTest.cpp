@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
+#include <bitset>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -50,19 +52,24 @@ void Check(double value, const TBigDecimal& exact, const TModelStyle& style) {
 
 TEST(FormatEngineeringModel, AgreesOverAllExponentsAndCountsOfDigits) {
     unsigned choice = 0;
+    std::array<std::bitset<cnChoices>, 21> met;  // of each count of digits
     for (int exponent = -324; exponent <= 308; ++exponent) {
-        for (const double mantissa : {1.0, 1.5, 9.9995, 9.995, 1.2344996, 5.0, -4.4445}) {
-            const double value =
-                std::strtod((std::to_string(mantissa) + "e" + std::to_string(exponent)).c_str(), nullptr);
+        for (const std::string mantissa : {"1", "1.5", "9.9995", "9.995", "1.2344996", "5", "-4.4445"}) {
+            const double value = std::strtod((mantissa + "e" + std::to_string(exponent)).c_str(), nullptr);
             if (!std::isfinite(value)) continue;
             const TBigDecimal exact = ExactDecimal(value);
             for (std::size_t digits = 1; digits <= 20; ++digits) {
                 choice = (choice + 1) % cnChoices;
+                met.at(digits).set(choice);
                 Check(value, exact, StyleOf(digits, true, choice));
                 Check(value, exact, StyleOf(digits, false, choice));
                 if (HasFatalFailure()) return;
             }
+            ++choice;  // 21 steps a number: without it each count of digits would meet two choices only
         }
+    }
+    for (std::size_t digits = 1; digits <= 20; ++digits) {
+        EXPECT_TRUE(met.at(digits).all()) << digits;
     }
 }
 

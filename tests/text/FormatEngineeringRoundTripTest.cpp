@@ -26,6 +26,19 @@ TEST(FormatEngineeringRoundTrip, RandomDoublesComeBack) {
     }
 }
 
+// Where numbers are lost at the ends of the range, and only there.
+TEST(FormatEngineeringRoundTrip, TheGreatestAndTheLeastDoublesComeBackAsFarAsTheyCan) {
+    std::mt19937 random = text_test::SeededRandom("TheGreatestAndTheLeastDoublesComeBackAsFarAsTheyCan");
+    text_test::TRoundTrip trip;
+    for (const double start : {std::numeric_limits<double>::max(), 1.79e308, 1e308, 1e-289, 1e-291,
+                               std::numeric_limits<double>::min(), 1e-320}) {
+        for (int round = 0; round < 3000; ++round) {
+            const double value = (round % 2 == 0 ? start : -start) * (1 - std::ldexp(random(), -36));
+            ASSERT_TRUE(trip.Check(value, random())) << value << " wrote " << trip.Text();
+        }
+    }
+}
+
 TEST(FormatEngineeringRoundTrip, ShortNumbersComeBackToTheLastBitInEveryLetter) {
     for (int exponent = -24; exponent < 27; ++exponent) {
         for (const char* mantissa : {"1", "1.5", "2.2", "4.7", "-6.8"}) {

@@ -33,6 +33,10 @@ TeUnitScale Scale(int number) {
     return static_cast<TeUnitScale>(number);
 }
 
+CStringU WithOption(double value, int code) {
+    return FormatEngineeringOptions(value, 4, static_cast<EngineeringFormatOption>(code));
+}
+
 // Significant digits, not aligned, zeroes removed.
 CStringU Short(double value, unsigned digits, TeUnitScale scale) {
     return FormatEngineering(value, digits, cnSignificant, false, true, scale, true);
@@ -135,6 +139,15 @@ TEST_F(FormatEngineeringText, WritesZeroWithTheDigitsAskedFor) {
     EXPECT_EQ(Aligned(-0.0, 3, true), "   0.       ");
 }
 
+TEST_F(FormatEngineeringText, WritesZeroWithTheSettingsDigits) {
+    EXPECT_EQ(Long(0.0, 0, cnSignificant), "0.000");
+    EXPECT_EQ(Long(0.0, 0, cnDecimals), "0.0000");
+    gGetEngineeringFormatSettings().SetDefaultEngineeringFormatDigits(1);
+    EXPECT_EQ(Long(0.0, 0, cnSignificant), "0.");
+    EXPECT_EQ(Long(0.0, 0, cnDecimals), "0.0");
+    EXPECT_EQ(Short(0.0, 0, TeUnitScale::Si), "0");
+}
+
 TEST_F(FormatEngineeringText, WritesAtLeastThreeSignificantDigits) {
     EXPECT_EQ(Long(123456, 1, cnSignificant), "123.k");
     EXPECT_EQ(Long(1.23456, 2, cnSignificant), "1.23");
@@ -167,6 +180,7 @@ TEST_F(FormatEngineeringText, ShowsEngineeringDecimalsInScientificNotation) {
     EXPECT_EQ(Long(12.3456, 2, cnDecimals, TeUnitScale::Scientific), "1.235e001");
     EXPECT_EQ(Long(123.456, 2, cnDecimals, TeUnitScale::Scientific), "1.2346e002");
     EXPECT_EQ(Long(1234.56, 2, cnDecimals, TeUnitScale::Scientific), "1.23e003");
+    EXPECT_EQ(Long(9.999, 2, cnDecimals, TeUnitScale::Scientific), "1.000e001") << "carried into a new digit";
 }
 
 TEST_F(FormatEngineeringText, WritesWordsForWhatIsNoNumber) {
@@ -261,6 +275,30 @@ TEST_F(FormatEngineeringText, AppliesEachOption) {
         EXPECT_EQ(FormatEngineeringOptions(12e6, 4, row.option), row.ofBig) << static_cast<int>(row.option);
         EXPECT_EQ(FormatEngineeringOptions(12e6, row.option), row.ofBig) << "four digits are the default";
     }
+}
+
+// Files of hosts hold the codes as numbers.
+TEST_F(FormatEngineeringText, KnowsOptionsByTheirNumbers) {
+    TEngineeringFormatSettings& settings = gGetEngineeringFormatSettings();
+    settings.SetDefaultEngineeringFormatRemoveTrailingZeroes(false);
+    EXPECT_EQ(WithOption(12e6, 0), "12.0000M");
+    EXPECT_EQ(WithOption(12e6, 1), "  12.00M     ");
+    EXPECT_EQ(WithOption(12e6, 2), "12M");
+    settings.SetDefaultEngineeringFormatRemoveTrailingZeroes(true);
+    EXPECT_EQ(WithOption(12e6, 3), "12.00M");
+    settings.SetDefaultEngineeringFormatUnitScale(TeUnitScale::Engineering);
+    settings.SetDefaultEngineeringFormatRemoveZeroExponents(false);
+    EXPECT_EQ(WithOption(1, 4), "1");
+    settings.SetDefaultEngineeringFormatRemoveZeroExponents(true);
+    EXPECT_EQ(WithOption(1, 5), "1e000");
+    EXPECT_EQ(WithOption(12e6, 6), "12M");
+    EXPECT_EQ(WithOption(12e6, 7), "12X");
+    EXPECT_EQ(WithOption(12e6, 8), "12MEG");
+    EXPECT_EQ(WithOption(12e6, 9), "1.2e007");
+    settings.SetDefaultEngineeringFormatUnitScale(TeUnitScale::Si);
+    EXPECT_EQ(WithOption(12e6, 10), "12e006");
+    EXPECT_EQ(WithOption(12e6, 11), "12M");
+    EXPECT_EQ(WithOption(12e6, -1), "12M");
 }
 
 TEST_F(FormatEngineeringText, LetsALaterOptionOverrideAnEarlierOne) {

@@ -46,7 +46,7 @@ std::size_t CountOfDoubles() {
 /// A double of any exponent, the sign included, whose 18 digits can be read.
 double AnyDouble(std::mt19937_64& random) {
     for (;;) {
-        const double value = std::bit_cast<double>(random());
+        const auto value = std::bit_cast<double>(random());
         if (std::isfinite(value) && std::abs(value) >= cnLeastThatReturns) return value;
     }
 }
@@ -132,6 +132,9 @@ const TRow cnRows[] = {
     // The power of ten of the digits is out of range, though the number is not.
     {1.5e-308, TeUnitScale::Scientific, "1.5e-308", 0, 0},
     {1e-310, TeUnitScale::Scientific, "1e-310", 0, 0},
+    // Three digits round it up to what no double holds.
+    {1.797e308, TeUnitScale::Si, "180e306", cnInfinity, cnInfinity},
+    {1.7976931348623157e308, TeUnitScale::Scientific, "1.8e308", cnInfinity, cnInfinity},
 };
 
 TEST(NumberTextScenario, WhereReadingIsNotTheInverse) {
@@ -181,12 +184,18 @@ TEST(NumberTextScenario, WhatIsReadAndNeverWritten) {
         const char* text;
         const char* written;
     };
-    const TSpelling rows[] = {{"50%", "500m"}, {"2ft", "610m"},   {"1e3k", "1M"},    {"1K", "1k"},
-                              {"1MEG", "1M"},  {"1x", "1M"},      {"1U", "1u"},      {"0.001", "1m"},
-                              {"+1", "1"},     {"001.50", "1.5"}, {"3mil", "76.2u"}, {"1e", "1E"},
-                              {".5k", "500"},  {"1e-3", "1m"}};
+    const TSpelling rows[] = {
+        {"50%", "500m"},   {"2ft", "610m"}, {"1e3k", "1M"},  {"1K", "1k"},     {"1MEG", "1M"},
+        {"1x", "1M"},      {"1U", "1u"},    {"0.001", "1m"}, {"+1", "1"},      {"001.50", "1.5"},
+        {"3mil", "76.2u"}, {"1e", "1E"},    {".5k", "500"},  {"1e-3", "1m"},   {"1N", "1n"},
+        {"1F", "1f"},      {"1g", "1G"},    {"1t", "1T"},    {"1X", "1M"},     {"1mEg", "1M"},
+        {"1e+3", "1k"},    {"1e3", "1k"},   {"1E003", "1k"}, {"1500", "1.5k"}, {"\t 1", "1"}};
     for (const TSpelling& row : rows) {
         EXPECT_EQ(Write(Read(row.text, true), 4, TeUnitScale::Si), row.written) << row.text;
+    }
+    const TSpelling spiceRows[] = {{"1A", "1a"}, {"1M", "1m"}, {"1P", "1p"}, {"1x", "1X"}, {"1MEG", "1X"}};
+    for (const TSpelling& row : spiceRows) {
+        EXPECT_EQ(Write(Read(row.text, false), 4, TeUnitScale::Spice), row.written) << row.text;
     }
 }
 

@@ -108,6 +108,32 @@ TEST(ReadDouble, ReadsByTheTable) {
     }
 }
 
+// Without an exponent the count of digits alone decides.
+TEST(ReadDouble, LongNumbersAreOutOfRangeToo) {
+    const std::string nines(400, '9');
+    const std::string zeroes = "0." + std::string(400, '0') + "1";
+    struct TLong {
+        std::string text;
+        double value;
+        int error;
+    };
+    const TLong rows[] = {
+        {nines, cnInfinity, ERANGE},         {"-" + nines, -cnInfinity, ERANGE},
+        {nines + ".5e-400", 1, 0},           {zeroes, 0, ERANGE},
+        {"-" + zeroes, -0.0, ERANGE},        {zeroes + "e401", 1, 0},
+        {std::string(400, '0') + "7", 7, 0}, {"0." + std::string(400, '0'), 0, 0},
+    };
+    for (const TLong& row : rows) {
+        const ExactBytes text(row.text);
+        const char* end = nullptr;
+        errno = 0;
+        const double value = ReadDouble(text.Get(), &end);
+        EXPECT_EQ(errno, row.error) << row.text;
+        EXPECT_EQ(static_cast<std::size_t>(end - text.Get()), row.text.size()) << row.text;
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(value), std::bit_cast<std::uint64_t>(row.value)) << row.text;
+    }
+}
+
 TEST(ReadDouble, TheEndMayBeNull) {
     EXPECT_EQ(ReadDouble("2.5", nullptr), 2.5);
     EXPECT_EQ(ReadDouble("x", nullptr), 0);

@@ -25,7 +25,8 @@ inline double DistanceInUnits(double a, double b) {
     return std::fabs(a - b) / unit;
 }
 
-/// The value of a text of SI, SPICE or HSPICE letters, or with an exponent, correctly rounded.
+/// The value of a text of SI, SPICE or HSPICE letters, or with an exponent, correctly rounded; infinite where
+/// no double is as great.
 inline double ReadExactly(std::string_view text, TeUnitScale scale) {
     std::string plain(text);
     for (int exponent = -24; exponent <= 24; exponent += 3) {
@@ -37,15 +38,29 @@ inline double ReadExactly(std::string_view text, TeUnitScale scale) {
     }
     double value = 0;
     const std::from_chars_result read = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (read.ec != std::errc() || read.ptr != plain.data() + plain.size())
-        return std::numeric_limits<double>::quiet_NaN();
-    return value;
+    if (read.ptr != plain.data() + plain.size()) return std::numeric_limits<double>::quiet_NaN();
+    if (read.ec == std::errc()) return value;
+    const bool tooSmall = plain.find("e-") != std::string::npos;
+    return std::copysign(tooSmall ? 0.0 : std::numeric_limits<double>::infinity(),
+                         plain.front() == '-' ? -1.0 : 1.0);
 }
 
-/// Where the readers' double arithmetic holds: below, the power of ten that they divide by is infinite.
+/// The same text a thousandth: what "180e306" is close to can be told, what it is no double holds.
+inline std::string Thousandth(const std::string& text) {
+    const std::size_t exponent = text.find('e') + 1;
+    return text.substr(0, exponent) + std::to_string(std::stoi(text.substr(exponent)) - 3);
+}
+
+/// Infinity as the greatest double, so that two numbers at the upper end have a distance.
+inline double Finite(double value) {
+    constexpr double greatest = std::numeric_limits<double>::max();
+    return std::clamp(value, -greatest, greatest);
+}
+
+/// Below it the power of ten that the reader divides by may be infinite, and the number then read as 0.
 inline constexpr double cnLeastReadValue = 1e-290;
 
-/// From here on few digits may round a number up to one that no double holds.
+/// From here on a number may be rounded up, when written or when read, to one that no double holds.
 inline constexpr double cnLeastRoundedOut = 1.79e308;
 
 /// The most that a number read by double arithmetic is off.
@@ -75,18 +90,24 @@ private:
     [[nodiscard]] bool CheckExact(double value, unsigned digits, TeUnitScale scale) {
         m_exact = ReadExactly(m_text, scale);
         if (digits >= 17) return m_exact == value;
-        if (std::fabs(value) > cnLeastRoundedOut) return true;
+        if (std::fabs(value) > cnLeastRoundedOut)
+            return IsWithin(ReadExactly(Thousandth(m_text), scale), value / 1000, digits);
+        return IsWithin(m_exact, value, digits);
+    }
+
+    [[nodiscard]] static bool IsWithin(double exact, double value, unsigned digits) {
         const double written = std::fabs(value) * 0.5 * std::pow(10.0, 1 - static_cast<int>(digits));
         const double read = std::fabs(value) * std::numeric_limits<double>::epsilon();
-        return std::fabs(m_exact - value) <= written + read + std::numeric_limits<double>::denorm_min();
+        return std::fabs(exact - value) <= written + read + std::numeric_limits<double>::denorm_min();
     }
 
     [[nodiscard]] bool CheckParsed(const CStringU& text, double value, TeUnitScale scale) {
-        if (std::fabs(value) < cnLeastReadValue || std::fabs(value) > 1e308) return true;
-        double read = 0;
+        double read = 99;
         const bool si = scale == TeUnitScale::Si;
         if (!vapp_text::ParseEngineering(text.Payload(), &read, nullptr, si).IsEmpty()) return false;
-        const double units = DistanceInUnits(read, m_exact);
+        if (std::fabs(value) < cnLeastReadValue && read == 0) return true;
+        if (std::isinf(read) && std::fabs(value) <= cnLeastRoundedOut) return false;
+        const double units = DistanceInUnits(Finite(read), Finite(m_exact));
         m_mostUnits = std::max(m_mostUnits, units);
         return units <= cnMostReadUnits;
     }
