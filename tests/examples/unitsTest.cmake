@@ -40,19 +40,53 @@ check(0
 10Mohm  1.00000000000000002e-002  10.0m  10.0m  10.0m   1.00e-002   10.0e-003
 " "" --spice --digits=3 --keep 10Mohm)
 
-# What is no number is told, and what is one is written all the same.
-set(input "4.7u\r\n\nabc\n--1\n")
+# Typed numbers are answered line by line, in columns that suit nearly all. What is no number is told, and what is one
+# is written all the same.
+set(input "4.7u\r\n\nabc\n-1.5e-27\n--1\n")
 check(1
-"Text  General                   SI    Spice  HSpice  Scientific  Engineering
-4.7u  4.69999999999999989e-006  4.7u  4.7u   4.7u    4.7e-006    4.7e-006
+"Text            General                    SI             Spice          HSpice         Scientific     Engineering
+4.7u            4.69999999999999989e-006   4.7u           4.7u           4.7u           4.7e-006       4.7e-006
+-1.5e-27        -1.50000000000000006e-027  -1.5e-027      -1.5e-027      -1.5e-027      -1.5e-027      -1.5e-027
 " "units: \"abc\": Not a number\nunits: \"--1\": Not a number\n")
 set(input "")
 check(0 "" "")
 check(1 "" "units: \"--5\": Not a number\n" -- --5)
 
+# Letters belong to a unit; anything else behind a number is told, and the number not written.
+check(0
+"Text    General                  SI     Spice  HSpice  Scientific  Engineering
+3mil    7.6200000000000009e-005  76.2u  76.2u  76.2u   7.62e-005   76.2e-006
+10kOhm  10000.                   10k    10k    10k     1e004       10e003
+1e      1.e+018                  1E     1e018  1e018   1e018       1e018
+1e5     100000.                  100k   100k   100k    1e005       100e003
+5.      5.                       5      5      5       5           5
+ 1.5 \t  1.5                      1.5    1.5    1.5     1.5         1.5
+" "" 3mil 10kOhm 1e 1e5 5. " 1.5 \t")
+check(1
+"Text  General  SI  Spice  HSpice  Scientific  Engineering
+2     2.       2   2      2       2           2
+" "units: \"1,5\": \",5\" stands behind the number
+units: \"5 V\": \"V\" stands behind the number
+units: \"10Ohm\": \"Ohm\" stands behind the number
+units: \"1A\": \"A\" stands behind the number
+units: \"1k5\": \"5\" stands behind the number
+units: \"1e5e5\": \"5\" stands behind the number
+units: \"0x10\": \"10\" stands behind the number
+units: \"2.2.2\": \".2\" stands behind the number
+units: \"10kOhm/sq\": \"/sq\" stands behind the number
+" 1,5 "5 V" 10Ohm 1A 1k5 1e5e5 0x10 2.2.2 10kOhm/sq 2)
+check(1 "" "units: \"1e\": \"e\" stands behind the number\nunits: \"1Z\": \"Z\" stands behind the number\n" --spice 1e 1Z)
+
 check(2 "" "units: unknown option \"--digit\"; see units --help\n" --digit 5)
+foreach(digits abc 0 19 -1 4.5 99999999999 "")
+  check(2 "" "units: --digits wants a number from 1 to 18, not \"${digits}\"; see units --help\n" --digits=${digits} 5)
+endforeach()
+check(0
+"Text  General               SI    Spice  HSpice  Scientific  Engineering
+0.1   0.100000000000000006  100m  100m   100m    1e-001      100e-003
+" "" --digits=1 0.1)
 
 execute_process(COMMAND ${EMULATOR} "${UNITS}" --help OUTPUT_VARIABLE help RESULT_VARIABLE result)
-if(NOT result EQUAL 0 OR NOT help MATCHES "^Usage: units .*--spice.*--help")
+if(NOT result EQUAL 0 OR NOT help MATCHES "^Usage: units .*--spice.*1 to 18.*--help")
   message(SEND_ERROR "units --help does not help:\n${help}")
 endif()
