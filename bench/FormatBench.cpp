@@ -3,8 +3,8 @@
 /// correct text can cost, and beside snprintf-based code that gives the same text, which is what a program
 /// without this room would have.
 ///
-/// Not a test; but the run stops with an error where the snprintf code's texts differ from ours, or where a
-/// text costs more allocations than its result.
+/// Not a test; but the snprintf code is not timed, and says why, where its texts differ from ours. What a
+/// text costs in allocations is counted by tests/text/FormatEngineeringAllocationTest.cpp.
 #include <benchmark/benchmark.h>
 
 #include <charconv>

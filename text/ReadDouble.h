@@ -9,7 +9,7 @@
 /// The C library's own strtod reads "1,5" or "1.5" as the host's locale says, and does not know all of these
 /// forms on every system; files written by one must be read by the other. The value is correctly rounded.
 /// A magnitude too great gives infinity and one too small 0, both with errno ERANGE, which is not touched
-/// otherwise; a subnormal result is a result like any other.
+/// otherwise; a subnormal result is a result like any other, where most C libraries' strtod sets errno.
 ///
 /// Not the reader of engineering numbers: that is ParseEngineering, which knows suffixes.
 #pragma once

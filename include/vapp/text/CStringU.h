@@ -18,7 +18,8 @@
 /// of units, so that a surrogate pair counts two and takes six bytes. How units become bytes stands in
 /// text/Codec.h. Embedded NULs are not supported: every text ends at its first one.
 ///
-/// The surprises: a narrow `const char*` with high bytes is in the active code page, not in UTF-8. Malformed
+/// The surprises: a narrow `const char*` with high bytes is in the active code page, not in UTF-8. That is
+/// the locale's, on Windows the system's, unless the host sets one (vapp/text/ActiveCodePage.h). Malformed
 /// UTF-8 never fails, and comes out as its bits say. There is no order by locale: `<` puts the shorter
 /// payload first, then goes by bytes. Where `wchar_t` is wider than 16 bits, a value above 0xFFFF comes in as
 /// a surrogate pair, and each unit goes out as one `wchar_t`.
