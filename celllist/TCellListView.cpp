@@ -9,8 +9,8 @@
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
-#include "vapp/toolkit/CWinAppEx.h"
 #include "vapp/text/Translate.h"
+#include "vapp/toolkit/CWinAppEx.h"
 
 namespace vapp_library_browser {
 

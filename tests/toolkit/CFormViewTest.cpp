@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "vapp/toolkit/CStatic.h"
 #include "vapp/text/Translate.h"
+#include "vapp/toolkit/CStatic.h"
 
 namespace {
 
