@@ -13,9 +13,6 @@
 namespace vapp_platform {
 namespace {
 
-// An absolute path shows itself by its first three characters.
-constexpr std::size_t cnTellingUnits = 3;
-
 /// The environment as one call sees it.
 class JudgedEnvironment {
 public:
@@ -106,11 +103,11 @@ private:
 
 }  // namespace
 
-std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules) {
-    if (!vapp_text::MayHoldEnvironmentReference(text)) return std::u16string(text);
+std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules, std::size_t most) {
+    if (!vapp_text::MayHoldEnvironmentReference(text)) return std::u16string(text.substr(0, most));
     JudgedEnvironment environment(rules);
     return vapp_text::ExpandEnvironmentReferences(
-        text, [&environment](std::u16string_view name) { return environment.Find(name); });
+        text, [&environment](std::u16string_view name) { return environment.Find(name); }, most);
 }
 
 CStringU ExpandEnvironment(const CStringU& text, const PathRules& rules) {

@@ -11,6 +11,7 @@
 /// only once in a call, and no stack grows with the chain.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,8 +19,10 @@
 
 namespace vapp_platform {
 
-/// The text with its references replaced, see vapp_text::ExpandEnvironmentReferences.
-[[nodiscard]] std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules);
+/// The text with its references replaced, or the first `most` units of that; see
+/// vapp_text::ExpandEnvironmentReferences.
+[[nodiscard]] std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules,
+                                               std::size_t most = std::u16string_view::npos);
 [[nodiscard]] CStringU ExpandEnvironment(const CStringU& text, const PathRules& rules);
 
 }  // namespace vapp_platform

@@ -96,8 +96,9 @@ bool IsPlain(const CStringU& path) noexcept {
     return !path.HasNonAscii() && !vapp_text::MayHoldEnvironmentReference(path.PayloadView());
 }
 
-std::u16string NormalizeAndExpand(const CStringU& path, const PathRules& rules) {
-    return ExpandEnvironment(NormalizeUnits(UnitsOf(path)), rules);
+std::u16string NormalizeAndExpand(const CStringU& path, const PathRules& rules,
+                                  std::size_t most = std::u16string_view::npos) {
+    return ExpandEnvironment(NormalizeUnits(UnitsOf(path)), rules, most);
 }
 
 /// IsAbsolutePath of a plain path, by its first bytes: neither "." nor ".." can change the root of a path
@@ -118,7 +119,7 @@ bool IsAbsolutePlain(const CStringU& path, const PathRules& rules) {
 
 bool IsAbsolutePath(const CStringU& path, const PathRules& rules) {
     if (IsPlain(path)) return IsAbsolutePlain(path, rules);
-    return IsAbsoluteForm(NormalizeAndExpand(path, rules), rules.world);
+    return IsAbsoluteForm(NormalizeAndExpand(path, rules, cnTellingUnits), rules.world);
 }
 
 CStringU NormalizePath(const CStringU& path, const PathRules& rules) {

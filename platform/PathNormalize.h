@@ -14,6 +14,7 @@
 /// normalising once, but for values, and for a name such as "D:." that the first time uncovers at the start.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,9 @@ namespace vapp_platform {
 
 /// The normal form before references are replaced, with "\" as the separator.
 [[nodiscard]] std::u16string NormalizeUnits(std::u16string_view path);
+
+/// The units at its start by which a path shows whether it is absolute.
+inline constexpr std::size_t cnTellingUnits = 3;
 
 /// True for a normal form, references replaced, that is absolute.
 [[nodiscard]] bool IsAbsoluteForm(std::u16string_view normal, World world) noexcept;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <memory>
 
 #include "platform/Environment.h"
 #include "text/Codec.h"
@@ -18,8 +19,10 @@ int LengthOf(std::string_view bytes) {
 }  // namespace
 
 PathRules CurrentPathRules() {
-    static const vapp_text::EnvironmentLookup ofSystem = GetEnvironmentValue;
-    return {CurrentWorld(), ofSystem};
+    // Never destroyed: a host's own static objects may still ask about paths while the process ends.
+    static const vapp_text::EnvironmentLookup* const ofSystem =
+        std::make_unique<const vapp_text::EnvironmentLookup>(GetEnvironmentValue).release();
+    return {CurrentWorld(), *ofSystem};
 }
 
 std::size_t DriveBytes(const CStringU& path) noexcept {

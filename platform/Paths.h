@@ -6,7 +6,7 @@
 /// rules, world by world, with their surprises, are told in PathNormalize.h, PathJoin.h, PathNames.h,
 /// PathValid.h and PathCompact.h. Not here: files and folders (Files.h).
 ///
-/// Any thread, as long as nobody changes the environment meanwhile. Nothing here fails.
+/// Any thread, as long as nobody but this library changes the environment meanwhile. Nothing here fails.
 #pragma once
 
 #include "vapp/text/CStringU.h"

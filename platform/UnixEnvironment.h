@@ -4,7 +4,8 @@
 /// Not the environment of a Windows program, which is another one (Environment.h); on native Linux there is
 /// only one, the process's own. Where there is no Unix side, nothing is set and every value is empty.
 ///
-/// As with getenv and setenv, one thread at a time, and no other may ask meanwhile.
+/// Any thread, as long as only this library changes the environment meanwhile; under Wine as its own services
+/// allow.
 #pragma once
 
 #include "platform/UnixSide.h"

@@ -14,7 +14,6 @@ class TEntryPointFinder {
 public:
     using TFunction = void (*)();
 
-    virtual ~TEntryPointFinder() = default;
     /// Null where there is no function of that name.
     [[nodiscard]] virtual TFunction Find(const char* name) const noexcept = 0;
     /// Takes any memory that a found function gave, also null.
@@ -24,6 +23,8 @@ protected:
     TEntryPointFinder() = default;
     TEntryPointFinder(const TEntryPointFinder&) = default;
     TEntryPointFinder& operator=(const TEntryPointFinder&) = default;
+    // As with TUnixSide.
+    ~TEntryPointFinder() = default;
 };
 
 class TWineEntryPoints final : public TUnixSide {

@@ -3,18 +3,20 @@
 #include "platform/WineNames.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "platform/PathNames.h"
 #include "platform/PathNormalize.h"
+#include "text/Codec.h"
 
 namespace vapp_platform {
 
 namespace {
 
-// No system takes a longer path, in characters.
-constexpr std::size_t cnLongestPath = 32767;
-constexpr std::size_t cnMostBytesOfCharacter = 3;
+// Characters of a head that can have a name: in the end it is one of Linux, which takes at most as many
+// bytes.
+constexpr int cnLongestHead = 4096;
 
 CStringU WithSeparators(std::string_view payload, char from, char into) {
     std::string bytes(payload);
@@ -32,9 +34,36 @@ bool IsAbsoluteUnderWine(const CStringU& path, const PathRules& rules) {
     return IsAbsolutePath(path, rules);
 }
 
+// In the side's own bytes; nothing where nobody can be asked.
+std::optional<CString> NameOnUnixSide(const CStringU& path, const TNameWorld& world) {
+    if (world.rules.world != World::Wine) return std::nullopt;
+    if (IsAbsoluteUnderWine(path, world.rules)) return world.unixSide.UnixFileName(path);
+    return world.unixSide.UnixNameOfText(WithSeparators(path.PayloadView(), '\\', '/'));
+}
+
 bool IsUnixCandidate(const char* path) {
     const std::string_view text = CString::ViewOf(path);
     return !text.empty() && text.front() != '\\' && !(text.size() >= 2 && text[1] == ':');
+}
+
+// The place behind that many characters, or the end.
+std::size_t BehindCharacters(std::string_view text, int count) {
+    std::int64_t place = 0;
+    for (; count > 0 && text[static_cast<std::size_t>(place)] != '\0'; --count)
+        place = vapp_text::StepForward(text.data(), place);
+    return static_cast<std::size_t>(place);
+}
+
+// The next cut to the left: the last `\` in front of `cut`, at most at `limit`. Of several in a row only the
+// outer two are cuts, for the heads that end between them are names of the same.
+std::size_t NextCut(std::string_view whole, std::size_t cut, std::size_t limit) {
+    if (cut == 0) return std::string_view::npos;
+    std::size_t separator = whole.rfind('\\', std::min(cut - 1, limit));
+    if (separator != std::string_view::npos && separator + 1 == cut) {
+        while (separator > 0 && whole[separator - 1] == '\\')
+            --separator;
+    }
+    return separator;
 }
 
 }  // namespace
@@ -43,21 +72,17 @@ CStringU DosName(const char* path, const TNameWorld& world) {
     if (world.rules.world == World::Wine && IsUnixCandidate(path)) {
         if (std::optional<CStringU> name = world.unixSide.DosFileName(path)) return *std::move(name);
     }
-    return gToWindowsSeparators(path);
+    return gToWindowsSeparators(world.unixSide.TextOfPlainPath(path));
 }
 
 CString UnixName(const CStringU& path, const TNameWorld& world) {
-    if (world.rules.world == World::Wine) {
-        if (!IsAbsoluteUnderWine(path, world.rules)) {
-            return WithSeparators(path.PayloadView(), '\\', '/').StripMarker();
-        }
-        if (std::optional<CString> name = world.unixSide.UnixFileName(path)) return *std::move(name);
-    }
-    return path.StripMarker();
+    return NameOnUnixSide(path, world).value_or(path.StripMarker());
 }
 
 CStringU UnixNameU(const CStringU& path, const TNameWorld& world) {
-    return TextOf(UnixName(gToWindowsSeparators(path), world).View());
+    const CStringU dosPath = gToWindowsSeparators(path);
+    const std::optional<CString> name = NameOnUnixSide(dosPath, world);
+    return name ? world.unixSide.TextOfUnixName(*name) : dosPath;
 }
 
 // Each turn cuts the head at a separator further left. The first asks for the whole, as long as it may be;
@@ -66,14 +91,13 @@ CStringU UnixNameU(const CStringU& path, const TNameWorld& world) {
 CStringU UnixPathOf(const CStringU& path, const TNameWorld& world) {
     if (IsUnixPath(path)) return path;
     const std::string_view whole = path.PayloadView();
-    const std::size_t longestHead =
-        path.HasNonAscii() ? cnLongestPath * cnMostBytesOfCharacter : cnLongestPath;
+    const std::size_t limit = BehindCharacters(whole, cnLongestHead);
     CStringU translation = UnixNameU(path, world);
     std::size_t cut = whole.size();
-    while (translation.IsEmpty() && cut > 0) {
-        const std::size_t separator = whole.rfind('\\', std::min(cut - 1, longestHead));
-        if (separator == std::string_view::npos) break;
-        cut = separator;
+    while (translation.IsEmpty()) {
+        const std::size_t next = NextCut(whole, cut, limit);
+        if (next == std::string_view::npos) break;
+        cut = next;
         translation = UnixNameU(PieceOf(path, whole.substr(0, cut)), world);
     }
     if (cut + 1 >= whole.size()) return translation;

@@ -5,9 +5,9 @@
 /// the service, so that no caller needs to know where it runs. On native Linux a name is its own name, told
 /// with "/". What a path is, and which world's it is, is told in Paths.h and World.h.
 ///
-/// The surprises: a name is narrow text on its way to and from the Unix side. What comes in by `const char*`
-/// is in the side's own bytes, what goes out as CString is UTF-8. And a drive without a separator behind it,
-/// "C:", counts as a relative path, which translates to itself.
+/// The surprises: a name is narrow text on its way to and from the Unix side, in the side's own bytes, which
+/// on native Linux are those that open the file. And a drive without a separator behind it, "C:", counts as a
+/// relative path, which translates to itself.
 ///
 /// Any thread. Nothing here fails: an empty text is a name that could not be translated.
 #pragma once
@@ -20,8 +20,9 @@
 /// The Windows path of a Unix path. What begins with "\", or has ":" as its second character, is one already;
 /// it, and everything where nobody can be asked, comes back with "\" for "/".
 [[nodiscard]] CStringU gGetDosName(const char* path);
-/// The Unix path, in UTF-8, of a Windows path that exists; empty where the Unix side has no name for it. A
-/// relative path comes back with "/" for "\", and where nobody can be asked the text comes back unchanged.
+/// The Unix path, in the Unix side's bytes, of a Windows path that exists; empty where that side has no name
+/// for it. A relative path comes back with "/" for "\", and where nobody can be asked the text comes back
+/// unchanged; these two are UTF-8, save that on native Linux a relative path is bytes too.
 [[nodiscard]] CString gGetUnixName(const CStringU& path);
 /// gGetUnixName for a path with either separator, as a text.
 [[nodiscard]] CStringU gGetUnixNameU(const CStringU& path);

@@ -5,6 +5,8 @@
 #include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
+#include <algorithm>
+#include <climits>
 #include <cstddef>
 #include <cstdint>
 
@@ -95,6 +97,11 @@ std::wstring WideFromNative(std::string_view bytes) {
                                      static_cast<unsigned char>(bytes[static_cast<std::size_t>(first)]));
     }
     return text;
+}
+
+CStringU TextFromNative(std::string_view bytes) {
+    const std::wstring wide = WideFromNative(bytes);
+    return {wide.data(), static_cast<int>(std::min<std::size_t>(wide.size(), INT_MAX))};
 }
 
 }  // namespace vapp_platform

@@ -22,5 +22,7 @@ namespace vapp_platform {
 [[nodiscard]] std::string NativeFromWide(std::wstring_view text);
 /// The inverse, one whole character or one stray byte each.
 [[nodiscard]] std::wstring WideFromNative(std::string_view bytes);
+/// The inverse as a text.
+[[nodiscard]] CStringU TextFromNative(std::string_view bytes);
 
 }  // namespace vapp_platform

@@ -33,13 +33,13 @@ struct TFree {
 
 // The path as seen from the shortcut's folder. Names are names: nothing in them is expanded.
 CStringU SeenFrom(const CStringU& shortcut, const CStringU& relativePath) {
-    static const vapp_text::EnvironmentLookup cnNothingSet = [](std::u16string_view) {
+    const vapp_text::EnvironmentLookup nothingSet = [](std::u16string_view) {
         return std::optional<std::u16string>();
     };
     const std::string_view path = shortcut.PayloadView();
     const std::size_t slash = path.find_last_of(cnSeparators);
     const std::string_view folder = path.substr(0, slash == std::string_view::npos ? 0 : slash + 1);
-    return NormalizePath(PieceOf(shortcut, folder) + relativePath, {World::Wine, cnNothingSet});
+    return NormalizePath(PieceOf(shortcut, folder) + relativePath, {World::Wine, nothingSet});
 }
 
 std::vector<CStringU> PlacesOf(const TShellLink& link, const CStringU& shortcut) {

@@ -51,6 +51,8 @@ constexpr CompactCase cnCases[] = {
     {"UnixAboveTheFolder", "../folder/sub/file", 13, "../.../file"},
     {"RelativeRootReachesBehindTwoCharacters", "folder\\sub\\dir\\file", 17, "folder\\...\\file"},
     {"UnixShareHasNoBackslashToSkipTo", "//srv/share/folder/sub/file", 24, "file"},
+    {"ShareKeepsAllUpToABackslash", "\\\\srv/share\\dir\\folder\\file", 24, "\\\\srv/share\\dir\\...\\file"},
+    {"QuotedUnixPathKeepsItsQuotes", "\"/home/me/folder/sub/file\"", 15, "\"/.../sub/file\""},
     {"FolderAlone", "C:\\dir\\folder\\sub\\", 14, "C:\\dir\\...\\"},
     {"NameBehindAColonHasNoSeparator", "C:\\dir\\folder:name", 16, "name"},
     {"CharactersAreCountedNotBytes", "C:\\\xC3\xA9\xC3\xA9\\\xE4\xB8\xAD\xE4\xB8\xAD\\\xC3\xA9", 10,

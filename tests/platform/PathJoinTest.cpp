@@ -104,6 +104,8 @@ constexpr PathPairCase cnWays[] = {
     {"SeparatorsMustBeTheSame", "C:/a/b", "C:\\a\\c", "C:\\a\\c", "C:/a/c"},
     {"UnixPathsHaveAWayUnderWineOnly", "/a/b", "/a/c", "/a/c", "../c"},
     {"UnixPathsMustShareAFolder", "/a/b", "/c/d", "/c/d", "/c/d"},
+    {"AQuoteIsACharacterOfThePath", "\"/a/b\"", "/a/c", "/a/c", "/a/c"},
+    {"AQuotedUnixBaseIsOne", "\"/a/b\"", "\"/a/$HOME", "\"/a/$HOME", "../$HOME"},
     {"UnixPathsBelowOneAnother", "/a", "/a/b/c", "/a/b/c", "b/c"},
     {"ShareInCommon", "\\\\s\\sh\\a\\b", "\\\\s\\sh\\a\\c", "..\\c", "../c"},
     {"MachineInCommonOnly", "\\\\s\\sh\\b", "\\\\s\\other\\c", "\\\\s\\other\\c", "//s/other/c"},

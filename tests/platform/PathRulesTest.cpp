@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
+#include "platform/Paths.h"
+#include "platform/WineNames.h"
 #include "platform/World.h"
 #include "tests/platform/PathSamples.h"
 
@@ -49,6 +53,26 @@ TEST(PathRulesTest, PiecesHaveTheMarkerByTheirOwnContent) {
     EXPECT_TRUE(PieceOf(path, path.PayloadView().substr(1)).HasNonAscii());
     EXPECT_TRUE(PieceOf(path, {}).IsEmpty());
     EXPECT_TRUE(text_test::HoldsMarkerInvariant(TextOf("a/\xC3\xA9")));
+}
+
+/// Asks about a path when everything else of the process has ended already: it began before all of it.
+struct AskerAtTheEnd {
+    ~AskerAtTheEnd() {
+        if (asks) std::_Exit(gJoinPath("a", "$VAPP_NO_SUCH_VARIABLE").IsEmpty() ? 1 : 0);
+    }
+    bool asks = false;
+};
+AskerAtTheEnd gAsker;
+
+TEST(PathRulesDeathTest, PathsCanBeAskedAboutWhileTheProcessEnds) {
+    EXPECT_EXIT(
+        {
+            static_cast<void>(gJoinPath("a", "$VAPP_NO_SUCH_VARIABLE"));
+            static_cast<void>(gGetUnixPathOf("C:\\no\\such"));
+            gAsker.asks = true;
+            std::exit(2);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

@@ -34,6 +34,8 @@ constexpr ValidCase cnCases[] = {
     {"OnlyTwoSeparators", "\\\\", false, false},
     {"Name", "a", true, true},
     {"DriveAndNames", "C:\\a\\b c", true, true},
+    {"DriveRoot", "C:\\", true, true},
+    {"DriveAndASeparatorAtTheEnd", "C:\\a\\", true, true},
     {"SmallDrive", "c:/a", true, true},
     {"DriveAlone", "C:", true, true},
     {"DriveRelative", "C:x\\y", false, true},

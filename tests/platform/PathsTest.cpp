@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "platform/World.h"
+#include "tests/platform/SystemEnvironment.h"
 
 namespace {
+
+using path_test::VariableGuard;
 
 /// The exported names, each once, in the world that a test has switched to.
 struct PathsTest : testing::Test {
@@ -52,6 +55,37 @@ TEST_F(PathsTest, NamesAreTakenApartAlikeInBothWorlds) {
 
 TEST_F(PathsTest, AReferenceToAnUnsetVariableStays) {
     EXPECT_EQ(gExpandEnvironment("a${VAPP_NO_SUCH_VARIABLE}b"), "a${VAPP_NO_SUCH_VARIABLE}b");
+}
+
+TEST_F(PathsTest, VariablesAreThoseOfTheProcess) {
+    const VariableGuard root(u"VAPP_TEST_ROOT", u"D:\\r\u00E9");
+    const VariableGuard name(u"VAPP_TEST_NAME", u"n");
+    for (const bool wine : {false, true}) {
+        vapp_platform::SetWineAnswer(wine);
+        EXPECT_EQ(gExpandEnvironment("a-$VAPP_TEST_NAME-%VAPP_TEST_NAME%"), "a-n-n");
+        EXPECT_EQ(gExpandEnvironment("a/${VAPP_TEST_ROOT}/b"), CStringU(u"D:\\r\u00E9/b"));
+        EXPECT_EQ(gNormalizePath("x/../$VAPP_TEST_ROOT/./b"), CStringU(u"D:\\r\u00E9\\b"));
+        EXPECT_TRUE(gIsAbsolutePath("a/%VAPP_TEST_ROOT%"));
+        EXPECT_FALSE(gIsAbsolutePath("a/%VAPP_TEST_NAME%"));
+        EXPECT_EQ(gJoinPath("C:\\a", "$VAPP_TEST_NAME"), "C:\\a\\n");
+        EXPECT_EQ(gJoinPath("C:\\a", "$VAPP_TEST_ROOT"), CStringU(u"D:\\r\u00E9"));
+        EXPECT_EQ(gResolvePath("C:\\a", "$VAPP_TEST_ROOT\\b"), CStringU(u"D:\\r\u00E9\\b"));
+        EXPECT_EQ(gRemoveExtension("$VAPP_TEST_ROOT\\b.c"), CStringU(u"D:\\r\u00E9\\b"));
+        EXPECT_EQ(gMakeRelativePath("C:\\a", "C:\\a\\$VAPP_TEST_NAME"), "$VAPP_TEST_NAME")
+            << "texts are compared as they stand";
+    }
+    vapp_platform::SetWineAnswer(true);
+    const VariableGuard home(u"VAPP_TEST_ROOT", u"/home/me");
+    EXPECT_EQ(gNormalizePath("a\\$VAPP_TEST_ROOT\\b"), "/home/me/b");
+    EXPECT_TRUE(gIsAbsolutePath("a/$VAPP_TEST_ROOT"));
+    vapp_platform::SetWineAnswer(false);
+    EXPECT_FALSE(gIsAbsolutePath("a/$VAPP_TEST_ROOT"));
+}
+
+TEST_F(PathsTest, AVariableThatIsSetToNothingVanishesWhereItCanBe) {
+    const VariableGuard nothing(u"VAPP_TEST_NAME", u"");
+    EXPECT_EQ(gExpandEnvironment("a${VAPP_TEST_NAME}b"),
+              path_test::cnValuesMayBeEmpty ? "ab" : "a${VAPP_TEST_NAME}b");
 }
 
 }  // namespace

@@ -13,6 +13,9 @@ namespace path_test {
 /// Whether the system matches names of variables without regard to case.
 extern const bool cnNamesIgnoreCase;
 
+/// Whether a variable can be set to nothing, or is then removed.
+extern const bool cnValuesMayBeEmpty;
+
 /// Sets a variable, or with nothing removes it.
 void SetVariable(std::u16string_view name, const std::optional<std::u16string>& value);
 

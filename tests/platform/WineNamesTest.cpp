@@ -11,6 +11,7 @@
 #include "platform/PathNormalize.h"
 #include "platform/World.h"
 #include "tests/platform/ToldUnixSide.h"
+#include "tests/text/HostileText.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ std::string RandomPath(std::mt19937& random) {
     return path;
 }
 
-// Both worlds over one told Unix side, and one variable, A, with an absolute path in it.
+// Both worlds over one told Unix side, and two variables: A, an absolute path, and L, a long name.
 class WineNamesTest : public testing::Test {
 protected:
     using TAsked = std::vector<std::string>;
@@ -56,7 +57,8 @@ private:
         return {.rules = world == World::Wine ? m_wine : m_windows, .unixSide = m_side};
     }
     vapp_text::EnvironmentLookup m_environment = [](std::u16string_view name) {
-        return name == u"A" ? std::optional<std::u16string>(u"C:\\root") : std::nullopt;
+        if (name == u"A") return std::optional<std::u16string>(u"C:\\root");
+        return name == u"L" ? std::optional(std::u16string(50'000, u'l')) : std::nullopt;
     };
     PathRules m_wine{.world = World::Wine, .environment = m_environment};
     PathRules m_windows{.world = World::Windows, .environment = m_environment};
@@ -142,6 +144,13 @@ TEST_F(WineNamesTest, TheUnixNameAsATextTakesEitherSeparator) {
     EXPECT_EQ(UnixU("a/b", World::Windows), "a\\b");
 }
 
+TEST_F(WineNamesTest, AnEmptyTranslationIsNoName) {
+    EXPECT_EQ(UnixU("C:/missing", World::Wine), "");
+    EXPECT_EQ(UnixU("", World::Wine), "");
+    EXPECT_EQ(UnixU("", World::Windows), "");
+    EXPECT_EQ(Asked(), (TAsked{"C:\\missing"}));
+}
+
 TEST_F(WineNamesTest, AUnixPathStaysAsItIs) {
     for (const char* path : {"/a/b", "./a\\b", "../a", "\"/a b\"", "'../a'"}) {
         EXPECT_EQ(UnixPathOf(path), path);
@@ -196,9 +205,7 @@ TEST_F(WineNamesTest, RelativePathsAndWindowsTranslateAtOnce) {
 
 // What is not absolute comes back with slashes, and nobody is asked.
 TEST_F(WineNamesTest, ExactlyTheAbsolutePathsAreAskedFor) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     for (int round = 0; round < 3000; ++round) {
         const CStringU path = Utf8(RandomPath(random));
         const CString name = Unix(path, World::Wine);
@@ -206,7 +213,7 @@ TEST_F(WineNamesTest, ExactlyTheAbsolutePathsAreAskedFor) {
     }
 }
 
-// Heads that no system could have a name for are passed over, all but the whole.
+// Heads that Linux could have no name for are passed over, all but the whole.
 TEST_F(WineNamesTest, APathOfVeryManyPartsEnds) {
     const std::string part = "\\" + std::string(99, 'a');
     std::string path = "C:";
@@ -217,15 +224,45 @@ TEST_F(WineNamesTest, APathOfVeryManyPartsEnds) {
     EXPECT_TRUE(answer.starts_with("/c/found/aaa"));
     EXPECT_EQ(answer.size(), path.size() - 2 - part.size() + 8);
     const TAsked asked = Asked();
-    EXPECT_EQ(asked.size(), 1 + 32767 / part.size());
+    EXPECT_EQ(asked.size(), 1 + 4096 / part.size());
     EXPECT_EQ(asked.front().size(), path.size());
-    EXPECT_LE(asked.at(1).size(), 32767u);
+    EXPECT_LE(asked.at(1).size(), 4096u);
+}
+
+TEST_F(WineNamesTest, LengthsOfHeadsAreCharacters) {
+    const std::string sign = "\xE4\xB8\xAD";
+    std::string name;
+    for (int i = 0; i < 4093; ++i)
+        name += sign;
+    m_side.m_unixNames["C:\\" + name] = "/c/found";
+    EXPECT_EQ(UnixPathOf(Utf8("C:\\" + name + "\\new")), "/c/found/new");
+    m_side.m_unixNames.clear();
+    m_side.m_unixNames["C:\\a"] = "/c/a";
+    static_cast<void>(Asked());
+    EXPECT_EQ(UnixPathOf(Utf8("C:\\a\\" + name + "\\new")), Utf8("/c/a/" + name + "/new"));
+    EXPECT_EQ(Asked().size(), 2U) << "the head that ends behind the name is one of 4098 characters";
+}
+
+TEST_F(WineNamesTest, SeparatorsInARowAreNotAllAskedFor) {
+    m_side.m_unixNames["C:\\a"] = "/c/a";
+    EXPECT_EQ(UnixPathOf("C:\\a\\\\\\\\b"), "/c/a////b");
+    EXPECT_EQ(Asked(), (TAsked{"C:\\a\\\\\\\\b", "C:\\a\\\\\\", "C:\\a"}));
+    EXPECT_EQ(UnixPathOf("C:\\a\\\\\\\\"), "/c/a////");
+    m_side.m_unixNames["C:\\a\\"] = "/c/a";
+    EXPECT_EQ(UnixPathOf("C:\\a\\\\b"), "/c/a/b");
+}
+
+// Judging a head makes no more of the values in it than tells whether it is absolute.
+TEST_F(WineNamesTest, AnUnknownPathOfManyLongValuesEnds) {
+    std::string path = "C:";
+    for (int i = 0; i < 1000; ++i)
+        path += "\\$L";
+    EXPECT_EQ(UnixPathOf(path.c_str()).GetByteLength(), static_cast<int>(path.size()));
+    EXPECT_EQ(Asked().size(), 1000U);
 }
 
 TEST_F(WineNamesTest, AnyTextEnds) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     for (int round = 0; round < 3000; ++round) {
         const std::string path = RandomPath(random);
         SCOPED_TRACE(path);

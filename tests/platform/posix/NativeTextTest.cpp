@@ -33,6 +33,7 @@ TEST(NativeText, AnyBytesComeBack) {
         for (std::size_t count = random() % 6; count > 0; --count)
             bytes += pieces[random() % std::size(pieces)];
         ASSERT_EQ(NativeFromWide(WideFromNative(bytes)), bytes);
+        ASSERT_EQ(vapp_platform::NativeText(vapp_platform::TextFromNative(bytes)), bytes);
     }
 }
 

@@ -2,16 +2,17 @@
 
 #include <cstdlib>
 
-#include "platform/posix/NativePath.h"
+#include "platform/posix/NativeText.h"
 
 namespace path_test {
 
 const bool cnNamesIgnoreCase = false;
+const bool cnValuesMayBeEmpty = true;
 
 void SetVariable(std::u16string_view name, const std::optional<std::u16string>& value) {
-    const std::string native = vapp_platform::ToNativePath(CStringU(name));
+    const std::string native = vapp_platform::NativeFromUtf16(name);
     if (value) {
-        setenv(native.c_str(), vapp_platform::ToNativePath(CStringU(std::u16string_view(*value))).c_str(), 1);
+        setenv(native.c_str(), vapp_platform::NativeFromUtf16(*value).c_str(), 1);
     } else {
         unsetenv(native.c_str());
     }

@@ -2,12 +2,16 @@
 #include "platform/UnixSide.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <string>
 
+#include "platform/Folders.h"
 #include "platform/UnixEnvironment.h"
 #include "platform/WineNames.h"
+#include "tests/platform/TemporaryFolder.h"
 #include "text/PlatformText.h"
 
 namespace {
@@ -30,6 +34,35 @@ TEST_F(UnixSideTest, ADosNameIsTheNameItself) {
     EXPECT_EQ(gGetDosName("/var/x"), "/var/x");
     EXPECT_EQ(gGetDosName("a/b"), "a/b");
     EXPECT_EQ(gGetDosName("/\xC3\xA9"), CStringU(u"/\u00E9"));
+}
+
+// The names of a folder are the same in every locale.
+TEST_F(UnixSideTest, NamesAreUtf8WhateverTheCodePage) {
+    const platform_test::TTemporaryFolder folder;
+    for (const char* name : {"\xC3\xA9t\xC3\xA9", "\xF0\x9D\x84\x9E", "lone \xE9", "a\\b"}) {
+        const std::string path = folder.Native().string() + '/' + name;
+        ASSERT_EQ(mkdir(path.c_str(), 0700), 0);
+        for (const unsigned page : {20127U, 1252U, vapp_platform::cnCodePageUtf8}) {
+            SCOPED_TRACE(testing::Message() << name << ' ' << page);
+            vapp_platform::SetActiveCodePage(page);
+            EXPECT_TRUE(gDirectoryExists(gGetDosName(path.c_str())));
+            EXPECT_EQ(gGetUnixName(gGetDosName(path.c_str())), path.c_str());
+            EXPECT_TRUE(gDirectoryExists(gGetUnixNameU(gGetDosName(path.c_str()))));
+            EXPECT_EQ(gGetUnixPathOf(gGetDosName(path.c_str())), gGetDosName(path.c_str()));
+            const CString unixName = gGetUnixName(gGetDosName(path.c_str()));
+            EXPECT_EQ(access(unixName, F_OK), 0) << unixName.GetString();
+        }
+    }
+}
+
+TEST_F(UnixSideTest, ARelativeNameOpensToo) {
+    EXPECT_EQ(gGetUnixName(CStringU(u"a\\\xDCE9\xD834\xDD1E")), "a/\xE9\xF0\x9D\x84\x9E");
+    EXPECT_EQ(gGetUnixNameU(CStringU(u"a\\\xDCE9")), CStringU(u"a/\xDCE9"));
+}
+
+TEST_F(UnixSideTest, ADosPathIsUtf8WhateverTheCodePage) {
+    vapp_platform::SetActiveCodePage(1252);
+    EXPECT_EQ(gGetDosName("C:/\xC3\xA9/\xE9"), CStringU(u"C:\\\u00E9\\\xDCE9"));
 }
 
 TEST_F(UnixSideTest, ADosPathKeepsItsSeparators) {

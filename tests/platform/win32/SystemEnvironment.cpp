@@ -5,6 +5,7 @@
 namespace path_test {
 
 const bool cnNamesIgnoreCase = true;
+const bool cnValuesMayBeEmpty = false;
 
 void SetVariable(std::u16string_view name, const std::optional<std::u16string>& value) {
     // An assignment of nothing removes the variable.
