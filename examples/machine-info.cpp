@@ -1,4 +1,5 @@
 // Prints what the library knows of the machine it runs on, one fact a line, for a support report.
+#include <cinttypes>
 #include <cstdint>
 #include <cstdio>
 
@@ -20,6 +21,7 @@ void PrintNames(const TOsInfo& info) {
     std::printf("version: %u.%u.%u\n", static_cast<unsigned>(version.dwMajorVersion),
                 static_cast<unsigned>(version.dwMinorVersion), static_cast<unsigned>(version.dwBuildNumber));
     std::printf("release: %s\n", version.szCSDVersion);
+    std::printf("platform: %u\n", static_cast<unsigned>(version.dwPlatformId));
     std::printf("display of Wine: %s\n", Word(info.IsWineDisplay()));
     std::printf("administrator: %s\n", Word(info.IsUserAdmin()));
 }
@@ -37,7 +39,21 @@ void PrintProcessor(const TOsInfo& info) {
     std::printf("mmx: %s\n", Word(info.m_hasMmx));
     std::printf("sse2: %s\n", Word(info.m_hasSse2));
     std::printf("time stamps: %.0f MHz\n", info.GetTscFrequency() / 1e6);
-    std::printf("page: %u bytes\n", static_cast<unsigned>(info.m_systemInfo.dwPageSize));
+}
+
+void PrintSystemInfo(const TSystemInfo& system) {
+    std::printf("architecture: %u\n", static_cast<unsigned>(system.wProcessorArchitecture));
+    std::printf("processor type: %u\n", static_cast<unsigned>(system.dwProcessorType));
+    std::printf("processor level: %u\n", static_cast<unsigned>(system.wProcessorLevel));
+    std::printf("processor revision: %04X\n", static_cast<unsigned>(system.wProcessorRevision));
+    std::printf("processors: %u\n", static_cast<unsigned>(system.dwNumberOfProcessors));
+    std::printf("processor mask: %016" PRIX64 "\n", system.dwActiveProcessorMask);
+    std::printf("page: %u bytes\n", static_cast<unsigned>(system.dwPageSize));
+    std::printf("granularity: %u bytes\n", static_cast<unsigned>(system.dwAllocationGranularity));
+    std::printf("lowest address: %" PRIXPTR "\n",
+                reinterpret_cast<std::uintptr_t>(system.lpMinimumApplicationAddress));
+    std::printf("highest address: %" PRIXPTR "\n",
+                reinterpret_cast<std::uintptr_t>(system.lpMaximumApplicationAddress));
 }
 
 }  // namespace
@@ -46,5 +62,6 @@ int main() {
     const TOsInfo info;
     PrintNames(info);
     PrintProcessor(info);
+    PrintSystemInfo(info.m_systemInfo);
     return 0;
 }

@@ -7,6 +7,7 @@
 #include "platform/CpuModelName.h"
 #include "platform/Cpuid.h"
 #include "platform/EditionNames.h"
+#include "platform/OsName.h"
 #include "platform/ProcessorCounts.h"
 #include "platform/ProcessorRecords.h"
 #include "platform/SystemFacts.h"
@@ -32,7 +33,7 @@ TOsInfo::TOsInfo()
       m_hasSse2(HasProcessorFeature(ProcessorFeature::Sse2)) {}
 
 CStringU TOsInfo::GetOsName() const {
-    return IsWineDisplay() ? CStringU("Linux") : GetWindowsName();
+    return OsName(IsWineDisplay(), ReadWindowsFacts());
 }
 
 CStringU TOsInfo::GetWindowsName() const {

@@ -8,7 +8,9 @@
 #include <cstring>
 
 #include "platform/ErrorText.h"
+#include "platform/OsName.h"
 #include "platform/win32/EntryPoint.h"
+#include "platform/win32/WindowsFacts.h"
 
 namespace vapp_platform {
 
@@ -49,11 +51,11 @@ TVersionInfo ReadVersionInfo() noexcept {
     return std::bit_cast<TVersionInfo>(version);
 }
 
-TWindowsFacts ReadWindowsFacts() {
+TWindowsFacts VersionFactsBy(TReadVersion readVersion) {
     OSVERSIONINFOEXA version{};
     version.dwOSVersionInfoSize = sizeof version;
     TWindowsFacts facts;
-    if (GetVersionExA(reinterpret_cast<OSVERSIONINFOA*>(&version)) == 0) {
+    if (readVersion(reinterpret_cast<OSVERSIONINFOA*>(&version)) == 0) {
         facts.known = false;
         facts.errorText = gGetLastErrorText(CStringU());
         return facts;
@@ -66,18 +68,26 @@ TWindowsFacts ReadWindowsFacts() {
     facts.suites = version.wSuiteMask;
     const std::size_t servicePack = strnlen(version.szCSDVersion, sizeof version.szCSDVersion);
     facts.servicePack = {version.szCSDVersion, TextEncoding::AnsiAuto, static_cast<int>(servicePack)};
+    return facts;
+}
+
+TWindowsFacts ReadWindowsFacts() {
+    TWindowsFacts facts = VersionFactsBy(GetVersionExA);
+    if (!facts.known) return facts;
     facts.architecture = MachineArchitecture();
     facts.serverR2 = GetSystemMetrics(cnMetricServerR2);
     facts.productCode = ReadProductCode(facts.major, facts.minor);
     return facts;
 }
 
-std::uint32_t ReadProductCode(std::uint32_t major, std::uint32_t minor) noexcept {
-    using TGetProduct = BOOL(WINAPI*)(DWORD, DWORD, DWORD, DWORD, DWORD*);
-    const auto getProduct = KernelEntryPoint<TGetProduct>("GetProductInfo");
+std::uint32_t ProductCodeBy(TReadProduct readProduct, std::uint32_t major, std::uint32_t minor) noexcept {
     DWORD code = 0;
-    if (getProduct == nullptr || getProduct(major, minor, 0, 0, &code) == 0) return 0;
+    if (readProduct == nullptr || readProduct(major, minor, 0, 0, &code) == 0) return 0;
     return code;
+}
+
+std::uint32_t ReadProductCode(std::uint32_t major, std::uint32_t minor) noexcept {
+    return ProductCodeBy(KernelEntryPoint<TReadProduct>("GetProductInfo"), major, minor);
 }
 
 bool IsUserAdministrator() noexcept {
@@ -97,7 +107,8 @@ bool IsWineDisplaySystem() noexcept {
     DEVMODEA mode{};
     mode.dmSize = sizeof mode;
     EnumDisplaySettingsA(nullptr, ENUM_CURRENT_SETTINGS, &mode);
-    return std::memcmp(mode.dmDeviceName, "Wine", 4) == 0;
+    const auto* const name = reinterpret_cast<const char*>(mode.dmDeviceName);
+    return IsWineDeviceName({name, strnlen(name, sizeof mode.dmDeviceName)});
 }
 
 bool HasProcessorFeature(ProcessorFeature feature) noexcept {

@@ -3,8 +3,11 @@
 #include <stdio.h>
 
 #include <array>
+#include <cstdint>
+#include <iomanip>
 #include <map>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -39,12 +42,40 @@ TOutput RunMachineInfo() {
     return output;
 }
 
+std::string Hexadecimal(std::uint64_t number, int digits) {
+    std::ostringstream text;
+    text << std::uppercase << std::hex << std::setfill('0') << std::setw(digits) << number;
+    return text.str();
+}
+
 TEST(MachineInfoTest, EachFactIsALineAndWhatTheLibrarySays) {
     const TOutput output = RunMachineInfo();
-    EXPECT_EQ(output.names, (std::vector<std::string>{"system", "windows", "edition", "version", "release",
-                                                      "display of Wine", "administrator", "cpu",
-                                                      "logical processors", "cores", "packages",
-                                                      "layout code", "mmx", "sse2", "time stamps", "page"}));
+    EXPECT_EQ(output.names, (std::vector<std::string>{"system",
+                                                      "windows",
+                                                      "edition",
+                                                      "version",
+                                                      "release",
+                                                      "platform",
+                                                      "display of Wine",
+                                                      "administrator",
+                                                      "cpu",
+                                                      "logical processors",
+                                                      "cores",
+                                                      "packages",
+                                                      "layout code",
+                                                      "mmx",
+                                                      "sse2",
+                                                      "time stamps",
+                                                      "architecture",
+                                                      "processor type",
+                                                      "processor level",
+                                                      "processor revision",
+                                                      "processors",
+                                                      "processor mask",
+                                                      "page",
+                                                      "granularity",
+                                                      "lowest address",
+                                                      "highest address"}));
     const TOsInfo info;
     const auto expect = [&output](const char* name, const std::string& value) {
         ASSERT_TRUE(output.values.contains(name)) << name;
@@ -71,7 +102,20 @@ TEST(MachineInfoTest, EachFactIsALineAndWhatTheLibrarySays) {
                           "." + std::to_string(version.dwBuildNumber));
     expect("release", version.szCSDVersion);
     expect("edition", info.GetEditionName(version.dwMajorVersion, version.dwMinorVersion).Payload());
-    expect("page", std::to_string(info.m_systemInfo.dwPageSize) + " bytes");
+    expect("platform", std::to_string(version.dwPlatformId));
+    const TSystemInfo& system = info.m_systemInfo;
+    expect("architecture", std::to_string(system.wProcessorArchitecture));
+    expect("processor type", std::to_string(system.dwProcessorType));
+    expect("processor level", std::to_string(system.wProcessorLevel));
+    expect("processor revision", Hexadecimal(system.wProcessorRevision, 4));
+    expect("processors", std::to_string(system.dwNumberOfProcessors));
+    expect("processor mask", Hexadecimal(system.dwActiveProcessorMask, 16));
+    expect("page", std::to_string(system.dwPageSize) + " bytes");
+    expect("granularity", std::to_string(system.dwAllocationGranularity) + " bytes");
+    expect("lowest address",
+           Hexadecimal(reinterpret_cast<std::uintptr_t>(system.lpMinimumApplicationAddress), 0));
+    expect("highest address",
+           Hexadecimal(reinterpret_cast<std::uintptr_t>(system.lpMaximumApplicationAddress), 0));
     ASSERT_TRUE(output.values.contains("time stamps"));
     EXPECT_GT(std::stod(output.values.at("time stamps")), 10.0);
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/SystemFacts.h"
+#include "tests/text/HostileText.h"
 
 namespace {
 
@@ -84,8 +85,10 @@ TEST(TOsInfoTest, ProcessorCountsFitTheirCode) {
     std::uint32_t cores = 0;
     std::uint32_t packages = 0;
     const int code = TOsInfo().GetProcessorCounts(logical, cores, packages);
+    // A container may hide the processors.
+    const bool isUnknown = code == 8 && logical == 1 && cores == 1 && packages == 1;
     const int expected = cores == 1 ? (logical > 1 ? 1 : 4) : (logical > cores ? 6 : 5);
-    EXPECT_EQ(code, expected);
+    EXPECT_EQ(code, isUnknown ? 8 : expected);
     EXPECT_GE(logical, cores);
     EXPECT_GE(cores, packages);
 }
@@ -97,11 +100,9 @@ TEST(TOsInfoTest, BitsAreCountedOneByOne) {
         EXPECT_EQ(TOsInfo::CountBits(std::uint64_t{1} << bit), 1);
         EXPECT_EQ(TOsInfo::CountBits(~(std::uint64_t{1} << bit)), 63);
     }
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937_64 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     for (int round = 0; round < 1000; ++round) {
-        const std::uint64_t mask = random();
+        const std::uint64_t mask = std::uint64_t{random()} << 32U | random();
         int count = 0;
         for (std::uint64_t left = mask; left != 0; left &= left - 1)
             ++count;

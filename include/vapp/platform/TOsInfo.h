@@ -23,7 +23,8 @@ public:
     /// "Linux" where the display is Wine's and on Linux itself, otherwise GetWindowsName.
     [[nodiscard]] CStringU GetOsName() const;
     /// Name, edition, service pack and build of Windows. "Unknown version of Windows" where it is none, the
-    /// system's error text where it gives no version.
+    /// system's error text where it gives no version. To a program whose manifest doesn't name Windows 8.1 or
+    /// 10, these say that they are version 6.2, "Windows 8"; that manifest is the host's.
     [[nodiscard]] CStringU GetWindowsName() const;
     /// The edition that the system names for a version of Windows; an edition without a text is told by its
     /// code, which is 0 where the system names none.

@@ -8,7 +8,9 @@
 #include <string>
 
 #include "platform/EditionNames.h"
+#include "platform/ErrorText.h"
 #include "platform/World.h"
+#include "platform/win32/WindowsFacts.h"
 #include "vapp/platform/TOsInfo.h"
 
 namespace {
@@ -52,6 +54,58 @@ TEST(SystemFactsTest, TheNameHoldsVersionEditionAndBuild) {
     EXPECT_NE(name.find(edition.Payload()), std::string::npos) << name;
     EXPECT_NE(name.find("(build " + std::to_string(version.dwBuildNumber) + ")"), std::string::npos) << name;
     EXPECT_TRUE(name.ends_with(", 64-bit")) << name;
+}
+
+BOOL WINAPI RefuseVersion(OSVERSIONINFOA* /*version*/) {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return FALSE;
+}
+
+TEST(SystemFactsTest, AVersionThatIsRefusedIsToldByTheErrorsText) {
+    const vapp_platform::TWindowsFacts facts = vapp_platform::VersionFactsBy(RefuseVersion);
+    EXPECT_FALSE(facts.known);
+    EXPECT_FALSE(facts.errorText.IsEmpty());
+    EXPECT_EQ(vapp_platform::WindowsName(facts), gGetErrorText(ERROR_ACCESS_DENIED));
+}
+
+BOOL WINAPI TellVersion(OSVERSIONINFOA* version) {
+    auto* const told = reinterpret_cast<OSVERSIONINFOEXA*>(version);
+    if (told->dwOSVersionInfoSize != sizeof *told) return FALSE;
+    told->dwPlatformId = 2;
+    told->dwMajorVersion = 6;
+    told->dwMinorVersion = 3;
+    told->dwBuildNumber = 9600;
+    told->wProductType = 3;
+    told->wSuiteMask = 0x110;
+    std::memset(told->szCSDVersion, 'x', sizeof told->szCSDVersion);  // and no NUL
+    return TRUE;
+}
+
+TEST(SystemFactsTest, FactsAreThoseOfTheCall) {
+    const vapp_platform::TWindowsFacts facts = vapp_platform::VersionFactsBy(TellVersion);
+    EXPECT_TRUE(facts.known);
+    EXPECT_EQ(facts.platformId, 2U);
+    EXPECT_EQ(facts.major, 6U);
+    EXPECT_EQ(facts.minor, 3U);
+    EXPECT_EQ(facts.build, 9600U);
+    EXPECT_EQ(facts.productType, 3U);
+    EXPECT_EQ(facts.suites, 0x110U);
+    EXPECT_EQ(facts.servicePack, CStringU(std::string(128, 'x').c_str()));
+}
+
+BOOL WINAPI RefuseProduct(DWORD, DWORD, DWORD, DWORD, DWORD* code) {
+    *code = 48;
+    return FALSE;
+}
+BOOL WINAPI TellProduct(DWORD major, DWORD minor, DWORD packMajor, DWORD packMinor, DWORD* code) {
+    *code = major * 1000 + minor * 100 + packMajor * 10 + packMinor;
+    return TRUE;
+}
+
+TEST(SystemFactsTest, AnEditionThatNobodyTellsHasCode0) {
+    EXPECT_EQ(vapp_platform::ProductCodeBy(nullptr, 6, 1), 0U);
+    EXPECT_EQ(vapp_platform::ProductCodeBy(RefuseProduct, 6, 1), 0U);
+    EXPECT_EQ(vapp_platform::ProductCodeBy(TellProduct, 6, 1), 6100U);
 }
 
 TEST(SystemFactsTest, BothDetectionsOfWineAgree) {
