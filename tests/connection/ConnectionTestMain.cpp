@@ -12,6 +12,7 @@ int main(int count, char** arguments) {
     }
     platform_test::PlayChildRole(count, arguments);
     connection_test::LayLoginProgram();
+    platform_test::ShareLibraries();
     testing::InitGoogleTest(&count, arguments);
     return RUN_ALL_TESTS();
 }

@@ -10,6 +10,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/ChildEnvironment.h"
 #include "platform/CommandLine.h"
 #include "tests/platform/SystemHelpers.h"
 
@@ -140,6 +141,15 @@ void PlayChildRole(int count, char** arguments) {
     if (count < 2 || !std::string_view(arguments[1]).starts_with(csSwitch)) return;
     const auto role = Roles().find(std::string_view(arguments[1]).substr(csSwitch.size()));
     std::_Exit(role != Roles().end() ? role->second(Arguments(arguments + 2, arguments + count)) : 99);
+}
+
+// On Linux there is nothing to find: the path of the libraries is written in the program.
+void ShareLibraries() {
+    const std::string folder = std::filesystem::path(OwnProgram()).parent_path().string();
+    const char* const path = std::getenv("PATH");
+    const char* const separator = folder.find('\\') != std::string::npos ? ";" : ":";
+    const std::string all = folder + separator + (path != nullptr ? path : "");
+    vapp_platform::SetEnvironmentValue("PATH", all.c_str());
 }
 
 CStringU RoleCommand(const std::string& role, const std::vector<std::string>& arguments) {

@@ -27,6 +27,10 @@ void PlayChildRole(int count, char** arguments);
 /// The path of this program; known once PlayChildRole was called.
 [[nodiscard]] const std::string& OwnProgram();
 
+/// Lets copies of this program in other folders find the libraries that lie beside this one; for children
+/// started from then on.
+void ShareLibraries();
+
 /// A command line that starts this program in a role.
 [[nodiscard]] CStringU RoleCommand(const std::string& role, const std::vector<std::string>& arguments = {});
 

@@ -11,10 +11,16 @@ vapp_platform::NativeHandle StandardStream(int number) {
     return reinterpret_cast<vapp_platform::NativeHandle>(GetStdHandle(names[number]));
 }
 
+// Wine of this time answers GetProcessHandleCount with 0 for every process, so each handle is tried.
 int CountOpenHandles() {
-    DWORD count = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &count);
-    return static_cast<int>(count);
+    constexpr std::uintptr_t cnStep = 4;
+    constexpr std::uintptr_t cnBehindLast = 0x4000;
+    int count = 0;
+    for (std::uintptr_t value = cnStep; value < cnBehindLast; value += cnStep) {
+        DWORD flags = 0;
+        if (GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) != 0) ++count;
+    }
+    return count;
 }
 
 bool IsRunning(std::uint32_t id) {
