@@ -1,9 +1,8 @@
 /// @file
-/// The path of the login program is written with `\` on every system: it is shown to the user as it always
-/// was, and the start knows what it means.
+/// A worker's start is the one place where a connection speaks to the user by itself.
 #include "connection/StartWorker.h"
 
-#include "platform/KnownFolders.h"
+#include "connection/PuttyProgram.h"
 #include "platform/MessageBox.h"
 #include "vapp/text/Translate.h"
 
@@ -11,8 +10,7 @@ namespace vapp_connection {
 
 CStringU WorkerCommandLine(const ConnectionInfo& info) {
     if (info.runLocally) return info.command;
-    return CStringU("\"") + gGetModuleFolder() + "\\putty\\bin\\plink.exe\" -batch -X -T " + info.sshTarget +
-           " " + info.command;
+    return QuotedPuttyProgram("plink.exe") + " -batch -X -T " + info.sshTarget + " " + info.command;
 }
 
 std::unique_ptr<vapp_platform::ChildProcess> StartWorker(const vapp_platform::ChildStart& start) {
