@@ -375,7 +375,8 @@ TEST_F(NestedPopulationScenarioTest, ShowsNamesOfAnyKindAsTheyAre) {
     m_host.AnswerStart("database cellviewinfo", "0");
     for (int row = 0; row < static_cast<int>(std::size(names)); ++row) {
         const std::string cell = Report().GetCell(row).cell.Payload();
-        EXPECT_EQ(CStringU(Measure(row, "Cell").text), CStringU(cell.c_str(), TextEncoding::Utf8Auto));
+        // The report takes texts in the active code page, which need not have every name.
+        EXPECT_EQ(Measure(row, "Cell").text, CStringU(cell.c_str(), TextEncoding::Utf8Auto).ToAnsi());
     }
     // Each went out as one word: the host's command received every line whole.
     EXPECT_EQ(m_host.LinesStarting("database cellviewinfo cache").size(), std::size(names));

@@ -17,7 +17,7 @@ TEST(Embedding, WindowsOfTheHostAnswerThroughTheLibrary) {
 TEST(Embedding, TextMadeInTheLibraryEndsInTheHost) {
     CStringU name("Z\xC3\xA4hler", TextEncoding::Utf8Auto);
     name += CStringU("!");
-    EXPECT_EQ(name.GetLength(), 7);
+    EXPECT_EQ(name.GetCharCount(), 7);
     EXPECT_EQ(name.CompareNoCase(CStringU("Z\xC3\x84HLER!", TextEncoding::Utf8Auto)), 0);
 }
 

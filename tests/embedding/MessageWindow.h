@@ -19,6 +19,7 @@ protected:
 /// is well.
 inline CString UseSharedNames() {
     MessageWindow window;
+    if (!window.Create(nullptr, 1)) return "not created";
     window.SetWindowText("title");
     CWinAppEx app("embedding");
     app.WriteProfileString("section", "text", "text");
