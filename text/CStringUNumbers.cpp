@@ -32,10 +32,11 @@ std::size_t CharactersOf(std::string_view bytes, std::u16string_view units, unsi
     std::size_t most = units.size();
     while (least < most) {
         const std::size_t middle = least + (most - least) / 2;
-        if (vapp_platform::Utf16ToCodePage(codePage, units.substr(0, middle)).size() < bytes.size())
+        if (vapp_platform::Utf16ToCodePage(codePage, units.substr(0, middle)).size() < bytes.size()) {
             least = middle + 1;
-        else
+        } else {
             most = middle;
+        }
     }
     return least;
 }
