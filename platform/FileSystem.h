@@ -16,7 +16,7 @@
 
 namespace vapp_platform {
 
-/// Attributes that a found entry can have, by their Windows values; no other is told.
+/// Attributes that a found entry is asked for, by their Windows values; Linux tells no others.
 inline constexpr unsigned cnDirectoryAttribute = 0x10;
 /// A device: on Linux also a pipe and a socket, everything that has no content at rest.
 inline constexpr unsigned cnDeviceAttribute = 0x40;

@@ -29,6 +29,9 @@ namespace {
 
 constexpr int cnMostVisits = 100;
 
+// Shortcuts that lead to one another; more must be a circle.
+constexpr int cnMostShortcuts = 40;
+
 // Folder and separator. The separator is that of the folder's own world: a drive or a share keeps `\` under
 // Wine.
 CStringU FolderFront(const CStringU& folder) {
@@ -49,6 +52,16 @@ bool IsShortcut(const CStringU& path) {
 
 bool IsFolder(const TFolderEntry& entry) {
     return (entry.attributes & cnDirectoryAttribute) != 0;
+}
+
+// What a path stands for that may be a shortcut, to another one perhaps; empty where that leads nowhere.
+CStringU EndOfShortcuts(CStringU path) {
+    for (int followed = 0; IsShortcut(path); ++followed) {
+        CStringU target = gResolveShortcut(path);
+        if (target == path || followed == cnMostShortcuts) return {};
+        path = std::move(target);
+    }
+    return path;
 }
 
 class TWalk {
@@ -101,11 +114,7 @@ std::vector<CStringU> TWalk::Run(const CStringU& path) {
 }
 
 void TWalk::Enter(const CStringU& path) {
-    CStringU folder = path;
-    if (IsShortcut(path)) {
-        folder = gResolveShortcut(path);
-        if (folder == path) return;
-    }
+    const CStringU folder = EndOfShortcuts(path);
     if (folder.IsEmpty()) return;
     TLevel level;
     level.front = FolderFront(folder);

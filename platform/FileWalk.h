@@ -5,7 +5,8 @@
 /// natural order of names, and a folder's own entries in that order too. A path is that of the folder, a
 /// separator, and the name as it is on the disk: nothing in a name is expanded.
 ///
-/// A shortcut to a folder is followed as if the folder were there; one to a file adds nothing but itself. A
+/// A shortcut to a folder, or to a shortcut to one, is followed as if the folder were there; one to a file
+/// adds nothing but itself. A folder whose own name ends in ".lnk" is no shortcut and is not entered. A
 /// folder that is reached again from inside itself is not entered again, so that every walk ends. Folders
 /// that can't be read, or vanish meanwhile, have no entries. On Linux a link that leads nowhere is no entry.
 ///

@@ -54,4 +54,9 @@ private:
     std::unique_ptr<TState> m_state;
 };
 
+/// Whether a folder is there that is asked for by its entries, since a root has no name to be looked up by:
+/// `pattern` is as for TFolderReader. On Windows one that may not be listed is not there. On Linux it is, for
+/// its name tells as much as its entries: a `/home` that users may pass through but not read is a usual one.
+[[nodiscard]] bool IsFolderByEntries(const CStringU& pattern);
+
 }  // namespace vapp_platform

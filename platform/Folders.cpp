@@ -92,7 +92,7 @@ TFailure EnsureEachFolder(const CStringU& path) {
 bool gDirectoryExists(const CStringU& path) {
     const bool endsInSeparator = path.LastChar() == u'\\';
     const CStringU folder = endsInSeparator ? path.Left(path.GetByteLength() - 1) : path;
-    if (IsAskedForEntries(folder)) return TFolderReader(gJoinPath(folder, csAllEntries)).IsOpen();
+    if (IsAskedForEntries(folder)) return IsFolderByEntries(gJoinPath(folder, csAllEntries));
     const auto found = FindFile(folder);
     return found && (found->attributes & cnDirectoryAttribute) != 0;
 }

@@ -2,8 +2,9 @@
 /// Questions about folders, and making them. Nothing throws; only gCreateDirectories says why it failed.
 ///
 /// The surprise: a root can't be looked up by name, so roots and what lies right below them (`C:\`, `C:\dir`,
-/// `\\server\share`, under Wine and on Linux `/dir`) are asked for their entries instead. A folder there that
-/// may not be read counts as missing.
+/// `\\server\share`, under Wine and on Linux `/dir`) are asked for their entries instead, by a path that is
+/// joined and so has its references replaced. On Windows a folder there that may not be read counts as
+/// missing.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +16,7 @@
 [[nodiscard]] bool gDirectoryExists(const CStringU& path);
 
 /// The same for a path that starts with "..\", "../" or "./" and is then below `folder`; any other path, one
-/// with
-/// ".\" too, is taken as it is.
+/// with ".\" too, is taken as it is.
 [[nodiscard]] bool gDirectoryExistsIn(const CStringU& path, const CStringU& folder);
 
 /// Whether the folder can be read and has no entries. On Windows the first entry is taken to be ".", which

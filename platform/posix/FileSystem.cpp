@@ -1,8 +1,9 @@
 /// @file
-/// Files by stat, access and mkdir. Links are followed everywhere: an entry is what it leads to, and a link
-/// that leads nowhere is no entry.
+/// Files by stat, faccessat and mkdir. Links are followed everywhere: an entry is what it leads to, and a
+/// link that leads nowhere is no entry.
 #include "platform/FileSystem.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -46,7 +47,8 @@ std::optional<TFileFacts> FindFile(const CStringU& path) {
 }
 
 bool PathExists(const CStringU& path) {
-    return access(ToNativePath(path).c_str(), F_OK) == 0;
+    // By the user whose rights count, as with all other calls here.
+    return faccessat(AT_FDCWD, ToNativePath(path).c_str(), F_OK, AT_EACCESS) == 0;
 }
 
 std::int64_t FileSize(const CStringU& path) {

@@ -91,6 +91,11 @@ bool TFolderReader::Next(TFolderEntry& entry) {
     return true;
 }
 
+bool IsFolderByEntries(const CStringU& pattern) {
+    struct stat found {};
+    return stat(FolderOfPattern(pattern).c_str(), &found) == 0 && S_ISDIR(found.st_mode);
+}
+
 std::optional<TFolderIdentity> TFolderReader::Identity() const {
     struct stat found {};
     if (!IsOpen() || fstat(dirfd(m_state->folder.get()), &found) != 0) return std::nullopt;

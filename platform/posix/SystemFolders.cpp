@@ -12,14 +12,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
 #include "platform/Folders.h"
 #include "platform/posix/EnvironmentLock.h"
+#include "platform/posix/MappedFile.h"
 #include "platform/posix/NativePath.h"
 #include "platform/posix/SmallFile.h"
 #include "platform/posix/UserDirs.h"
@@ -44,15 +45,6 @@ std::string ReadLink(const char* path) {
         }
         target.resize(target.size() * 2);
     }
-}
-
-struct TFree {
-    void operator()(char* text) const noexcept { std::free(text); }
-};
-
-std::string RealPath(const char* path) {
-    const std::unique_ptr<char, TFree> real(realpath(path, nullptr));
-    return real != nullptr ? real.get() : std::string();
 }
 
 std::string HomeOfAccount() {
@@ -83,9 +75,17 @@ std::string BaseFolder(const char* variable, const char* belowHome) {
     return !folder.empty() || home.empty() ? folder : home + belowHome;
 }
 
+// Two slashes at the start would make a share of it; a home folder of "/" leads to them.
+std::string WithOneSlashInFront(std::string path) {
+    const std::size_t name = std::min(path.find_first_not_of('/'), path.size());
+    if (name > 1) path.erase(0, name - 1);
+    return path;
+}
+
 // For this user alone, as the rules want it; folders above as the umask has them. Empty if it can't be made.
-CStringU Made(const std::string& folder) {
-    if (folder.empty()) return {};
+CStringU Made(const std::string& wanted) {
+    if (wanted.empty()) return {};
+    const std::string folder = WithOneSlashInFront(wanted);
     CStringU path = FromNativePath(folder);
     if (gDirectoryExists(path)) return path;
     const std::size_t slash = folder.find_last_of('/');
@@ -107,7 +107,9 @@ CStringU ModulePath() {
         return ProgramPath();
     const char* name = static_cast<const link_map*>(extra)->l_name;
     if (name == nullptr || *name == '\0') return ProgramPath();
-    return FromNativePath(*name == '/' ? std::string(name) : RealPath(name));
+    // A name that the library was loaded by may be relative, to a folder that need not be the current one
+    // still.
+    return FromNativePath(*name == '/' ? std::string(name) : MappedFile(&cnInThisModule));
 }
 
 CStringU DocumentsFolder() {

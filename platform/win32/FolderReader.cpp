@@ -97,6 +97,10 @@ bool TFolderReader::Next(TFolderEntry& entry) {
     return true;
 }
 
+bool IsFolderByEntries(const CStringU& pattern) {
+    return TFolderReader(pattern).IsOpen();
+}
+
 std::optional<TFolderIdentity> TFolderReader::Identity() const {
     const THandle folder(CreateFileW(FolderOfPattern(m_state->pattern).ToStdWstring().c_str(), 0,
                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,

@@ -4,11 +4,14 @@
 
 #include <algorithm>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "platform/ErrorText.h"
 #include "platform/FileWalk.h"
 #include "platform/Files.h"
 #include "platform/World.h"
+#include "tests/platform/SystemEnvironment.h"
 #include "tests/platform/TemporaryFolder.h"
 
 namespace {
@@ -24,6 +27,14 @@ struct FoldersTest : testing::Test {
 // The drive or "/" that the test's folder is on.
 CStringU Root(const TTemporaryFolder& folder) {
     return CStringU(std::u16string_view(folder.Native().root_path().u16string()));
+}
+
+// A drive without a disk; on Linux any, for there a drive is a missing folder.
+CStringU PathOfMissingRoot() {
+    for (const char* root : {"Q:\\", "R:\\", "K:\\"}) {
+        if (!gDirectoryExists(root)) return root;
+    }
+    return {};
 }
 
 TEST_F(FoldersTest, AFolderExistsAndAFileIsNone) {
@@ -46,6 +57,22 @@ TEST_F(FoldersTest, AFolderRightBelowARootIsAskedForItsEntries) {
     const auto top = folder.Native().root_path() / *folder.Native().relative_path().begin();
     EXPECT_TRUE(gDirectoryExists(CStringU(std::u16string_view(top.u16string()))));
     EXPECT_FALSE(gDirectoryExists(Root(folder) + "no-such-folder-there"));
+}
+
+// A path that is asked for its entries is joined, and so has its references replaced; one that is looked up
+// by its name has not.
+TEST_F(FoldersTest, RootsAndWhatLiesBelowThemAreNotLookedUpByTheirNames) {
+    const std::u16string top = folder.Native().relative_path().begin()->u16string();
+    const path_test::VariableGuard guard(u"VAPP_TEST_NAME", top);
+    EXPECT_TRUE(gDirectoryExists(Root(folder) + "$VAPP_TEST_NAME"));
+    const path_test::VariableGuard below(u"VAPP_TEST_NAME", u"lib");
+    folder.MakeFolder("lib");
+    EXPECT_FALSE(gDirectoryExists(folder.Path("$VAPP_TEST_NAME")));
+}
+
+TEST_F(FoldersTest, ASeparatorAloneIsNothing) {
+    EXPECT_FALSE(gDirectoryExists("\\"));
+    EXPECT_FALSE(gIsDirectoryEmpty(folder.Path("missing") + '\\'));
 }
 
 TEST_F(FoldersTest, OnlyPathsThatGoUpOrStartHereAreTakenFromTheFolder) {
@@ -116,6 +143,52 @@ TEST_F(FoldersTest, AFileInTheWayIsToldOnOneLineWithItsCode) {
     EXPECT_FALSE(gCreateDirectories(folder.Path("file/a/b"), &text, &code));
     EXPECT_EQ(code, 183U);
     EXPECT_EQ(text, CStringU(" File with the name \"") + folder.Path("file") + "\" already exists. ");
+}
+
+TEST_F(FoldersTest, AFileInTheWayIsToldByItsNameInAnyScript) {
+    const CStringU name = folder.Path("M\xC3\xBCller \xE5\x9B\x9E");
+    folder.MakeFile("M\xC3\xBCller \xE5\x9B\x9E");
+    CStringU text;
+    EXPECT_FALSE(gCreateDirectories(name + "/a", &text));
+    EXPECT_EQ(text, CStringU(" File with the name \"") + name + "\" already exists. ");
+    EXPECT_TRUE(text.HasNonAscii());
+}
+
+TEST_F(FoldersTest, AMessageOfTheSystemIsOnOneLineToo) {
+    CStringU text;
+    std::uint32_t code = 0;
+    const std::string longer(300, 'n');
+    EXPECT_FALSE(gCreateDirectories(folder.Path("a/" + longer), &text, &code));
+    EXPECT_TRUE(gDirectoryExists(folder.Path("a"))) << "what stands in front of the failure is made";
+    EXPECT_NE(code, 0U);
+    std::string expected(gGetErrorText(code).PayloadView());
+    std::replace(expected.begin(), expected.end(), '\n', ' ');
+    std::replace(expected.begin(), expected.end(), '\r', ' ');
+    EXPECT_EQ(text.PayloadView(), expected);
+    EXPECT_FALSE(text.IsEmpty());
+}
+
+TEST_F(FoldersTest, ARootThatIsNotThereCanNotBeCreated) {
+    if (PathOfMissingRoot().IsEmpty()) GTEST_SKIP() << "every drive has a disk";
+    CStringU text;
+    std::uint32_t code = 0;
+    EXPECT_FALSE(gCreateDirectories(PathOfMissingRoot() + "a", &text, &code));
+    EXPECT_NE(code, 0U);
+    EXPECT_FALSE(text.IsEmpty());
+}
+
+TEST_F(FoldersTest, ThreadsMayMakeFoldersSideBySide) {
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([this, i] {
+            for (int j = 0; j < 20; ++j) {
+                const CStringU path = folder.Path("t" + std::to_string(i) + "/" + std::to_string(j));
+                EXPECT_TRUE(gCreateDirectories(path));
+                EXPECT_TRUE(gIsDirectoryEmpty(path));
+            }
+            EXPECT_EQ(gListFolder(folder.Path("t" + std::to_string(i))).size(), 20U);
+        });
+    }
 }
 
 TEST_F(FoldersTest, TheReasonIsLeftOutWhereNobodyAsksForIt) {

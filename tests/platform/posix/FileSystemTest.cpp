@@ -159,6 +159,61 @@ TEST_F(PosixFileSystemTest, AFolderThatMayNotBeReadHasNoEntries) {
     fs::permissions(folder.Native("locked"), fs::perms::owner_all);
 }
 
+// As with a "/home" that users may pass through and not read.
+TEST_F(PosixFileSystemTest, AFolderBelowTheRootThatMayNotBeReadIsThere) {
+    const fs::path top = "/vapp-test-" + std::to_string(getpid());
+    std::error_code failed;
+    if (!fs::create_directory(top, failed)) GTEST_SKIP() << "the root can't be written";
+    fs::permissions(top, fs::perms(0733));
+    const CStringU path(std::u16string_view(top.u16string()));
+    {
+        const TOrdinaryUser user;
+        EXPECT_TRUE(gDirectoryExists(path));
+        EXPECT_TRUE(gCreateDirectories(path + "/a/b"));
+        EXPECT_TRUE(gDirectoryExists(path + "/a/b"));
+        EXPECT_FALSE(user.IsOne() && !gListFolder(path).empty());
+    }
+    fs::remove_all(top);
+}
+
+TEST_F(PosixFileSystemTest, ExistenceIsJudgedByTheRightsThatCount) {
+    folder.MakeFolder("locked").MakeFile("locked/file");
+    fs::permissions(folder.Native(), fs::perms(0711));
+    fs::permissions(folder.Native("locked"), fs::perms(0));
+    {
+        const TOrdinaryUser user;
+        if (!user.IsOne()) GTEST_SKIP() << "runs with all rights and can't give them up";
+        EXPECT_FALSE(vapp_platform::PathExists(folder.Path("locked/file")));
+        EXPECT_EQ(gGetFileSize(folder.Path("locked/file")), -1);
+        EXPECT_EQ(gGetFileWriteTime(folder.Path("locked/file")), 0U);
+    }
+    fs::permissions(folder.Native("locked"), fs::perms::owner_all);
+    EXPECT_TRUE(vapp_platform::PathExists(folder.Path("locked/file")));
+}
+
+TEST_F(PosixFileSystemTest, TimesAreExactToTheirUnit) {
+    folder.MakeFile("file");
+    const timespec times[2] = {{1000000000, 0}, {1000000000, 123456789}};
+    ASSERT_EQ(utimensat(AT_FDCWD, folder.Native("file").c_str(), times, 0), 0);
+    EXPECT_EQ(gGetFileWriteTime(folder.Path("file")), 126444736001234567U);
+}
+
+TEST_F(PosixFileSystemTest, AFolderOfManyLevelsEndsWhereThePathDoes) {
+    // Made step by step, as no call takes a path that long.
+    const auto old = fs::current_path();
+    fs::current_path(folder.Native());
+    const std::string name(200, 'd');
+    constexpr int cnLevels = 30;
+    for (int i = 0; i < cnLevels; ++i) {
+        ASSERT_EQ(mkdir(name.c_str(), 0700), 0);
+        ASSERT_EQ(chdir(name.c_str()), 0);
+    }
+    fs::current_path(old);
+    const auto found = gCollectFiles(folder.Path(), "", true);
+    EXPECT_GT(found.size(), 15U);
+    EXPECT_LT(found.size(), std::size_t{cnLevels});
+}
+
 TEST_F(PosixFileSystemTest, TimesOutsideTheRangeAreCut) {
     EXPECT_EQ(vapp_platform::FileTimeOf({0, 0}), 116444736000000000U);
     EXPECT_EQ(vapp_platform::FileTimeOf({0, 199}), 116444736000000001U);

@@ -95,6 +95,24 @@ TEST_F(ShortcutTest, WalksFollowShortcutsToFolders) {
                 ElementsAre(folder.Path("top/file.lnk"), folder.Path("top/lib.lnk")));
 }
 
+TEST_F(ShortcutTest, WalksFollowShortcutsToShortcuts) {
+    folder.MakeFolder("lib").MakeFile("lib/inv.sch").MakeFolder("top");
+    MakeShortcut("one.lnk", {.relativePath = u".\\two.lnk"});
+    MakeShortcut("two.lnk", {.relativePath = u".\\lib"});
+    MakeShortcut("top/one.lnk", {.relativePath = u"..\\one.lnk"});
+    EXPECT_THAT(gCollectFiles(folder.Path("one.lnk"), "", false), ElementsAre(folder.Path("lib/inv.sch")));
+    EXPECT_THAT(gCollectFiles(folder.Path("top"), "sch", false), ElementsAre(folder.Path("lib/inv.sch")));
+    MakeShortcut("a.lnk", {.relativePath = u".\\b.lnk"});
+    MakeShortcut("b.lnk", {.relativePath = u".\\a.lnk"});
+    EXPECT_TRUE(gCollectFiles(folder.Path("a.lnk"), "", true).empty()) << "and none in a circle";
+}
+
+TEST_F(ShortcutTest, AFolderOfThatNameIsNoShortcutAndNotEntered) {
+    folder.MakeFolder("lib.lnk").MakeFile("lib.lnk/inv.sch");
+    EXPECT_TRUE(gCollectFiles(folder.Path("lib.lnk"), "", true).empty());
+    EXPECT_THAT(gCollectFiles(folder.Path(), "", true), ElementsAre(folder.Path("lib.lnk")));
+}
+
 TEST_F(ShortcutTest, WalksEndOnShortcutsInACircle) {
     folder.MakeFolder("a").MakeFolder("b").MakeFile("a/f").MakeFile("b/g");
     MakeShortcut("a/b.lnk", {.relativePath = u"..\\b"});

@@ -8,6 +8,7 @@
 
 #include "platform/Folders.h"
 #include "platform/KnownFolders.h"
+#include "platform/Paths.h"
 #include "platform/World.h"
 #include "tests/platform/TemporaryFolder.h"
 
@@ -74,6 +75,33 @@ TEST_F(SystemFoldersTest, DataLiesBelowTheDataFolderForThisUserAlone) {
     EXPECT_EQ(fs::status(folder.Native(".local/share")).permissions(), fs::perms::owner_all);
     const TVariable elsewhere("XDG_DATA_HOME", folder.Native("data").string());
     EXPECT_EQ(gGetUserDataFolder(), folder.Path("data/Vornex_EDA"));
+}
+
+TEST_F(SystemFoldersTest, ADataFolderThatCanNotBeMadeIsNone) {
+    folder.MakeFile("file");
+    const TVariable elsewhere("XDG_DATA_HOME", folder.Native("file/data").string());
+    EXPECT_EQ(gGetUserDataFolder(), CStringU());
+}
+
+// As they come of a home folder of "/": they would make a share of the path.
+TEST_F(SystemFoldersTest, SeveralSlashesInFrontAreOne) {
+    const TVariable elsewhere("XDG_DATA_HOME", "//" + folder.Native("data").string());
+    EXPECT_EQ(gGetUserDataFolder(), folder.Path("data/Vornex_EDA"));
+    folder.MakeFolder(".config");
+    folder.MakeFile(".config/user-dirs.dirs",
+                    "XDG_DOCUMENTS_DIR=\"//" + folder.Native("docs").string() + "\"\n");
+    EXPECT_EQ(gGetDocumentsFolder(), folder.Path("docs"));
+    const TVariable root("HOME", "///");
+    const TVariable none("XDG_CONFIG_HOME", folder.Native("none").string());
+    EXPECT_EQ(gGetDocumentsFolder(), "/");
+}
+
+TEST_F(SystemFoldersTest, HomeFoldersOfAnyBytesAreFound) {
+    const TVariable odd("HOME", folder.Native().string() + "/h\xE9\xC3\xA9");
+    EXPECT_TRUE(gDirectoryExists(gGetDocumentsFolder())) << "it is made";
+    EXPECT_TRUE(fs::is_directory(folder.Native().string() + "/h\xE9\xC3\xA9"));
+    EXPECT_TRUE(gDirectoryExists(gGetDirectory(gGetUserDataFolder())));
+    EXPECT_TRUE(fs::is_directory(folder.Native().string() + "/h\xE9\xC3\xA9/.local/share"));
 }
 
 TEST_F(SystemFoldersTest, TheSuitesFolderHasABlankWhereThereIsNoUnixSide) {

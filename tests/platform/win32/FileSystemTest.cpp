@@ -38,6 +38,9 @@ TEST_F(Win32FileSystemTest, RootsAndWhatLiesBelowAreAskedForTheirEntries) {
     EXPECT_FALSE(gDirectoryExists("C:\\no-such-folder"));
     EXPECT_FALSE(gDirectoryExists("Q:\\"));
     EXPECT_FALSE(gDirectoryExists("\\\\no-such-server\\share"));
+    // By its name this would be a hit.
+    EXPECT_FALSE(gDirectoryExists("C:\\window?"));
+    EXPECT_TRUE(gDirectoryExists("C:\\windows\\system3?"));
 }
 
 TEST_F(Win32FileSystemTest, AFolderNamedWithASlashAtItsEndIsNotFound) {

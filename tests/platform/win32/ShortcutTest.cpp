@@ -79,6 +79,15 @@ TEST_F(ShortcutTest, WalksFollowShortcutsAndEndOnCircles) {
     EXPECT_EQ(found[3], folder.Path("a/f"));
 }
 
+TEST_F(ShortcutTest, WalksFollowShortcutsToShortcuts) {
+    folder.MakeFolder("lib").MakeFile("lib/inv.sch");
+    MakeShortcut("two.lnk", folder.Path("lib"));
+    MakeShortcut("one.lnk", folder.Path("two.lnk"));
+    const auto found = gCollectFiles(folder.Path("one.lnk"), "", false);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_TRUE(found[0].EqualsNoCase(folder.Path("lib/inv.sch"))) << found[0].Payload();
+}
+
 TEST(ShortcutWithoutComTest, IsItself) {
     EXPECT_EQ(gResolveShortcut("C:\\any.lnk"), "C:\\any.lnk");
 }
