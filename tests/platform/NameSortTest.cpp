@@ -6,6 +6,7 @@
 #include <random>
 #include <string>
 
+#include "tests/text/HostileText.h"
 #include "text/NaturalOrder.h"
 
 namespace {
@@ -32,9 +33,7 @@ TEST(NameSortTest, NothingAndOneNameAreSorted) {
 }
 
 TEST(NameSortTest, AnyBytesComeBackWholeInTheSameOrderEachTime) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE(seed);
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     std::vector<CStringU> names;
     for (int i = 0; i < 500; ++i) {
         std::string bytes(random() % 6, '\0');
@@ -53,7 +52,7 @@ TEST(NameSortTest, AnyBytesComeBackWholeInTheSameOrderEachTime) {
 }
 
 TEST(NameSortTest, ForPlainNamesItIsTheNaturalOrder) {
-    std::mt19937 random(1);
+    std::mt19937 random = text_test::SeededRandom();
     std::vector<CStringU> names;
     for (int i = 0; i < 500; ++i)
         names.push_back(("Cell" + std::to_string(random() % 300) + "ab"[random() % 2]).c_str());

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/platform/ShellLinkBytes.h"
+#include "tests/text/HostileText.h"
 #include "text/PlatformText.h"
 
 namespace {
@@ -121,9 +122,7 @@ TEST_F(ShellLinkFileTest, SizesAndOffsetsThatLieGiveEmptyTexts) {
 }
 
 TEST_F(ShellLinkFileTest, RandomDamageNeverReadsOutside) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE(seed);
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     const std::string whole = ShellLinkBytes({.ids = "id",
                                               .localBase = "C:\\",
                                               .localBaseWide = u"C:\\",

@@ -4,6 +4,8 @@
 
 #include <random>
 
+#include "tests/text/HostileText.h"
+
 namespace {
 
 using vapp_platform::NativeFromWide;
@@ -25,7 +27,7 @@ TEST(NativeText, WhatIsNoCharacterBecomesTheReplacement) {
 }
 
 TEST(NativeText, AnyBytesComeBack) {
-    std::mt19937 random(11);
+    std::mt19937 random = text_test::SeededRandom();
     for (int round = 0; round < 20000; ++round) {
         std::string bytes;
         const char* const pieces[] = {"a",        "\xc3",         "\xa9", "\xe4\xb8\xad", "\xf0\x9f\x98\x80",
