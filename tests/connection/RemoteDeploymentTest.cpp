@@ -363,6 +363,9 @@ constexpr ListingRow cnListings[] = {
     {"-rw 1 evi_worker -> there\r\n", "evi_worker", false},
     {"-rw 1 evi_worker", "evi_worker", false},
     {"evi_worker\r\n", "evi_worker", false},
+    // A name may have blanks; what stands behind one looks like a whole name.
+    {"-rw 1 my evi_worker\r\n", "my evi_worker", true},
+    {"-rw 1 my evi_worker\r\n", "evi_worker", true},
     // By bytes.
     {"-rw 1 EVI_WORKER\r\n", "evi_worker", false},
     // No entry at all.

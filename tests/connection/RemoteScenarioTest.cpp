@@ -138,6 +138,16 @@ TEST_F(RemoteScenarioTest, AFileIsThereUnderItsWholeNameOnly) {
     EXPECT_FALSE(IsThere("nowhere/evi_worker"));
 }
 
+TEST_F(RemoteScenarioTest, BlanksInNamesAreNoHindranceAndInFoldersTheyAre) {
+    fs::create_directories(m_server.Home() / "a folder");
+    std::ofstream(m_server.Home() / "my evi_worker") << "";
+    std::ofstream(m_server.Home() / "a folder" / "inside") << "";
+    EXPECT_TRUE(IsThere("my evi_worker"));
+    // What stands behind a blank looks like a whole name.
+    EXPECT_TRUE(IsThere("evi_worker"));
+    EXPECT_FALSE(IsThere("a folder/inside"));
+}
+
 TEST_F(RemoteScenarioTest, AnUploadIsFoundAfterwards) {
     EXPECT_FALSE(IsThere(std::string(csFolder) + "/evi_worker"));
     Upload(m_server.Target());

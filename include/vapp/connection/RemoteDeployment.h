@@ -38,7 +38,7 @@ VAPP_EXPORT bool uploadWorkerScripts(const CStringU& target, std::function<void(
                                      bool verbose);
 
 /// Whether the client's listing of the path's folder holds the path's name: a blank, the name, the end of a
-/// line; by bytes, so that case counts. No pattern and no quoting: a path with a blank in it is not found,
-/// and a complaint of the client that ends in a blank and the name is taken for it. False also where nobody
-/// could be asked. Failures to start the client as with runFtp.
+/// line; by bytes, so that case counts. So a name is also found at the end of a longer one that has a blank
+/// there, and of a complaint. The folder is not quoted: one with a blank in its path is not listed. False
+/// also where nobody could be asked. Failures to start the client as with runFtp.
 VAPP_EXPORT bool gRemoteFileExists(const CStringU& target, const CStringU& remotePath);
