@@ -47,7 +47,8 @@ LIBRARIES = [
     ("the operating system",
      r"(windows|win\w+|ws2\w+|shl\w+|unistd|dlfcn|fcntl|poll|spawn|pthread|signal|dirent|pwd|termios|langinfo)\.h$"
      r"|sys/|linux/|netinet/|arpa/",
-     {"platform/posix", "platform/win32", "tests", "bench", "fuzz"}),
+     {"platform/posix", "platform/win32", "examples/connect/posix", "examples/connect/win32", "examples/worker/posix",
+      "examples/worker/win32", "tests", "bench", "fuzz"}),
 ]
 # The basic types are the real ones of the system's own header where there is one.
 KNOWS_THE_SYSTEM = "include/vapp/toolkit/BasicTypes.h"
