@@ -6,6 +6,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "text/Tokenizer.h"
 #include "vapp/toolkit/CWinAppEx.h"
 
 namespace vapp_library_browser {
@@ -83,11 +84,8 @@ void TProfileSection::ExchangeSet(const char* key, std::set<CStringIU>& value) c
         return;
     }
     value.clear();
-    const CString joined = ReadTextSetting(section, key, CStringU()).StripMarker();
-    int next = 0;
-    for (CString name = joined.Tokenize(",", next); next != -1; name = joined.Tokenize(",", next)) {
-        value.insert(CStringIU(CStringU(name, TextEncoding::Utf8Auto)));
-    }
+    const vapp_text::TTokenizer names(ReadTextSetting(section, key, CStringU()), ",");
+    names.ForEachToken([&value](const CStringU& name) { value.insert(CStringIU(name)); });
 }
 
 }  // namespace vapp_library_browser

@@ -8,12 +8,14 @@
 #include <climits>
 #include <cstring>
 
+#include "text/AsciiBytes.h"
 #include "text/Codec.h"
 #include "text/PlatformText.h"
 #include "text/WideUnits.h"
 
 namespace {
 
+using vapp_text::AllAscii;
 using vapp_text::EncodeChar;
 using vapp_text::EncodedSize;
 using vapp_text::IsAsciiByte;
@@ -22,10 +24,6 @@ using vapp_text::IsAsciiByte;
 std::string_view Bytes(const char* text, int length) {
     if (text == nullptr) return {};
     return {text, length < 0 ? std::strlen(text) : strnlen(text, static_cast<std::size_t>(length))};
-}
-
-bool AllAscii(std::string_view bytes) {
-    return std::all_of(bytes.begin(), bytes.end(), IsAsciiByte);
 }
 
 char16_t SwapUnitBytes(char16_t unit) {

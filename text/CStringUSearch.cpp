@@ -1,6 +1,8 @@
 /// @file
 /// The compares and searches that are members of CStringU: those that give positions, and those that take the
 /// payloads of whole texts. The work on payloads stands in Compare.h and Search.h.
+#include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "text/Codec.h"
@@ -114,4 +116,17 @@ bool CStringU::EndsWith(const char* narrow) const {
 
 bool CStringU::EndsWithNoCase(const CStringU& suffix) const {
     return EndsWithPayload<true>(PayloadView(), suffix.PayloadView());
+}
+
+bool CStringU::ToBool(bool defaultValue) const {
+    static constexpr std::array csFalse{"0", "no", "False", "nil", "f", "n"};
+    static constexpr std::array csTrue{"yes", "True", "t"};
+    const auto isThis = [this](const char* word) { return EqualsNoCase(word); };
+    if (m_stored.IsEmpty()) return false;
+    if (std::any_of(csFalse.begin(), csFalse.end(), isThis)) return false;
+    return std::any_of(csTrue.begin(), csTrue.end(), isThis) || defaultValue;
+}
+
+CStringUPos CStringU::FindExtensionDot() const {
+    return FindCharBack(u'.', true, --End());
 }

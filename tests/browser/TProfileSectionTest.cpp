@@ -110,6 +110,15 @@ TEST_F(TProfileSectionTest, ReadingASetMakesNoNameOfEmptyPieces) {
     EXPECT_TRUE(names.empty());
 }
 
+TEST_F(TProfileSectionTest, NamesOfASetKeepCharactersOutsideOfAscii) {
+    std::set<CStringIU> names = {CStringIU(CStringU(u"\u4e2d")), CStringIU(CStringU(u"a\u00e9")),
+                                 CStringIU("b")};
+    TProfileSection(true).ExchangeSet("Set", names);
+    TProfileSection(false).ExchangeSet("Set", names);
+    EXPECT_EQ(names, (std::set<CStringIU>{CStringIU(CStringU(u"a\u00e9")), CStringIU(" b"),
+                                          CStringIU(CStringU(u" \u4e2d"))}));
+}
+
 TEST(TProfileSectionWithoutApplication, ReadsDefaultsAndWritesNothing) {
     ASSERT_EQ(CWinAppEx::GetApp(), nullptr);
     bool flag = true;

@@ -197,4 +197,51 @@ TEST(CStringUSearch, MalformedBytesAreSearchedWithoutLeavingThem) {
     }
 }
 
+TEST(CStringUSearch, WordsOfFalseAndTrueAreReadInAnyCase) {
+    for (const char* word : {"0", "no", "NO", "False", "false", "FALSE", "nil", "Nil", "f", "F", "n", "N"}) {
+        EXPECT_FALSE(CStringU(word).ToBool(true)) << word;
+    }
+    for (const char* word : {"yes", "YES", "True", "TRUE", "true", "t", "T"}) {
+        EXPECT_TRUE(CStringU(word).ToBool(false)) << word;
+    }
+}
+
+TEST(CStringUSearch, OtherWordsAreTheDefault) {
+    for (const char* word : {"1", "y", "Y", "on", "off", "null", " true", "true ", "00", "nope"}) {
+        EXPECT_TRUE(CStringU(word).ToBool(true)) << word;
+        EXPECT_FALSE(CStringU(word).ToBool(false)) << word;
+    }
+    EXPECT_TRUE(CStringU(u"tru\u00e9").ToBool(true));
+}
+
+TEST(CStringUSearch, EmptyTextIsFalseWhateverTheDefault) {
+    EXPECT_FALSE(CStringU().ToBool(true));
+    EXPECT_TRUE(Raw("\x80").ToBool(true)) << "a marker alone is no word, but it is stored";
+}
+
+TEST(CStringUSearch, MarkersDoNotHideWords) {
+    EXPECT_TRUE(Raw("\x80true").ToBool(false));
+    EXPECT_FALSE(Raw("\x80no").ToBool(true));
+}
+
+TEST(CStringUSearch, TheExtensionDotIsTheLastOne) {
+    EXPECT_EQ(CStringU("a.b.txt").FindExtensionDot().offset, 3);
+    EXPECT_EQ(CStringU(".x").FindExtensionDot().offset, 0);
+    EXPECT_EQ(CStringU("a.").FindExtensionDot().offset, 1);
+    EXPECT_EQ(CStringU(u"\u4e2d.\u00e9\u00e9").FindExtensionDot().offset, 3);
+    EXPECT_EQ(CStringU(u"a\u4e2d.b").FindExtensionDot().offset, 4) << "the marker does not count";
+}
+
+TEST(CStringUSearch, PathSeparatorsDoNotEndTheSearchForTheDot) {
+    EXPECT_EQ(CStringU("dir.d/file").FindExtensionDot().offset, 3);
+    EXPECT_EQ(CStringU("dir.d\\file").FindExtensionDot().offset, 3);
+}
+
+TEST(CStringUSearch, WithoutADotTheExtensionIsTheEnd) {
+    const CStringU text(u"a\u00e9");
+    EXPECT_EQ(text.FindExtensionDot(), text.End());
+    EXPECT_EQ(CStringU().FindExtensionDot().offset, 0);
+    EXPECT_EQ(Raw("\x80").FindExtensionDot().offset, 0);
+}
+
 }  // namespace

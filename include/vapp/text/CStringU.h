@@ -201,6 +201,63 @@ public:
     /// Removes what stands between two positions, in either order.
     int Erase(const CStringUPos& pos1, const CStringUPos& pos2);
 
+    // --- Trimming: in place, and as a new text. A set counts its characters, case-sensitively -----------
+
+    /// Removes blank characters (IsBlankCharU) from one end or both; a text of blanks alone becomes empty.
+    CStringU& TrimLeft();
+    CStringU& TrimRight();
+    CStringU& Trim();
+    [[nodiscard]] CStringU TrimmedLeft() const;
+    [[nodiscard]] CStringU TrimmedRight() const;
+    [[nodiscard]] CStringU Trimmed() const;
+    /// Removes the characters of a set from one end.
+    CStringU& TrimLeft(const CStringU& set);
+    CStringU& TrimRight(const CStringU& set);
+    [[nodiscard]] CStringU TrimmedLeft(const CStringU& set) const;
+    [[nodiscard]] CStringU TrimmedRight(const CStringU& set) const;
+    /// True for empty text and for text of blanks alone. What counts as blank differs: in pure ASCII only the
+    /// space and the tab, so that a line feed is text there; otherwise every blank character.
+    [[nodiscard]] bool IsBlank() const noexcept;
+    /// The head of the text up to the first character that is in the set, or that is not.
+    [[nodiscard]] CStringU SpanExcluding(const CStringU& set) const;
+    [[nodiscard]] CStringU SpanIncluding(const CStringU& set) const;
+
+    // --- Quotes: any two of five quote characters, matching or not (see CStringUQuotes.cpp) --------------
+
+    /// Removes a quote character from both ends, where both have one and they are two characters.
+    CStringU& RemoveQuotes();
+    [[nodiscard]] CStringU WithoutQuotes() const;
+    /// Puts a plain quote at each end, unless the text has quote characters there; empty text becomes two
+    /// quotes.
+    CStringU& AddQuotes();
+    [[nodiscard]] CStringU WithQuotes() const;
+
+    // --- Replacing: each gives the number of replacements ------------------------------------------------
+
+    /// Replaces every such character; a 0 on either side replaces nothing.
+    int Replace(char16_t oldUnit, char16_t newUnit);
+    /// The same without regard to case. Text outside of ASCII knows three forms of a character: as given, its
+    /// lower-case and its upper-case form, replaced one after the other.
+    int ReplaceNoCase(char16_t oldUnit, char16_t newUnit);
+    /// Replaces every such text from left to right. An empty `oldText` replaces nothing.
+    int Replace(const CStringU& oldText, const CStringU& newText);
+    /// The same without regard to case, for a `newText` as long as the old one: hits are places in the
+    /// unedited text and are applied to the edited one, so that with another length later hits drift. An
+    /// `oldText` outside of ASCII is only found if it stands at the text's very end (see Search.h).
+    int ReplaceNoCase(const CStringU& oldText, const CStringU& newText);
+
+    // --- Case, words, places -----------------------------------------------------------------------------
+
+    /// The text in lower or in upper case, character by character, in no locale. Shares the text where
+    /// nothing changes.
+    [[nodiscard]] CStringU ToLower() const;
+    [[nodiscard]] CStringU ToUpper() const;
+    /// Reads a word: "0", "no", "False", "nil", "f", "n" and empty text are false, "yes", "True" and "t" are
+    /// true, in any case; all else, "1" and "y" among it, is the default.
+    [[nodiscard]] bool ToBool(bool defaultValue) const;
+    /// The last "." of the text, whether or not a path separator follows it; the end position for none.
+    [[nodiscard]] CStringUPos FindExtensionDot() const;
+
     // --- Formatting ------------------------------------------------------------------------------------
 
     /// A printf result, with the payload of `format` as the format, classified by TextEncoding::Utf8Auto.
@@ -279,6 +336,8 @@ private:
     [[nodiscard]] static CStringU FormattedRaw(const char* format, ...);
     [[nodiscard]] bool EqualsNarrow(const char* text) const;
     [[nodiscard]] CStringU Piece(std::int64_t first, std::int64_t behind) const;
+    CStringU& Keep(std::int64_t first, std::int64_t behind);
+    int ReplaceAsciiNoCase(char lower, char newByte);
     [[nodiscard]] std::int64_t ClampOffset(std::int64_t offset) const noexcept;
     void AppendBytes(std::string_view bytes, bool bringsNonAscii);
 

@@ -1,0 +1,297 @@
+// The four replacements: single cases with their oddities, then random texts beside plain models.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/text/HostileText.h"
+#include "tests/text/LocaleTables.h"
+#include "text/Fold.h"
+#include "text/Upper.h"
+#include "vapp/text/CStringU.h"
+
+namespace {
+
+using namespace text_test;
+using vapp_text::FoldChar;
+
+struct TReplaced {
+    int count;
+    std::u16string text;
+    friend bool operator==(const TReplaced&, const TReplaced&) = default;
+    friend void PrintTo(const TReplaced& result, std::ostream* out) {
+        *out << result.count << ' ' << Shown(Bytes(result.text));
+    }
+};
+
+TReplaced Replaced(const std::u16string& text, const std::u16string& oldText, const std::u16string& newText) {
+    CStringU edited(text.c_str());
+    const int count = edited.Replace(CStringU(oldText.c_str()), CStringU(newText.c_str()));
+    EXPECT_TRUE(HoldsMarkerInvariant(edited)) << Shown(Stored(edited));
+    return {count, edited.ToWide()};
+}
+
+TReplaced ReplacedNoCase(const std::u16string& text, const std::u16string& oldText,
+                         const std::u16string& newText) {
+    CStringU edited(text.c_str());
+    const int count = edited.ReplaceNoCase(CStringU(oldText.c_str()), CStringU(newText.c_str()));
+    EXPECT_TRUE(HoldsMarkerInvariant(edited)) << Shown(Stored(edited));
+    return {count, edited.ToWide()};
+}
+
+TReplaced Replaced(const std::u16string& text, char16_t oldUnit, char16_t newUnit) {
+    CStringU edited(text.c_str());
+    const int count = edited.Replace(oldUnit, newUnit);
+    EXPECT_TRUE(HoldsMarkerInvariant(edited)) << Shown(Stored(edited));
+    return {count, edited.ToWide()};
+}
+
+TReplaced ReplacedNoCase(const std::u16string& text, char16_t oldUnit, char16_t newUnit) {
+    CStringU edited(text.c_str());
+    const int count = edited.ReplaceNoCase(oldUnit, newUnit);
+    EXPECT_TRUE(HoldsMarkerInvariant(edited)) << Shown(Stored(edited));
+    return {count, edited.ToWide()};
+}
+
+// --- Characters ----------------------------------------------------------------------------------------
+
+TEST(CStringUReplace, CharactersInEveryMixOfAsciiAndNot) {
+    EXPECT_EQ(Replaced(u"a.b.c", u'.', u'/'), (TReplaced{2, u"a/b/c"}));
+    EXPECT_EQ(Replaced(u"a.b.c", u'.', u'\u00e9'), (TReplaced{2, u"a\u00e9b\u00e9c"}));
+    EXPECT_EQ(Replaced(u"a.b.c", u'\u00e9', u'x'), (TReplaced{0, u"a.b.c"}));
+    EXPECT_EQ(Replaced(u"a\u00e9b", u'\u00e9', u'x'), (TReplaced{1, u"axb"})) << "the marker goes";
+    EXPECT_EQ(Replaced(u"\u00e9a\u00e9", u'\u00e9', u'\u4e2d'), (TReplaced{2, u"\u4e2da\u4e2d"}));
+    EXPECT_EQ(Replaced(u"\u00e9a", u'\u00e9', u'x'), (TReplaced{1, u"xa"}));
+    EXPECT_EQ(Replaced(u"\u00e9a", u'q', u'x'), (TReplaced{0, u"\u00e9a"}));
+    EXPECT_EQ(Replaced(u"", u'q', u'x'), (TReplaced{0, u""}));
+}
+
+TEST(CStringUReplace, CharacterZeroReplacesNothing) {
+    EXPECT_EQ(Replaced(u"abc", u'\0', u'x'), (TReplaced{0, u"abc"}));
+    EXPECT_EQ(Replaced(u"abc", u'a', u'\0'), (TReplaced{0, u"abc"}));
+    EXPECT_EQ(ReplacedNoCase(u"abc", u'\0', u'x'), (TReplaced{0, u"abc"}));
+    EXPECT_EQ(ReplacedNoCase(u"abc", u'a', u'\0'), (TReplaced{0, u"abc"}));
+}
+
+TEST(CStringUReplace, AsciiWithoutCaseIsOnePass) {
+    EXPECT_EQ(ReplacedNoCase(u"aAbB", u'A', u'b'), (TReplaced{2, u"bbbB"}));
+    EXPECT_EQ(ReplacedNoCase(u"aAbB", u'a', u'A'), (TReplaced{2, u"AAbB"}));
+    EXPECT_EQ(ReplacedNoCase(u"a-b", u'-', u'+'), (TReplaced{1, u"a+b"}));
+    EXPECT_EQ(ReplacedNoCase(u"abc", u'q', u'x'), (TReplaced{0, u"abc"}));
+}
+
+TEST(CStringUReplace, OtherCharactersAreReplacedFormByForm) {
+    EXPECT_EQ(ReplacedNoCase(u"\u00e9\u00c9a", u'\u00c9', u'x'), (TReplaced{2, u"xxa"}));
+    EXPECT_EQ(ReplacedNoCase(u"\u00e9\u00c9a", u'\u00e9', u'x'), (TReplaced{2, u"xxa"}));
+    EXPECT_EQ(ReplacedNoCase(u"aA\u00e9", u'a', u'x'), (TReplaced{2, u"xx\u00e9"}));
+    EXPECT_EQ(ReplacedNoCase(u"abA", u'a', u'\u00e9'), (TReplaced{2, u"\u00e9b\u00e9"}));
+    // The small form, put in by the first pass, is hit again by the second.
+    EXPECT_EQ(ReplacedNoCase(u"\u00c9", u'\u00c9', u'\u00e9'), (TReplaced{2, u"\u00e9"}));
+}
+
+TEST(CStringUReplace, ACharacterWithoutOtherFormsIsReplacedAlone) {
+    // The Kelvin sign looks like the small letter's capital, but is nobody's form.
+    EXPECT_EQ(ReplacedNoCase(u"kK\u212a", u'\u212a', u'x'), (TReplaced{1, u"kKx"}));
+    EXPECT_EQ(ReplacedNoCase(u"kK\u212a", u'k', u'x'), (TReplaced{2, u"xx\u212a"}));
+    EXPECT_EQ(ReplacedNoCase(u"kK", u'\u212a', u'x'), (TReplaced{0, u"kK"}));
+}
+
+// --- Texts ---------------------------------------------------------------------------------------------
+
+TEST(CStringUReplace, TextsInEveryMixOfAsciiAndNot) {
+    EXPECT_EQ(Replaced(u"a, b, c", u", ", u","), (TReplaced{2, u"a,b,c"}));
+    EXPECT_EQ(Replaced(u"aaa", u"aa", u"b"), (TReplaced{1, u"ba"}));
+    EXPECT_EQ(Replaced(u"abc", u"\u00e9", u"b"), (TReplaced{0, u"abc"}));
+    EXPECT_EQ(Replaced(u"abc", u"b", u"\u00e9"), (TReplaced{1, u"a\u00e9c"}));
+    EXPECT_EQ(Replaced(u"a\u00e9c\u00e9", u"\u00e9", u"e'"), (TReplaced{2, u"ae'ce'"}));
+    EXPECT_EQ(Replaced(u"xa\u00e9", u"a\u00e9", u""), (TReplaced{1, u"x"})) << "a marked old text is found";
+    EXPECT_EQ(Replaced(u"a\u00e9", u"q", u"b"), (TReplaced{0, u"a\u00e9"}));
+    EXPECT_EQ(Replaced(u"Aa", u"a", u"b"), (TReplaced{1, u"Ab"})) << "with case";
+}
+
+TEST(CStringUReplace, AnEmptyOldTextReplacesNothing) {
+    EXPECT_EQ(Replaced(u"abc", u"", u"x"), (TReplaced{0, u"abc"}));
+    EXPECT_EQ(Replaced(u"a\u00e9", u"", u"x"), (TReplaced{0, u"a\u00e9"}));
+    EXPECT_EQ(Replaced(u"abc", u"", u"\u00e9"), (TReplaced{0, u"abc"}));
+}
+
+TEST(CStringUReplace, ATextIsReplacedByItself) {
+    CStringU text(u"a\u00e9");
+    EXPECT_EQ(text.Replace(text, text), 1);
+    EXPECT_EQ(text, CStringU(u"a\u00e9"));
+    CStringU ascii("ab");
+    EXPECT_EQ(ascii.Replace(ascii, CStringU("x")), 1);
+    EXPECT_EQ(ascii, CStringU("x"));
+}
+
+TEST(CStringUReplace, TextsOfTheSameLengthAreReplacedInPlace) {
+    EXPECT_EQ(ReplacedNoCase(u"aXbxc", u"x", u"y"), (TReplaced{2, u"aybyc"}));
+    EXPECT_EQ(ReplacedNoCase(u"ONE one oNe", u"One", u"two"), (TReplaced{3, u"two two two"}));
+    EXPECT_EQ(ReplacedNoCase(u"aX\u00e9x", u"X", u"-"), (TReplaced{2, u"a-\u00e9-"}));
+    EXPECT_EQ(ReplacedNoCase(u"abc", u"x", u"y"), (TReplaced{0, u"abc"}));
+}
+
+TEST(CStringUReplace, LaterHitsOfALongerTextAreAppliedAtTheirOldPlaces) {
+    EXPECT_EQ(ReplacedNoCase(u"aXbX", u"x", u"yy"), (TReplaced{2, u"ayyyyX"}));
+    EXPECT_EQ(ReplacedNoCase(u"xaxbxc", u"X", u"123"), (TReplaced{2, u"123a123bxc"}))
+        << "the next search starts behind the new text's length, and misses the hit before it";
+}
+
+TEST(CStringUReplace, LaterHitsOfAShorterTextAreAppliedTooFarRight) {
+    EXPECT_EQ(ReplacedNoCase(u"xxaxxbxxcdef", u"XX", u"-"), (TReplaced{3, u"-ax-xx-ef"}));
+    EXPECT_EQ(ReplacedNoCase(u"xxxx", u"xx", u"-"), (TReplaced{3, u"---"}))
+        << "the search goes on inside of the hit, and the last one lies exactly at the end";
+}
+
+TEST(CStringUReplace, AnEmptyNewTextGoesOnBehindItsHit) {
+    EXPECT_EQ(ReplacedNoCase(u"aXb", u"x", u""), (TReplaced{1, u"ab"}));
+    EXPECT_EQ(ReplacedNoCase(u"xaxbxcdef", u"X", u""), (TReplaced{3, u"axxcef"}));
+}
+
+TEST(CStringUReplace, AHitThatHasDriftedBehindTheEndIsNone) {
+    // Hits at 0, 2 and 4; by the third the text is two units long.
+    EXPECT_EQ(ReplacedNoCase(u"xxxxxx", u"xx", u""), (TReplaced{2, u"xx"}));
+    EXPECT_EQ(ReplacedNoCase(u"ababab", u"AB", u""), (TReplaced{2, u"ab"}));
+}
+
+TEST(CStringUReplace, AnEmptyOldTextIsFoundEverywhereWithoutCase) {
+    EXPECT_EQ(ReplacedNoCase(u"ab", u"", u"-"), (TReplaced{3, u"---ab"}));
+    EXPECT_EQ(ReplacedNoCase(u"ab", u"", u""), (TReplaced{3, u"ab"})) << "and ends";
+    EXPECT_EQ(ReplacedNoCase(u"", u"", u""), (TReplaced{1, u""}));
+}
+
+TEST(CStringUReplace, AnOldTextOutsideOfAsciiMustStandAtTheEnd) {
+    EXPECT_EQ(ReplacedNoCase(u"\u00e9a", u"\u00e9", u"x"), (TReplaced{0, u"\u00e9a"}));
+    EXPECT_EQ(ReplacedNoCase(u"\u00e9a\u00c9", u"\u00e9", u"x"), (TReplaced{2, u"xax"}))
+        << "once it is found there, the others are replaced too";
+}
+
+TEST(CStringUReplace, ReplacingIsLinear) {
+    const std::u16string units(200000, u'x');
+    CStringU text(units.c_str());
+    EXPECT_EQ(text.ReplaceNoCase("X", "yy"), 100000);
+    EXPECT_EQ(text.Replace("y", CStringU(u"\u00e9\u00e9")), 200000);
+}
+
+TEST(CStringUReplace, NoLocaleChangesTheFormsOfACharacter) {
+    InEveryLocale([](const char* locale) {
+        EXPECT_EQ(ReplacedNoCase(u"iI\u0131\u0130", u'I', u'x'), (TReplaced{2, u"xx\u0131\u0130"})) << locale;
+        EXPECT_EQ(ReplacedNoCase(u"TITLE", u"title", u"-----"), (TReplaced{1, u"-----"})) << locale;
+    });
+}
+
+// --- Beside plain models -------------------------------------------------------------------------------
+
+// Few letters in both cases, so that there is something to replace.
+std::u16string Letters(std::mt19937& random, std::size_t longest) {
+    static constexpr std::u16string_view ascii = u"aAbB";
+    static constexpr std::u16string_view wide = u"aAbB\u00e9\u00c9\u4e2d\u212ak";
+    const std::u16string_view alphabet = UpTo(random, 1) == 0 ? ascii : wide;
+    std::u16string text;
+    for (std::size_t left = UpTo(random, longest); left > 0; --left)
+        text += alphabet[UpTo(random, alphabet.size() - 1)];
+    return text;
+}
+
+TReplaced Model(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
+    int count = 0;
+    for (std::size_t at = oldText.empty() ? text.npos : text.find(oldText); at != text.npos;
+         at = text.find(oldText, at + newText.size())) {
+        text.replace(at, oldText.size(), newText);
+        ++count;
+    }
+    return {count, text};
+}
+
+TReplaced Model(std::u16string text, char16_t oldUnit, char16_t newUnit) {
+    const auto count = std::count(text.begin(), text.end(), oldUnit);
+    std::replace(text.begin(), text.end(), oldUnit, newUnit);
+    return {static_cast<int>(count), text};
+}
+
+bool IsAscii(const std::u16string& text) {
+    return std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x80; });
+}
+
+TReplaced ModelNoCase(std::u16string text, char16_t oldUnit, char16_t newUnit) {
+    if (IsAscii(text) && oldUnit < 0x80 && newUnit < 0x80) {
+        int count = 0;
+        for (char16_t& unit : text) {
+            if (FoldChar(unit) != FoldChar(oldUnit)) continue;
+            unit = newUnit;
+            ++count;
+        }
+        return {count, text};
+    }
+    TReplaced result{0, text};
+    std::u16string forms{oldUnit};
+    for (const char16_t form : {FoldChar(oldUnit), vapp_text::UpperChar(oldUnit)}) {
+        if (form != oldUnit) forms += form;
+    }
+    const bool found = std::any_of(text.begin(), text.end(),
+                                   [&](char16_t unit) { return FoldChar(unit) == FoldChar(oldUnit); });
+    for (const char16_t form : forms) {
+        if (!found) break;
+        const TReplaced pass = Model(result.text, form, newUnit);
+        result = {result.count + pass.count, pass.text};
+    }
+    return result;
+}
+
+std::u16string Lower(std::u16string text) {
+    std::transform(text.begin(), text.end(), text.begin(), FoldChar);
+    return text;
+}
+
+// The rule word by word, each edit on the whole text.
+TReplaced ModelNoCase(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
+    const std::u16string low = Lower(text);
+    const std::u16string lowOld = Lower(oldText);
+    const bool found = IsAscii(oldText) ? low.find(lowOld) != low.npos : low.ends_with(lowOld);
+    if (!found) return {0, text};
+    int count = 0;
+    for (std::size_t at = low.find(lowOld); at != low.npos && at <= text.size();) {
+        const std::size_t behind = std::min(at + oldText.size(), text.size());
+        text = text.substr(0, at) + newText + text.substr(behind);
+        ++count;
+        const std::size_t moved = newText.empty() ? std::max<std::size_t>(oldText.size(), 1) : newText.size();
+        at = low.find(lowOld, at + moved);
+    }
+    return {count, text};
+}
+
+TEST(CStringUReplace, RandomTextsAgreeWithPlainModels) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        const std::u16string text = Letters(random, 12);
+        const std::u16string oldText = Letters(random, 3);
+        const std::u16string newText = Letters(random, 3);
+        const std::u16string two = Letters(random, 9) + u"ab\u00c9";
+        const char16_t oldUnit = two[UpTo(random, two.size() - 1)];
+        const char16_t newUnit = two[UpTo(random, two.size() - 1)];
+        ASSERT_EQ(Replaced(text, oldText, newText), Model(text, oldText, newText)) << Shown(Bytes(text));
+        ASSERT_EQ(Replaced(text, oldUnit, newUnit), Model(text, oldUnit, newUnit)) << Shown(Bytes(text));
+        ASSERT_EQ(ReplacedNoCase(text, oldUnit, newUnit), ModelNoCase(text, oldUnit, newUnit))
+            << Shown(Bytes(text)) << ' ' << static_cast<int>(oldUnit) << ' ' << static_cast<int>(newUnit);
+        ASSERT_EQ(ReplacedNoCase(text, oldText, newText), ModelNoCase(text, oldText, newText))
+            << Shown(Bytes(text)) << ' ' << Shown(Bytes(oldText)) << ' ' << Shown(Bytes(newText));
+    }
+}
+
+TEST(CStringUReplace, MalformedTextsEnd) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        const CStringU source(HostileBytes(random).c_str(), static_cast<TextEncoding>(UpTo(random, 4)));
+        const CStringU oldText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
+        const CStringU newText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
+        CStringU text = source;
+        ASSERT_GE(text.Replace(oldText, newText), 0);
+        text = source;
+        ASSERT_GE(text.ReplaceNoCase(oldText, newText), 0);
+        text = source;
+        ASSERT_GE(text.Replace(oldText.LastChar(), newText.LastChar()), 0);
+        text = source;
+        ASSERT_GE(text.ReplaceNoCase(oldText.LastChar(), newText.LastChar()), 0);
+    }
+}
+
+}  // namespace

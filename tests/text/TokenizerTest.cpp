@@ -1,0 +1,139 @@
+// The tokeniser: what makes a token, where the position goes, beside a plain model.
+#include "text/Tokenizer.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+#include <vector>
+
+#include "tests/text/HostileText.h"
+#include "text/Fold.h"
+
+namespace {
+
+using namespace text_test;
+using vapp_text::FoldChar;
+using vapp_text::TTokenizer;
+
+std::vector<std::u16string> Tokens(const CStringU& text, const CStringU& separators,
+                                   bool caseSensitive = false) {
+    const TTokenizer tokenizer(text, separators, caseSensitive);
+    std::vector<std::u16string> tokens;
+    tokenizer.ForEachToken([&](const CStringU& token) {
+        EXPECT_TRUE(HoldsMarkerInvariant(token)) << Shown(Stored(token));
+        tokens.push_back(token.ToWide());
+    });
+    return tokens;
+}
+
+using TList = std::vector<std::u16string>;
+
+TEST(Tokenizer, BlanksAreTextUnlessTheSetSaysOtherwise) {
+    EXPECT_EQ(Tokens("a, b", ","), (TList{u"a", u" b"}));
+    EXPECT_EQ(Tokens("a, b", ", "), (TList{u"a", u"b"}));
+}
+
+TEST(Tokenizer, ARunOfSeparatorsCountsAsOne) {
+    EXPECT_EQ(Tokens("a,,;b", ",;"), (TList{u"a", u"b"}));
+}
+
+TEST(Tokenizer, SeparatorsAtTheEndsYieldNothing) {
+    EXPECT_EQ(Tokens(",,a,b,,", ","), (TList{u"a", u"b"}));
+    EXPECT_EQ(Tokens(",,,", ","), TList{});
+    EXPECT_EQ(Tokens("", ","), TList{});
+    EXPECT_EQ(Tokens("abc", ""), TList{u"abc"});
+}
+
+TEST(Tokenizer, SeparatorsFoldUnlessCaseCounts) {
+    EXPECT_EQ(Tokens("1x2X3", "X"), (TList{u"1", u"2", u"3"}));
+    EXPECT_EQ(Tokens("1x2X3", "X", true), (TList{u"1x2", u"3"}));
+    EXPECT_EQ(Tokens(CStringU(u"1\u00e92\u00c93"), CStringU(u"\u00c9")), (TList{u"1", u"2", u"3"}));
+    EXPECT_EQ(Tokens(CStringU(u"1\u00e92\u00c93"), CStringU(u"\u00c9"), true), (TList{u"1\u00e92", u"3"}));
+}
+
+TEST(Tokenizer, TokensKeepTheirCaseAndGetTheirOwnMarker) {
+    const TTokenizer tokenizer(CStringU(u"Ab,c\u00e9,\u4e2d"), ",");
+    std::int64_t pos = 0;
+    EXPECT_EQ(Stored(tokenizer.NextToken(pos)), "Ab");
+    EXPECT_EQ(pos, 3);
+    EXPECT_EQ(Stored(tokenizer.NextToken(pos)),
+              "\x80"
+              "c\xC3\xA9");
+    EXPECT_EQ(pos, 7);
+    EXPECT_EQ(Stored(tokenizer.NextToken(pos)), "\xE4\xB8\xAD");
+    EXPECT_EQ(pos, tokenizer.GetByteLength());
+}
+
+TEST(Tokenizer, ThePositionMovesBehindAllSeparatorsThatFollow) {
+    const TTokenizer tokenizer(",,a,,,b,", ",");
+    std::int64_t pos = 0;
+    EXPECT_EQ(tokenizer.NextToken(pos), CStringU("a"));
+    EXPECT_EQ(pos, 6);
+    EXPECT_EQ(tokenizer.NextToken(pos), CStringU("b"));
+    EXPECT_EQ(pos, 8);
+    EXPECT_EQ(tokenizer.NextToken(pos), CStringU());
+    EXPECT_EQ(pos, 8);
+}
+
+TEST(Tokenizer, AnOffsetOutsideCountsAsTheNearerEnd) {
+    const TTokenizer tokenizer("a,b", ",");
+    for (std::int64_t pos : {std::int64_t{99}, INT64_MAX}) {
+        EXPECT_EQ(tokenizer.NextToken(pos), CStringU());
+        EXPECT_EQ(pos, 3);
+    }
+    std::int64_t pos = -5;
+    EXPECT_EQ(tokenizer.NextToken(pos), CStringU("a"));
+}
+
+TEST(Tokenizer, OneSeparatorOfTwoBytesIsNotTwoOthers) {
+    EXPECT_EQ(Tokens(CStringU(u"a\u00c3b"), CStringU(u"\u00c9\u00e9")), (TList{u"a\u00c3b"}));
+}
+
+TList Model(const std::u16string& text, const std::u16string& separators, bool caseSensitive) {
+    std::u16string set = separators;
+    if (!caseSensitive) std::transform(set.begin(), set.end(), set.begin(), FoldChar);
+    TList tokens;
+    std::u16string token;
+    for (const char16_t unit : text) {
+        if (set.find(caseSensitive ? unit : FoldChar(unit)) == std::u16string::npos) {
+            token += unit;
+            continue;
+        }
+        if (!token.empty()) tokens.push_back(token);
+        token.clear();
+    }
+    if (!token.empty()) tokens.push_back(token);
+    return tokens;
+}
+
+TEST(Tokenizer, RandomTextsAgreeWithPlainUtf16) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        const std::u16string text = HostileName(random, 20);
+        const std::u16string separators = HostileName(random, 3);
+        const bool caseSensitive = UpTo(random, 1) == 0;
+        ASSERT_EQ(Tokens(CStringU(text.c_str()), CStringU(separators.c_str()), caseSensitive),
+                  Model(text, separators, caseSensitive))
+            << Shown(Bytes(text)) << " at " << Shown(Bytes(separators));
+    }
+}
+
+TEST(Tokenizer, MalformedTextsEnd) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        const CStringU text(HostileBytes(random, 20).c_str(), TextEncoding::Utf8Auto);
+        const TTokenizer tokenizer(text, Utf8(HostileBytes(random, 3).c_str()));
+        std::int64_t pos = 0;
+        std::int64_t bytes = 0;
+        while (pos < tokenizer.GetByteLength()) {
+            const std::int64_t before = pos;
+            bytes += tokenizer.NextToken(pos).GetByteLength();
+            ASSERT_GT(pos, before);
+        }
+        ASSERT_EQ(pos, tokenizer.GetByteLength());
+        ASSERT_LE(bytes, pos);
+    }
+}
+
+}  // namespace

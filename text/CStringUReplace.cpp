@@ -1,0 +1,158 @@
+/// @file
+/// The four replacements of a CStringU: of a character and of a text, with and without case.
+///
+/// What is all ASCII is replaced byte by byte. Everything else goes by characters: the text becomes UTF-16,
+/// is replaced there, and comes back classified anew; an overlong NUL in it ends it on that way.
+///
+/// The surprise is ReplaceNoCase of texts. It searches a folded copy that is never edited, but applies each
+/// hit to the text that is: with a new text of another length every hit behind the first lands off its place,
+/// by as much as the text has grown or shrunk so far. "aXbX" from "x" to "yy" becomes "ayyyyX": the second
+/// hit, at index 3, is applied where by then the "b" stands. Texts have been stored that way, and so it
+/// stays. What is added here are two ends that the rule lacks: an empty new text goes on behind its hit, and
+/// a hit that has drifted behind the end is none.
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "text/Codec.h"
+#include "text/Fold.h"
+#include "text/Search.h"
+#include "text/Upper.h"
+#include "vapp/text/CStringU.h"
+
+namespace {
+
+using vapp_text::FoldChar;
+
+int ReplaceUnit(std::u16string& units, char16_t oldUnit, char16_t newUnit) {
+    int replaced = 0;
+    for (char16_t& unit : units) {
+        if (unit != oldUnit) continue;
+        unit = newUnit;
+        ++replaced;
+    }
+    return replaced;
+}
+
+int ReplaceText(std::u16string& units, std::u16string_view oldText, std::u16string_view newText) {
+    if (oldText.empty()) return 0;
+    int replaced = 0;
+    std::size_t from = 0;
+    std::u16string result;
+    for (std::size_t hit = units.find(oldText); hit != std::u16string::npos;
+         hit = units.find(oldText, from)) {
+        result.append(units, from, hit - from).append(newText);
+        from = hit + oldText.size();
+        ++replaced;
+    }
+    if (replaced != 0) units = result.append(units, from);
+    return replaced;
+}
+
+std::u16string Folded(std::u16string units) {
+    std::transform(units.begin(), units.end(), units.begin(), FoldChar);
+    return units;
+}
+
+/// A text under edits from left to right: what is done, and what is left of the original.
+class DriftingEdit {
+public:
+    explicit DriftingEdit(std::u16string original) : m_original(std::move(original)) {}
+
+    [[nodiscard]] const std::u16string& Original() const { return m_original; }
+    /// Units of the text as it is now.
+    [[nodiscard]] std::size_t Size() const { return m_done.size() + (m_original.size() - m_taken); }
+
+    /// Replaces `count` units at an index of the text as it is now, at or behind the last edit.
+    void ReplaceAt(std::size_t index, std::size_t count, std::u16string_view inserted) {
+        const std::size_t kept = index - m_done.size();
+        m_done.append(m_original, m_taken, kept).append(inserted);
+        m_taken = std::min(m_taken + kept + count, m_original.size());
+    }
+    [[nodiscard]] const std::u16string& Finish() { return m_done.append(m_original, m_taken); }
+
+private:
+    std::u16string m_original;
+    std::u16string m_done;
+    std::size_t m_taken = 0;
+};
+
+bool IsAsciiUnit(char16_t unit) {
+    return unit < 0x80U;
+}
+
+}  // namespace
+
+int CStringU::Replace(char16_t oldUnit, char16_t newUnit) {
+    if (oldUnit == 0 || newUnit == 0) return 0;
+    if (!HasNonAscii() && IsAsciiUnit(newUnit)) {
+        if (!IsAsciiUnit(oldUnit)) return 0;
+        return m_stored.Replace(static_cast<char>(oldUnit), static_cast<char>(newUnit));
+    }
+    if (FindChar(oldUnit, true, Begin()) == End()) return 0;
+    std::u16string units = ToWide();
+    const int replaced = ReplaceUnit(units, oldUnit, newUnit);
+    AssignWide(std::u16string_view(units));
+    return replaced;
+}
+
+int CStringU::ReplaceNoCase(char16_t oldUnit, char16_t newUnit) {
+    if (oldUnit == 0 || newUnit == 0) return 0;
+    const char16_t lower = FoldChar(oldUnit);
+    const char16_t upper = vapp_text::UpperChar(oldUnit);
+    if (!HasNonAscii() && IsAsciiUnit(oldUnit) && IsAsciiUnit(newUnit)) {
+        return ReplaceAsciiNoCase(static_cast<char>(lower), static_cast<char>(newUnit));
+    }
+    if (FindChar(oldUnit, false, Begin()) == End()) return 0;
+    std::u16string units = ToWide();
+    int replaced = ReplaceUnit(units, oldUnit, newUnit);
+    if (lower != oldUnit) replaced += ReplaceUnit(units, lower, newUnit);
+    if (upper != oldUnit) replaced += ReplaceUnit(units, upper, newUnit);
+    AssignWide(std::u16string_view(units));
+    return replaced;
+}
+
+// In one pass, so that a new character is never replaced in its turn.
+int CStringU::ReplaceAsciiNoCase(char lower, char newByte) {
+    const auto isHit = [lower](char byte) {
+        return static_cast<char>(vapp_text::FoldAsciiChar(static_cast<unsigned char>(byte))) == lower;
+    };
+    const std::string_view text = m_stored.View();
+    const auto hits = std::count_if(text.begin(), text.end(), isHit);
+    if (hits == 0) return 0;
+    const int length = m_stored.GetLength();
+    char* const bytes = m_stored.GetBuffer();
+    std::replace_if(bytes, bytes + length, isHit, newByte);
+    m_stored.ReleaseBuffer(length);
+    return static_cast<int>(hits);
+}
+
+int CStringU::Replace(const CStringU& oldText, const CStringU& newText) {
+    if (!HasNonAscii() && !newText.HasNonAscii()) {
+        return oldText.HasNonAscii() ? 0 : m_stored.Replace(oldText.Payload(), newText.Payload());
+    }
+    if (PayloadView().find(oldText.PayloadView()) == std::string_view::npos) return 0;
+    std::u16string units = ToWide();
+    const int replaced = ReplaceText(units, oldText.ToWide(), newText.ToWide());
+    AssignWide(std::u16string_view(units));
+    return replaced;
+}
+
+int CStringU::ReplaceNoCase(const CStringU& oldText, const CStringU& newText) {
+    if (vapp_text::FindTextNoCaseU(Payload(), oldText.Payload()) == vapp_text::cnNotFound) return 0;
+    DriftingEdit edit(ToWide());
+    const std::u16string searched = Folded(edit.Original());
+    const std::u16string wanted = Folded(oldText.ToWide());
+    const std::u16string inserted = newText.ToWide();
+    const std::size_t step = !inserted.empty() ? inserted.size() : std::max<std::size_t>(wanted.size(), 1);
+    int replaced = 0;
+    for (std::size_t hit = searched.find(wanted); hit <= edit.Size();
+         hit = searched.find(wanted, hit + step)) {
+        edit.ReplaceAt(hit, wanted.size(), inserted);
+        ++replaced;
+    }
+    AssignWide(std::u16string_view(edit.Finish()));
+    return replaced;
+}

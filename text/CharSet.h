@@ -1,0 +1,53 @@
+/// @file
+/// A set of characters that is asked often: what trimming, spans and the tokeniser separate by.
+///
+/// Not for the searches for one of a set: those ask each set once for few characters and read it where it
+/// stands.
+///
+/// ASCII characters are bits of two words, so that the usual sets (",", " \t") cost one test a character; the
+/// others are few and are looked through.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "text/Codec.h"
+#include "text/Fold.h"
+
+namespace vapp_text {
+
+class CharSet {
+public:
+    /// The characters of a payload up to its NUL; with `folded`, the folded form of each. A set so folded
+    /// expects to be asked for folded characters.
+    explicit CharSet(const char* payload, bool folded = false) {
+        while (*payload != '\0') {
+            const char16_t unit = DecodeNext(payload);
+            Add(folded ? FoldChar(unit) : unit);
+        }
+    }
+
+    [[nodiscard]] bool Holds(char16_t unit) const noexcept {
+        if (unit < 0x80U) return ((m_ascii[unit / cnBits] >> (unit % cnBits)) & 1U) != 0;
+        return m_others.find(unit) != std::u16string::npos;
+    }
+    /// True where every character of the set is ASCII.
+    [[nodiscard]] bool IsAscii() const noexcept { return m_others.empty(); }
+
+private:
+    static constexpr unsigned cnBits = 64;
+
+    void Add(char16_t unit) {
+        if (unit < 0x80U) {
+            m_ascii[unit / cnBits] |= std::uint64_t{1} << (unit % cnBits);
+        } else {
+            m_others += unit;
+        }
+    }
+
+    std::array<std::uint64_t, 2> m_ascii{};
+    std::u16string m_others;
+};
+
+}  // namespace vapp_text

@@ -1,0 +1,35 @@
+/// @file
+/// The walk of the tokeniser, by whole characters.
+
+#include "text/Tokenizer.h"
+
+#include <algorithm>
+
+namespace vapp_text {
+
+// Moves over characters while they are separators, or while they are none.
+template <bool Separators>
+std::int64_t TTokenizer::Skip(std::int64_t from) const noexcept {
+    const char* const text = m_text.Payload();
+    for (const char* at = text + from;;) {
+        const char* next = at;
+        if (*at == '\0' || IsSeparator(DecodeNext(next)) != Separators) return at - text;
+        at = next;
+    }
+}
+
+std::int64_t TTokenizer::SkipSeparators(std::int64_t from) const noexcept {
+    return Skip<true>(from);
+}
+
+CStringU TTokenizer::NextToken(std::int64_t& pos) const {
+    const std::int64_t length = m_text.GetByteLength();
+    const std::int64_t start = SkipSeparators(std::clamp<std::int64_t>(pos, 0, length));
+    // The character at the start is no separator, so that a token is never empty.
+    const std::int64_t end = Skip<false>(start);
+    pos = SkipSeparators(end);
+    const auto encoding = m_text.HasNonAscii() ? TextEncoding::Utf8Auto : TextEncoding::Raw;
+    return {m_text.Payload() + start, encoding, static_cast<int>(end - start)};
+}
+
+}  // namespace vapp_text

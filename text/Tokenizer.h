@@ -1,0 +1,59 @@
+/// @file
+/// Splitting a text at separators.
+///
+///     for (std::int64_t pos = 0; pos < tokenizer.GetByteLength();) use(tokenizer.NextToken(pos));
+///
+/// or ForEachToken, which is that loop. For texts that people wrote or settings that were joined.
+/// (CString::Tokenize does the same to bytes.)
+///
+/// A run of separators counts as one, those at the ends count as none: no token is ever empty. Blanks are
+/// text, unless the set says otherwise: "a, b" at "," is "a" and " b".
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "text/CharSet.h"
+#include "vapp/text/CStringU.h"
+
+namespace vapp_text {
+
+/// A text with its separators. A small value; keeps a share of the text.
+class TTokenizer {
+public:
+    /// Without `caseSensitive` a separator counts in either case.
+    TTokenizer(CStringU text, const CStringU& separators, bool caseSensitive = false)
+        : m_text(std::move(text)),
+          m_separators(separators.Payload(), !caseSensitive),
+          m_fold(!caseSensitive) {}
+
+    /// The next token at or behind the byte offset `pos`, which moves behind the token and the separators
+    /// that follow it. When no token is left: empty text, and `pos` is the text's end. An offset outside of
+    /// the text counts as the nearer end.
+    [[nodiscard]] CStringU NextToken(std::int64_t& pos) const;
+
+    /// The end that `pos` reaches.
+    [[nodiscard]] std::int64_t GetByteLength() const noexcept { return m_text.GetByteLength(); }
+
+    /// Hands out all tokens in order.
+    template <typename Use>
+    void ForEachToken(const Use& use) const {
+        std::int64_t pos = SkipSeparators(0);
+        while (pos < GetByteLength())
+            use(NextToken(pos));
+    }
+
+private:
+    [[nodiscard]] bool IsSeparator(char16_t unit) const noexcept {
+        return m_separators.Holds(m_fold ? FoldChar(unit) : unit);
+    }
+    template <bool Separators>
+    [[nodiscard]] std::int64_t Skip(std::int64_t from) const noexcept;
+    [[nodiscard]] std::int64_t SkipSeparators(std::int64_t from) const noexcept;
+
+    CStringU m_text;
+    CharSet m_separators;
+    bool m_fold;
+};
+
+}  // namespace vapp_text
