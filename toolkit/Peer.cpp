@@ -14,6 +14,10 @@ PeerFactory::~PeerFactory() {
     if (s_installed == this) s_installed = nullptr;
 }
 
+ClipboardPeer* PeerFactory::GetClipboard() {
+    return nullptr;
+}
+
 PeerFactory* PeerFactory::Installed() {
     return s_installed;
 }

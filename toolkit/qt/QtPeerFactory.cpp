@@ -5,6 +5,7 @@
 #include <QCursor>
 
 #include "toolkit/qt/QtButtonPeer.h"
+#include "toolkit/qt/QtClipboard.h"
 #include "toolkit/qt/QtComboPeer.h"
 #include "toolkit/qt/QtEditPeer.h"
 #include "toolkit/qt/QtFormPeer.h"
@@ -84,6 +85,11 @@ std::unique_ptr<Peer> QtPeerFactory::CreateReport(CXTPReportControl& report) {
 CPoint QtPeerFactory::CursorPosition() const {
     const QPoint position = QCursor::pos();
     return {position.x(), position.y()};
+}
+
+ClipboardPeer* QtPeerFactory::GetClipboard() {
+    static QtClipboard clipboard;
+    return &clipboard;
 }
 
 QWidget* gWidgetOf(const CWnd& window) {

@@ -12,6 +12,7 @@
 #include "vapp/toolkit/CPoint.h"
 #include "vapp/toolkit/CRect.h"
 
+class ClipboardPeer;
 class CWnd;
 class CFrameWnd;
 class CSplitterWnd;
@@ -83,6 +84,9 @@ public:
 
     /// Position of the pointer on the screen.
     [[nodiscard]] virtual CPoint CursorPosition() const = 0;
+
+    /// The toolkit's clipboard (the factory's own), or null: texts then stay in the process.
+    [[nodiscard]] virtual ClipboardPeer* GetClipboard();
 
     /// The installed factory, or null: no pixels.
     [[nodiscard]] static PeerFactory* Installed();

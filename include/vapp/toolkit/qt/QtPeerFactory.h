@@ -30,6 +30,7 @@ public:
     std::unique_ptr<Peer> CreateReport(CXTPReportControl& report) override;
 
     [[nodiscard]] CPoint CursorPosition() const override;
+    [[nodiscard]] ClipboardPeer* GetClipboard() override;
 };
 
 /// The widget that shows a window: a QMainWindow for a frame, which a host may give menus and bars. Null if

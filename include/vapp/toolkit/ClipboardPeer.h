@@ -1,0 +1,23 @@
+/// @file
+/// The clipboard of a toolkit: what its adapter gives to the system besides peers of windows.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "vapp/Export.h"
+
+/// A clipboard that holds one text in two forms. Window thread only.
+class VAPP_EXPORT ClipboardPeer {
+public:
+    ClipboardPeer() = default;
+    ClipboardPeer(const ClipboardPeer&) = delete;
+    ClipboardPeer& operator=(const ClipboardPeer&) = delete;
+    virtual ~ClipboardPeer();
+
+    /// Replaces what is on the clipboard by a text in both forms: UTF-16, and the active code page for
+    /// programs that know no other. False if it could not be put there.
+    [[nodiscard]] virtual bool SetText(std::u16string_view wide, std::string_view narrow) = 0;
+    /// The Unicode text on the clipboard, empty for none.
+    [[nodiscard]] virtual std::u16string GetText() const = 0;
+};

@@ -1,0 +1,64 @@
+/// @file
+/// Both formats on the desktop's clipboard, read back by Qt's own means, and texts that other programs put
+/// there.
+#include "toolkit/qt/QtClipboard.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include "text/PlatformClipboard.h"
+#include "vapp/text/ActiveCodePage.h"
+#include "vapp/toolkit/Clipboard.h"
+#include "vapp/toolkit/Peer.h"
+
+using vapp_qt::QtClipboard;
+
+TEST(QtClipboard, OffersUnicodeAndTheNarrowForm) {
+    QtClipboard clipboard;
+    ASSERT_TRUE(clipboard.SetText(u"a\u00e9\u4e2d\U0001F600", "a\xE9??"));
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    ASSERT_NE(data, nullptr);
+    EXPECT_EQ(data->data("text/plain;charset=utf-8"), QStringLiteral("a\u00e9\u4e2d\U0001F600").toUtf8());
+    EXPECT_EQ(data->data("text/plain"), QByteArray("a\xE9??"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a\u00e9\u4e2d\U0001F600"))
+        << "a reader of texts gets the Unicode one";
+    EXPECT_EQ(clipboard.GetText(), u"a\u00e9\u4e2d\U0001F600");
+}
+
+TEST(QtClipboard, ReadsWhatOtherProgramsPutThere) {
+    const QtClipboard clipboard;
+    QGuiApplication::clipboard()->setText(QStringLiteral("fr\u00e4mmande"));
+    EXPECT_EQ(clipboard.GetText(), u"fr\u00e4mmande");
+    QGuiApplication::clipboard()->clear();
+    EXPECT_EQ(clipboard.GetText(), u"");
+}
+
+TEST(QtClipboard, HalfASurrogatePairIsReplacedNotDropped) {
+    QtClipboard clipboard;
+    ASSERT_TRUE(
+        clipboard.SetText(u"a\xd83d"
+                          u"b",
+                          "a?b"));
+    EXPECT_EQ(clipboard.GetText(),
+              u"a\ufffd"
+              u"b");
+}
+
+TEST(QtClipboard, TheFactoryOffersIt) {
+    PeerFactory* const factory = PeerFactory::Installed();
+    ASSERT_NE(factory, nullptr);
+    EXPECT_NE(dynamic_cast<QtClipboard*>(factory->GetClipboard()), nullptr);
+}
+
+TEST(QtClipboard, TextsOfTheSystemGoThroughIt) {
+    if (vapp_platform::HasSystemClipboard()) GTEST_SKIP() << "the system has a clipboard of its own";
+    gSetActiveCodePage(1252);
+    EXPECT_TRUE(SetClipboardText(CStringU(u"Verst\u00e4rker")));
+    gSetActiveCodePage(0);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Verst\u00e4rker"));
+    EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->data("text/plain"), QByteArray("Verst\xE4rker"));
+    EXPECT_EQ(GetClipboardText(), CStringU(u"Verst\u00e4rker"));
+}

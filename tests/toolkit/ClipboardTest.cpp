@@ -1,0 +1,98 @@
+/// @file
+/// Which clipboard is taken, what it is given, and what becomes of a failure. Where the system has a
+/// clipboard of its own, that one is taken whatever the toolkit has; its own tests stand with it.
+#include "vapp/toolkit/Clipboard.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/toolkit/RecordingPeers.h"
+#include "text/PlatformClipboard.h"
+#include "toolkit/MemoryClipboard.h"
+#include "vapp/text/ActiveCodePage.h"
+
+namespace {
+
+class FailingClipboard final : public ClipboardPeer {
+public:
+    [[nodiscard]] bool SetText(std::u16string_view /*wide*/, std::string_view /*narrow*/) override {
+        ++attempts;
+        return false;
+    }
+    [[nodiscard]] std::u16string GetText() const override { return {}; }
+    int attempts = 0;
+};
+
+class PeersWithClipboard : public RecordingPeers {
+public:
+    explicit PeersWithClipboard(ClipboardPeer& clipboard) : m_clipboard(clipboard) {}
+    [[nodiscard]] ClipboardPeer* GetClipboard() override { return &m_clipboard; }
+
+private:
+    ClipboardPeer& m_clipboard;
+};
+
+class CodePage {
+public:
+    explicit CodePage(unsigned number) { gSetActiveCodePage(number); }
+    ~CodePage() { gSetActiveCodePage(0); }
+    CodePage(const CodePage&) = delete;
+    CodePage& operator=(const CodePage&) = delete;
+};
+
+class ClipboardTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (vapp_platform::HasSystemClipboard()) GTEST_SKIP() << "the system has a clipboard of its own";
+    }
+};
+
+TEST_F(ClipboardTest, WithoutAToolkitTextsStayInTheProcess) {
+    ASSERT_EQ(PeerFactory::Installed(), nullptr);
+    for (const char16_t* text : {u"inv", u"a\u00e9\u4e2d", u"\u00e9", u"\xd83d", u""}) {
+        EXPECT_TRUE(SetClipboardText(CStringU(text)));
+        EXPECT_EQ(GetClipboardText().Stored(), CStringU(text).Stored());
+    }
+}
+
+TEST_F(ClipboardTest, AToolkitWithoutAClipboardChangesNothing) {
+    EXPECT_TRUE(SetClipboardText("before"));
+    const RecordingPeers peers;
+    EXPECT_EQ(GetClipboardText(), CStringU("before"));
+    EXPECT_TRUE(SetClipboardText("x"));
+    EXPECT_EQ(GetClipboardText(), CStringU("x"));
+}
+
+TEST_F(ClipboardTest, TheToolkitsClipboardGetsBothForms) {
+    const CodePage latin(1252);
+    MemoryClipboard clipboard;
+    const PeersWithClipboard peers(clipboard);
+    EXPECT_TRUE(SetClipboardText(CStringU(u"a\u00e9\u4e2d")));
+    EXPECT_EQ(clipboard.GetText(), u"a\u00e9\u4e2d");
+    EXPECT_EQ(clipboard.GetNarrowText(), "a\xE9?") << "the code page lacks the last character";
+    EXPECT_EQ(GetClipboardText(), CStringU(u"a\u00e9\u4e2d"));
+}
+
+TEST_F(ClipboardTest, OnlyTheUnicodeFormIsRead) {
+    MemoryClipboard clipboard;
+    const PeersWithClipboard peers(clipboard);
+    ASSERT_TRUE(clipboard.SetText(u"wide", "narrow"));
+    EXPECT_EQ(GetClipboardText(), CStringU("wide"));
+}
+
+TEST_F(ClipboardTest, ATextEndsAtItsFirstNul) {
+    MemoryClipboard clipboard;
+    const PeersWithClipboard peers(clipboard);
+    ASSERT_TRUE(clipboard.SetText(std::u16string_view(u"a\0b", 3), ""));
+    EXPECT_EQ(GetClipboardText(), CStringU("a"));
+}
+
+TEST_F(ClipboardTest, AFailureIsToldAndNotMadeUpFor) {
+    EXPECT_TRUE(SetClipboardText("in the process"));
+    FailingClipboard failing;
+    const PeersWithClipboard peers(failing);
+    EXPECT_FALSE(SetClipboardText("x"));
+    EXPECT_EQ(failing.attempts, 1);
+    EXPECT_EQ(GetClipboardText(), CStringU());
+}
+
+}  // namespace

@@ -1,0 +1,24 @@
+/// @file
+/// What the clipboard asks of the platform, where the system has one that belongs to no toolkit.
+///
+/// Implemented once for each system in platform/posix and platform/win32. Not for callers: they go through
+/// the toolkit, which knows the other clipboards too.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vapp_platform {
+
+/// True where the system has a clipboard of its own. Otherwise the other calls fail.
+[[nodiscard]] bool HasSystemClipboard() noexcept;
+
+/// Replaces what is on the clipboard by one text in two forms, UTF-16 and the active code page; a NUL is put
+/// behind each. False if the clipboard can't be had or doesn't take both. To be called on a thread that the
+/// system lets open the clipboard.
+[[nodiscard]] bool SetSystemClipboardText(std::u16string_view wide, std::string_view narrow) noexcept;
+
+/// The UTF-16 text on the clipboard, up to its NUL; empty where there is none or it can't be had.
+[[nodiscard]] std::u16string GetSystemClipboardText();
+
+}  // namespace vapp_platform

@@ -1,0 +1,17 @@
+/// @file
+/// The clipboard of the desktop, by Qt.
+#pragma once
+
+#include "vapp/toolkit/ClipboardPeer.h"
+
+namespace vapp_qt {
+
+/// Offers a text in two formats. Unicode goes as UTF-8, so that half a surrogate pair becomes the replacement
+/// character.
+class QtClipboard final : public ClipboardPeer {
+public:
+    [[nodiscard]] bool SetText(std::u16string_view wide, std::string_view narrow) override;
+    [[nodiscard]] std::u16string GetText() const override;
+};
+
+}  // namespace vapp_qt
