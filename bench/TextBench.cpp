@@ -15,6 +15,7 @@
 #include <cstring>
 #include <memory>
 
+#include "bench/TextChangesBench.h"
 #include "text/Compare.h"
 #include "text/NaturalKey.h"
 #include "text/NaturalOrder.h"
@@ -206,6 +207,8 @@ int main(int argc, char** argv) {
     Register<PlainNatural>("natural", "plain_loop", true);
     Register<IcuNumeric>("natural", "ucol_numeric");
     text_bench::RegisterQtPeers();
+    text_bench::RegisterChangePeers();
+    text_bench::RegisterQtChangePeers();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

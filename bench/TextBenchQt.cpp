@@ -1,10 +1,12 @@
 /// @file
-/// The peers of the text bench that need Qt: its case-insensitive compare and its collator in numeric mode.
+/// The peers of the text bench that need Qt: its case-insensitive compare, its collator in numeric mode, and
+/// QString's own changes of texts.
 #include <QCollator>
 #include <QLocale>
 #include <QString>
 
 #include "bench/TextBench.h"
+#include "bench/TextChangesBench.h"
 
 namespace {
 
@@ -28,6 +30,39 @@ private:
     QCollator m_collator;
 };
 
+struct QtChanges {
+    using Text = QString;
+    using Change = text_bench::Change;
+    [[nodiscard]] static Text Make(const std::string& text) { return QString::fromStdString(text); }
+
+    template <Change What>
+    [[nodiscard]] std::size_t Run(const Text& text) const {
+        if constexpr (What == Change::Tokens) {
+            std::size_t size = 0;
+            for (const QString& token : text.split(u',', Qt::SkipEmptyParts))
+                size += static_cast<std::size_t>(token.size());
+            return size;
+        } else {
+            return static_cast<std::size_t>(Changed<What>(text).size());
+        }
+    }
+
+private:
+    template <Change What>
+    [[nodiscard]] static Text Changed(const Text& text) {
+        if constexpr (What == Change::Trim) return text.trimmed();
+        if constexpr (What == Change::Quote) return u'"' + text + u'"';
+        if constexpr (What == Change::Unquote) return text.sliced(1, text.size() - 2);
+        if constexpr (What == Change::Lower) return text.toLower();
+        if constexpr (What == Change::Upper) return text.toUpper();
+        Text changed = text;
+        if constexpr (What == Change::ReplaceChar) changed.replace(u'_', u'-');
+        if constexpr (What == Change::ReplaceText)
+            changed.replace(QLatin1String("_x"), QLatin1String("-by-"));
+        return changed;
+    }
+};
+
 }  // namespace
 
 namespace text_bench {
@@ -35,6 +70,10 @@ namespace text_bench {
 void RegisterQtPeers() {
     Register<QtNoCase>("nocase", "QString");
     Register<QtNumeric>("natural", "QCollator");
+}
+
+void RegisterQtChangePeers() {
+    RegisterChanges<QtChanges>("QString");
 }
 
 }  // namespace text_bench

@@ -1,0 +1,206 @@
+/// @file
+/// Changes of whole texts beside std::string (ASCII) and ICU's UnicodeString.
+///
+/// The standard string's peer is what a careful programmer writes with it. Characters are counted in UTF-16
+/// where the peer has it; ours and the standard string's in bytes, so that the counters agree for ASCII only.
+#include "bench/TextChangesBench.h"
+
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+
+#include "text/Tokenizer.h"
+#include "vapp/text/CStringU.h"
+
+namespace text_bench {
+
+namespace {
+
+using bench_names::Script;
+
+struct OursPeer {
+    using Text = CStringU;
+    [[nodiscard]] static Text Make(const std::string& text) { return {text.c_str(), TextEncoding::Utf8Auto}; }
+
+    template <Change What>
+    [[nodiscard]] std::size_t Run(const Text& text) const {
+        if constexpr (What == Change::Tokens) {
+            std::size_t size = 0;
+            vapp_text::TTokenizer(text, m_comma).ForEachToken([&](const Text& token) {
+                size += Size(token);
+            });
+            return size;
+        } else {
+            return Size(Changed<What>(text));
+        }
+    }
+
+private:
+    static std::size_t Size(const Text& text) { return static_cast<std::size_t>(text.GetByteLength()); }
+
+    template <Change What>
+    [[nodiscard]] Text Changed(const Text& text) const {
+        if constexpr (What == Change::Trim) return text.Trimmed();
+        if constexpr (What == Change::Quote) return text.WithQuotes();
+        if constexpr (What == Change::Unquote) return text.WithoutQuotes();
+        if constexpr (What == Change::Lower) return text.ToLower();
+        if constexpr (What == Change::Upper) return text.ToUpper();
+        Text changed = text;
+        if constexpr (What == Change::ReplaceChar) changed.Replace(u'_', u'-');
+        if constexpr (What == Change::ReplaceText) changed.Replace(m_old, m_new);
+        return changed;
+    }
+
+    const Text m_comma{","};
+    const Text m_old{"_x"};
+    const Text m_new{"-by-"};
+};
+
+struct StdPeer {
+    using Text = std::string;
+    [[nodiscard]] static Text Make(const std::string& text) { return text; }
+
+    template <Change What>
+    [[nodiscard]] std::size_t Run(const Text& text) const {
+        if constexpr (What == Change::Tokens) {
+            std::size_t size = 0;
+            for (std::size_t at = text.find_first_not_of(','); at != Text::npos;) {
+                const std::size_t end = text.find_first_of(',', at);
+                size += text.substr(at, end - at).size();
+                at = text.find_first_not_of(',', end);
+            }
+            return size;
+        } else {
+            return Changed<What>(text).size();
+        }
+    }
+
+private:
+    template <Change What>
+    [[nodiscard]] static Text Changed(const Text& text) {
+        if constexpr (What == Change::Trim) {
+            const std::size_t first = text.find_first_not_of(" \t\n\v\f\r");
+            if (first == Text::npos) return {};
+            return text.substr(first, text.find_last_not_of(" \t\n\v\f\r") - first + 1);
+        } else if constexpr (What == Change::Quote) {
+            Text quoted;
+            quoted.reserve(text.size() + 2);
+            return quoted.append(1, '"').append(text).append(1, '"');
+        } else if constexpr (What == Change::Unquote) {
+            return text.substr(1, text.size() - 2);
+        } else if constexpr (What == Change::ReplaceText) {
+            Text changed = text;
+            for (std::size_t at = changed.find("_x"); at != Text::npos; at = changed.find("_x", at + 4))
+                changed.replace(at, 2, "-by-");
+            return changed;
+        } else {
+            Text changed = text;
+            for (char& byte : changed) {
+                if constexpr (What == Change::ReplaceChar) byte = byte == '_' ? '-' : byte;
+                if constexpr (What == Change::Lower) {
+                    if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte + 32);
+                }
+                if constexpr (What == Change::Upper) {
+                    if (byte >= 'a' && byte <= 'z') byte = static_cast<char>(byte - 32);
+                }
+            }
+            return changed;
+        }
+    }
+};
+
+struct IcuPeer {
+    using Text = icu::UnicodeString;
+    [[nodiscard]] static Text Make(const std::string& text) { return Text::fromUTF8(text); }
+
+    template <Change What>
+    [[nodiscard]] std::size_t Run(const Text& text) const {
+        if constexpr (What == Change::Tokens) {
+            std::size_t size = 0;
+            for (int32_t at = 0; at < text.length();) {
+                int32_t end = text.indexOf(u',', at);
+                if (end < 0) end = text.length();
+                if (end > at) size += static_cast<std::size_t>(Text(text, at, end - at).length());
+                at = end + 1;
+            }
+            return size;
+        } else {
+            return static_cast<std::size_t>(Changed<What>(text).length());
+        }
+    }
+
+    template <Change What>
+    [[nodiscard]] Text Changed(const Text& text) const {
+        if constexpr (What == Change::Unquote) return Text(text, 1, text.length() - 2);
+        Text changed = text;
+        if constexpr (What == Change::Trim) changed.trim();
+        if constexpr (What == Change::Quote) changed.insert(0, u'"').append(u'"');
+        if constexpr (What == Change::ReplaceChar) changed.findAndReplace(m_underscore, m_dash);
+        if constexpr (What == Change::ReplaceText) changed.findAndReplace(m_old, m_new);
+        if constexpr (What == Change::Lower) changed.toLower(m_root);
+        if constexpr (What == Change::Upper) changed.toUpper(m_root);
+        return changed;
+    }
+
+private:
+    const icu::Locale m_root = icu::Locale::getRoot();
+    const Text m_underscore{u"_"};
+    const Text m_dash{u"-"};
+    const Text m_old{u"_x"};
+    const Text m_new{u"-by-"};
+};
+
+/// ICU for a program whose texts are UTF-8, like ours: in and out each time.
+struct IcuUtf8Peer {
+    using Text = std::string;
+    [[nodiscard]] static Text Make(const std::string& text) { return text; }
+
+    template <Change What>
+    [[nodiscard]] std::size_t Run(const Text& text) const {
+        const icu::UnicodeString wide = icu::UnicodeString::fromUTF8(text);
+        std::string result;
+        if constexpr (What == Change::Tokens) return m_peer.Run<What>(wide);
+        if constexpr (What != Change::Tokens) m_peer.Changed<What>(wide).toUTF8String(result);
+        return result.size();
+    }
+
+private:
+    IcuPeer m_peer;
+};
+
+}  // namespace
+
+std::vector<std::string> TextsFor(Change change, Script script) {
+    std::vector<std::string> texts;
+    std::string list;
+    for (const auto& [name, other] : bench_names::Pairs(script, bench_names::Meeting::Random)) {
+        switch (change) {
+            case Change::Trim:
+                texts.push_back("  " + name + " \t");
+                break;
+            case Change::Unquote:
+                texts.push_back('"' + name + '"');
+                break;
+            case Change::Tokens:
+                list += name;
+                list += texts.size() % 3 == 0 ? ",," : ",";
+                if (list.size() < 200) break;
+                texts.push_back(std::exchange(list, {}));
+                break;
+            default:
+                texts.push_back(name);
+                break;
+        }
+    }
+    return texts;
+}
+
+void RegisterChangePeers() {
+    RegisterChanges<OursPeer>("CStringU");
+    RegisterChanges<StdPeer>("std_string", true);
+    RegisterChanges<IcuPeer>("UnicodeString");
+    RegisterChanges<IcuUtf8Peer>("UnicodeString_utf8");
+}
+
+}  // namespace text_bench
