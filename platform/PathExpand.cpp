@@ -6,14 +6,16 @@
 #include "platform/PathExpand.h"
 
 #include <deque>
+#include <memory>
 #include <unordered_map>
 
 #include "platform/PathNormalize.h"
+#include "text/PlatformEnvironment.h"
 
 namespace vapp_platform {
 namespace {
 
-/// The environment as one call sees it.
+/// The environment as one text sees it.
 class JudgedEnvironment {
 public:
     explicit JudgedEnvironment(const PathRules& rules) noexcept : m_rules(rules) {}
@@ -96,23 +98,26 @@ private:
         judged.value.second = IsAbsoluteForm(start, m_rules.world) ? Verdict::Absolute : Verdict::Relative;
     }
 
-    const PathRules& m_rules;
+    PathRules m_rules;
     std::unordered_map<std::u16string, Verdict> m_values;
     std::unordered_map<std::u16string, Value*> m_names;
 };
+
+vapp_text::JudgedEnvironmentLookup LookupBy(const PathRules& rules) {
+    return [environment = std::make_shared<JudgedEnvironment>(rules)](std::u16string_view name) {
+        return environment->Find(name);
+    };
+}
 
 }  // namespace
 
 std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules, std::size_t most) {
     if (!vapp_text::MayHoldEnvironmentReference(text)) return std::u16string(text.substr(0, most));
-    JudgedEnvironment environment(rules);
-    return vapp_text::ExpandEnvironmentReferences(
-        text, [&environment](std::u16string_view name) { return environment.Find(name); }, most);
+    return vapp_text::ExpandEnvironmentReferences(text, LookupBy(rules), most);
 }
 
-CStringU ExpandEnvironment(const CStringU& text, const PathRules& rules) {
-    if (!text.HasNonAscii() && !vapp_text::MayHoldEnvironmentReference(text.PayloadView())) return text;
-    return CStringU(std::u16string_view(ExpandEnvironment(text.ToWide(), rules)));
+vapp_text::JudgedEnvironmentLookup AskEnvironment() {
+    return LookupBy(CurrentPathRules());
 }
 
 }  // namespace vapp_platform

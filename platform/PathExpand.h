@@ -6,6 +6,9 @@
 /// value is absolute is judged after normalising it, which replaces the references in it, whose values are
 /// judged in turn, and so on; and a value may name itself.
 ///
+/// Expanding by the environment and the world of this process is the text room's (text/ExpandEnvironment.h),
+/// which is given its answers from here.
+///
 /// The surprise: a value whose judgement would never end, as it names itself or one that does, counts as not
 /// absolute. All other answers are those of the plain recursion, but each variable is asked for and judged
 /// only once in a call, and no stack grows with the chain.
@@ -23,6 +26,5 @@ namespace vapp_platform {
 /// vapp_text::ExpandEnvironmentReferences.
 [[nodiscard]] std::u16string ExpandEnvironment(std::u16string_view text, const PathRules& rules,
                                                std::size_t most = std::u16string_view::npos);
-[[nodiscard]] CStringU ExpandEnvironment(const CStringU& text, const PathRules& rules);
 
 }  // namespace vapp_platform

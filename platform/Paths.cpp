@@ -1,13 +1,14 @@
 /// @file
-/// Each name fetches the world, and the environment where it matters, and calls the rule.
+/// Each name fetches the world, and the environment where it matters, and calls the rule. Expanding is the
+/// text room's, which fetches both for itself.
 #include "platform/Paths.h"
 
 #include "platform/PathCompact.h"
-#include "platform/PathExpand.h"
 #include "platform/PathJoin.h"
 #include "platform/PathNames.h"
 #include "platform/PathNormalize.h"
 #include "platform/PathValid.h"
+#include "text/ExpandEnvironment.h"
 
 using vapp_platform::CurrentPathRules;
 
@@ -24,7 +25,7 @@ CStringU gNormalizePath(const CStringU& path) {
 }
 
 CStringU gExpandEnvironment(const CStringU& text) {
-    return vapp_platform::ExpandEnvironment(text, CurrentPathRules());
+    return vapp_text::ExpandEnvironment(text);
 }
 
 CStringU gJoinPath(const CStringU& base, const CStringU& relative) {
