@@ -58,24 +58,31 @@ CString Changed(const char* payload, const TChange& change) {
     return text;
 }
 
+// What is stored of a text outside of ASCII once its case is changed; the same where nothing changes.
+template <char16_t Form(char16_t)>
+CString Formed(const CStringU& text) {
+    const TChange change = Measure<Form>(text.Payload());
+    return change.changed ? Changed<Form>(text.Payload(), change) : text.Stored();
+}
+
 }  // namespace
 
 CStringU CStringU::ToLower() const {
     CStringU result = *this;
-    if (!HasNonAscii()) {
+    if (HasNonAscii()) {
+        result.m_stored = Formed<vapp_text::FoldChar>(*this);
+    } else {
         result.m_stored.MakeLower();
-    } else if (const TChange change = Measure<vapp_text::FoldChar>(Payload()); change.changed) {
-        result.m_stored = Changed<vapp_text::FoldChar>(Payload(), change);
     }
     return result;
 }
 
 CStringU CStringU::ToUpper() const {
     CStringU result = *this;
-    if (!HasNonAscii()) {
+    if (HasNonAscii()) {
+        result.m_stored = Formed<vapp_text::UpperChar>(*this);
+    } else {
         result.m_stored.MakeUpper();
-    } else if (const TChange change = Measure<vapp_text::UpperChar>(Payload()); change.changed) {
-        result.m_stored = Changed<vapp_text::UpperChar>(Payload(), change);
     }
     return result;
 }

@@ -4,35 +4,19 @@
 /// For compare, search and sort keys. Not for changing the case of a text that a user will see.
 ///
 /// ASCII is folded here, inline, and never reaches the platform. Everything else is the platform's own
-/// lower-case mapping of one character, remembered in a table once it has been asked for: a sort of many
-/// non-ASCII names asks the same few characters over and over, and the platform's lookup costs a multiple of
-/// the compare that needs it.
+/// lower-case mapping of one character, remembered once it has been asked for.
 ///
 /// The surprise: folding is one character to one character and always to lower case, so "ß" is not "ss" and
 /// a capital "İ" is whatever the platform's single-character mapping says.
 #pragma once
 
-#include <array>
-#include <atomic>
-
+#include "text/CaseAnswers.h"
 #include "text/PlatformText.h"
 
 namespace vapp_text {
 
-/// What the platform answered for each character, 0 where it has not been asked yet (only NUL folds to 0).
-/// Filled entry by entry; two threads that ask at once store the same answer.
-extern std::array<std::atomic<char16_t>, 0x10000> gFoldAnswers;
-
-/// FoldChar for a character above 0x7F.
-[[nodiscard]] inline char16_t FoldHighChar(char16_t c) noexcept {
-    std::atomic<char16_t>& answer = gFoldAnswers[c];
-    char16_t folded = answer.load(std::memory_order_relaxed);
-    if (folded == 0) {
-        folded = vapp_platform::LowerCaseChar(c);
-        answer.store(folded, std::memory_order_relaxed);
-    }
-    return folded;
-}
+/// The lower-case forms of characters above 0x7F.
+extern CaseAnswers<vapp_platform::LowerCaseChar> gFoldAnswers;
 
 /// FoldChar for a character of at most 0x7F.
 [[nodiscard]] constexpr char16_t FoldAsciiChar(char16_t c) noexcept {
@@ -42,7 +26,7 @@ extern std::array<std::atomic<char16_t>, 0x10000> gFoldAnswers;
 
 /// The folded (lower-case) form of one 16-bit character. 0x80 is the first that the platform is asked for.
 [[nodiscard]] inline char16_t FoldChar(char16_t c) noexcept {
-    return c <= 0x7F ? FoldAsciiChar(c) : FoldHighChar(c);
+    return c <= 0x7F ? FoldAsciiChar(c) : gFoldAnswers.For(c);
 }
 
 }  // namespace vapp_text

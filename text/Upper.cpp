@@ -1,9 +1,9 @@
 /// @file
-/// The storage of the remembered upper-case forms; like that of Fold.cpp it costs nothing until it is used.
+/// The storage of the remembered upper-case forms.
 #include "text/Upper.h"
 
 namespace vapp_text {
 
-constinit std::array<std::atomic<char16_t>, 0x10000> gUpperAnswers{};
+constinit CaseAnswers<vapp_platform::UpperCaseChar> gUpperAnswers{};
 
 }  // namespace vapp_text
