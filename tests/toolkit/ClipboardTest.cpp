@@ -46,9 +46,10 @@ protected:
     }
 };
 
-TEST_F(ClipboardTest, WithoutAToolkitTextsStayInTheProcess) {
+TEST(ClipboardOfAnySystem, ATextComesBackAsItWas) {
     ASSERT_EQ(PeerFactory::Installed(), nullptr);
-    for (const char16_t* text : {u"inv", u"a\u00e9\u4e2d", u"\u00e9", u"\xd83d", u""}) {
+    if (!SetClipboardText(CStringU())) GTEST_SKIP() << "no clipboard can be opened here";
+    for (const char16_t* text : {u"inv", u"a\u00e9\u4e2d", u"\u00e9", u"\xd83d", u"line\r\nline\n", u""}) {
         EXPECT_TRUE(SetClipboardText(CStringU(text)));
         EXPECT_EQ(GetClipboardText().Stored(), CStringU(text).Stored());
     }
