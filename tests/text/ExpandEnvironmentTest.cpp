@@ -25,7 +25,7 @@ protected:
 private:
     VariableGuard m_name{u"VAPP_NAME", u"nand"};
     VariableGuard m_accent{u"VAPP_ACCENT", u"\u00e9"};
-    VariableGuard m_drive{u"VAPP_DRIVE", u"C:\\libs"};
+    VariableGuard m_drive{u"VAPP_DRIVE", u"C:/libs"};
     VariableGuard m_unix{u"VAPP_UNIX", u"/libs"};
     VariableGuard m_chain{u"VAPP_CHAIN", u"$VAPP_DRIVE"};
     VariableGuard m_self{u"VAPP_SELF", u"/$VAPP_SELF"};
@@ -46,7 +46,7 @@ constexpr TRow cnRows[] = {
     {u"$VAPP_NAME%VAPP_NAME%${VAPP_NAME}", u"nandnandnand", u"nandnandnand"},
     {u"a$VAPP_ACCENT\u4e2d", u"a\u00e9\u4e2d", u"a\u00e9\u4e2d"},
     {u"a${VAPP_NO_SUCH_VARIABLE}b", u"a${VAPP_NO_SUCH_VARIABLE}b", u"a${VAPP_NO_SUCH_VARIABLE}b"},
-    {u"D:\\base\\$VAPP_DRIVE\\$VAPP_NAME", u"C:\\libs\\nand", u"C:\\libs\\nand"},
+    {u"D:\\base\\$VAPP_DRIVE\\$VAPP_NAME", u"C:/libs\\nand", u"C:/libs\\nand"},
     {u"base/$VAPP_UNIX/$VAPP_NAME", u"base//libs/nand", u"/libs/nand"},
     {u"base/$VAPP_CHAIN/x", u"$VAPP_DRIVE/x", u"$VAPP_DRIVE/x"},
     {u"base$VAPP_SELF", u"base/$VAPP_SELF", u"base/$VAPP_SELF"},
@@ -83,7 +83,7 @@ TEST_F(ExpandEnvironmentTest, TheMarkerFollowsTheExpandedText) {
     EXPECT_EQ(Stored(ExpandEnvironment(CStringU("a$VAPP_ACCENT"))),
               "\x80"
               "a\xC3\xA9");
-    EXPECT_EQ(Stored(ExpandEnvironment(CStringU(u"\u4e2d$VAPP_DRIVE"))), "C:\\libs");
+    EXPECT_EQ(Stored(ExpandEnvironment(CStringU(u"\u4e2d$VAPP_DRIVE"))), "C:/libs");
 }
 
 TEST_F(ExpandEnvironmentTest, ASignInALongerFormThanItNeedsBeginsAReferenceToo) {
