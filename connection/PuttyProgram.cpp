@@ -7,7 +7,7 @@
 namespace vapp_connection {
 
 CStringU QuotedPuttyProgram(const CStringU& fileName) {
-    return CStringU("\"") + gGetModuleFolder() + "\\putty\\bin\\" + fileName + "\"";
+    return CStringU("\"") + gGetModuleFolder() + R"(\putty\bin\)" + fileName + "\"";
 }
 
 }  // namespace vapp_connection

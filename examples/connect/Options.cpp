@@ -27,8 +27,6 @@ const char csHelp[] =
 
 namespace {
 
-using std::string_view_literals::operator""sv;
-
 // Backslashes count only in front of a quote.
 std::string Quoted(std::string_view word) {
     if (!word.empty() && word.find_first_of(" \t\"") == std::string_view::npos) return std::string(word);
@@ -72,21 +70,21 @@ TOptions ReadOptions(int count, const char* const* arguments) {
     for (int at = 0; at < count; ++at) {
         const std::string_view name = arguments[at];
         const bool hasValue = at + 1 < count;
-        if (name == "--help"sv) {
+        if (name == "--help") {
             options.m_help = true;
-        } else if (name == "--tcp"sv) {
+        } else if (name == "--tcp") {
             options.m_tcp = true;
-        } else if (name == "--pipe"sv) {
+        } else if (name == "--pipe") {
             pipe = true;
-        } else if (name == "--deploy"sv) {
+        } else if (name == "--deploy") {
             options.m_deploy = true;
-        } else if (name == "--keyword"sv && hasValue) {
+        } else if (name == "--keyword" && hasValue) {
             options.m_keyword = arguments[++at];
-        } else if ((name == "--remote"sv || name == "--check"sv) && hasValue) {
-            options.m_check = options.m_check || name == "--check"sv;
+        } else if ((name == "--remote" || name == "--check") && hasValue) {
+            options.m_check = options.m_check || name == "--check";
             remote = true;
             options.m_target = arguments[++at];
-        } else if (name == "--"sv) {
+        } else if (name == "--") {
             command.assign(arguments + at + 1, arguments + count);
             break;
         } else {

@@ -76,7 +76,10 @@ void Obey(const std::string& word, const std::string& switches) {
         for (int pause = 0; pause < 30000 && !fs::exists(value); ++pause)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    if (name == "exit") std::_Exit(std::stoi(value));
+    if (name == "exit") {
+        static_cast<void>(Script());
+        std::_Exit(std::stoi(value));
+    }
 }
 
 }  // namespace
@@ -94,6 +97,7 @@ int PlayFtpProgram(const std::vector<std::string>& arguments) {
             Obey(argument, switches);
         }
     }
+    static_cast<void>(Script());
     return 0;
 }
 

@@ -13,6 +13,9 @@
 ///     mute         closes its output and errors
 ///     until:FILE   waits for the file, half a minute at least
 ///     exit:N       ends the process
+///
+/// Unless it was made deaf, it ends only behind the end of its script, as the real one does: a script that
+/// nobody reads is a failure.
 #pragma once
 
 #include <string>
