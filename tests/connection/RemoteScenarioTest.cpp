@@ -235,7 +235,7 @@ TEST_F(RemoteScenarioTest, ALoginThatDiesInTheMiddleEndsTheStream) {
     std::string last;
     int got = 0;
     while ((got = module.Recv(buffer, 4096, message)) > 0)
-        last.assign(buffer, static_cast<std::size_t>(got));
+        last.append(buffer, static_cast<std::size_t>(got));
     EXPECT_EQ(got, 0);
     EXPECT_NE(Text(message).find("Recv failed with error: "), std::string::npos);
     EXPECT_TRUE(module.IsConnected());
