@@ -46,9 +46,12 @@ TEncodedSize MeasureEncoded(std::u16string_view units) {
 }
 
 CString WithMarker(std::string_view bytes) {
+    const std::string_view kept = bytes.substr(0, INT_MAX - 1);
     CString text;
-    text.Reserve(static_cast<int>(std::min<std::size_t>(bytes.size() + 1, INT_MAX)));
-    return text.AppendChar(vapp_text::cnTextMarker).Append(bytes);
+    char* const out = text.GetBufferSetLength(static_cast<int>(kept.size() + 1));
+    *out = vapp_text::cnTextMarker;
+    kept.copy(out + 1, kept.size());
+    return text;
 }
 
 }  // namespace

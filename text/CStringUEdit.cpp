@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <string_view>
 
 #include "text/Codec.h"
 #include "text/WideUnits.h"
@@ -67,8 +68,9 @@ std::int64_t CStringU::ClampOffset(std::int64_t offset) const noexcept {
 CStringU CStringU::Piece(std::int64_t first, std::int64_t behind) const {
     const bool whole = first == 0 && behind == m_stored.GetLength();
     if (whole && !HasNonAscii()) return *this;
-    const int length = static_cast<int>(std::max<std::int64_t>(behind - first, 0));
-    return {Payload() + first, HasNonAscii() ? TextEncoding::Utf8Auto : TextEncoding::Raw, length};
+    const auto length = std::max<std::int64_t>(behind - first, 0);
+    if (HasNonAscii()) return {Payload() + first, TextEncoding::Utf8Auto, static_cast<int>(length)};
+    return {CString(std::string_view(Payload() + first, static_cast<std::size_t>(length))), TAscii()};
 }
 
 CStringU CStringU::Left(std::int64_t byteCount) const {

@@ -6,8 +6,8 @@
 /// is not quoted here, whereas one that begins with U+201C and ends with a plain quote is. Texts stored by
 /// hosts depend on it.
 
-#include <algorithm>
 #include <climits>
+#include <string_view>
 
 #include "text/AsciiBytes.h"
 #include "text/Codec.h"
@@ -37,11 +37,16 @@ struct TQuoted {
 };
 
 CString Surrounded(std::string_view payload, bool marked) {
-    const std::size_t length = payload.size() + (marked ? 3 : 2);
+    const std::string_view kept = payload.substr(0, INT_MAX - 3);
+    const std::size_t marker = marked ? 1 : 0;
     CString text;
-    text.Reserve(static_cast<int>(std::min<std::size_t>(length, INT_MAX)));
-    if (marked) text.AppendChar(vapp_text::cnTextMarker);
-    return text.AppendChar('"').Append(payload).AppendChar('"');
+    char* const out = text.GetBufferSetLength(static_cast<int>(kept.size() + 2 + marker));
+    if (marked) *out = vapp_text::cnTextMarker;
+    char* const quoted = out + marker;
+    quoted[0] = '"';
+    kept.copy(quoted + 1, kept.size());
+    quoted[kept.size() + 1] = '"';
+    return text;
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 /// typed anything" rely on either answer.
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "text/BlankChars.h"
@@ -69,6 +70,17 @@ template <typename Removed>
 TRange WithoutBoth(const CStringU& text, const Removed& removed) {
     const std::int64_t first = BehindFirst(text.PayloadView(), removed);
     return {first, BehindLast(text.PayloadView(), first, removed)};
+}
+
+/// What CString::Trim leaves, byte by byte: what that takes for white space are the blank characters of
+/// ASCII.
+TRange WithoutAsciiBlanks(std::string_view text) {
+    const auto isBlank = [](char byte) {
+        return IsAsciiByte(byte) && IsBlankCharU(static_cast<unsigned char>(byte));
+    };
+    const auto first = std::find_if_not(text.begin(), text.end(), isBlank);
+    const auto behind = std::find_if_not(text.rbegin(), std::make_reverse_iterator(first), isBlank).base();
+    return {first - text.begin(), behind - text.begin()};
 }
 
 /// A set as a test.
@@ -132,10 +144,10 @@ CStringU& CStringU::TrimRight(const CStringU& set) {
 }
 
 CStringU CStringU::Trimmed() const {
-    return CStringU(*this).Trim();
+    const TRange kept = HasNonAscii() ? WithoutBoth(*this, IsBlankCharU) : WithoutAsciiBlanks(PayloadView());
+    return Piece(kept.first, kept.behind);
 }
 
-// The characters that CString takes for white space are the blank ones of ASCII.
 CStringU& CStringU::Trim() {
     if (HasNonAscii()) {
         const TRange kept = WithoutBoth(*this, IsBlankCharU);

@@ -4,6 +4,7 @@
 #include "text/Tokenizer.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace vapp_text {
 
@@ -28,8 +29,9 @@ CStringU TTokenizer::NextToken(std::int64_t& pos) const {
     // The character at the start is no separator, so that a token is never empty.
     const std::int64_t end = Skip<false>(start);
     pos = SkipSeparators(end);
-    const auto encoding = m_text.HasNonAscii() ? TextEncoding::Utf8Auto : TextEncoding::Raw;
-    return {m_text.Payload() + start, encoding, static_cast<int>(end - start)};
+    const std::string_view token(m_text.Payload() + start, static_cast<std::size_t>(end - start));
+    if (!m_text.HasNonAscii()) return {CString(token), CStringU::TAscii()};
+    return {token.data(), TextEncoding::Utf8Auto, static_cast<int>(token.size())};
 }
 
 }  // namespace vapp_text
