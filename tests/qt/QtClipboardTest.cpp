@@ -42,9 +42,7 @@ TEST(QtClipboard, HalfASurrogatePairIsReplacedNotDropped) {
         clipboard.SetText(u"a\xd83d"
                           u"b",
                           "a?b"));
-    EXPECT_EQ(clipboard.GetText(),
-              u"a\ufffd"
-              u"b");
+    EXPECT_EQ(clipboard.GetText(), u"a?b");
 }
 
 TEST(QtClipboard, TheFactoryOffersIt) {

@@ -22,14 +22,20 @@ QClipboard* DesktopClipboard() {
 
 }  // namespace
 
+// Whether the desktop took it is asked by reading it back: not every platform of Qt tells who owns its
+// clipboard.
 bool QtClipboard::SetText(std::u16string_view wide, std::string_view narrow) {
     QClipboard* const clipboard = DesktopClipboard();
     if (clipboard == nullptr) return false;
+    const QByteArray unicodeForm = QStringView(wide).toUtf8();
+    const QByteArray narrowForm(narrow.data(), static_cast<qsizetype>(narrow.size()));
     auto data = std::make_unique<QMimeData>();
-    data->setData(csUnicodeType, QStringView(wide).toUtf8());
-    data->setData(csNarrowType, QByteArray(narrow.data(), static_cast<qsizetype>(narrow.size())));
+    data->setData(csUnicodeType, unicodeForm);
+    data->setData(csNarrowType, narrowForm);
     clipboard->setMimeData(data.release());  // the clipboard takes it over
-    return clipboard->ownsClipboard();
+    const QMimeData* const taken = clipboard->mimeData();
+    return taken != nullptr && taken->data(csUnicodeType) == unicodeForm &&
+           taken->data(csNarrowType) == narrowForm;
 }
 
 std::u16string QtClipboard::GetText() const {
