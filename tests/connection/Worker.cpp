@@ -6,9 +6,11 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 #include "platform/ChildProcess.h"
 #include "platform/Pipe.h"
@@ -24,22 +26,10 @@ using Words = std::vector<std::string>;
 using platform_test::LocalPeer;
 using vapp_platform::OwnedHandle;
 
-class Channel {
-public:
-    Channel() = default;
-    Channel(const Channel&) = delete;
-    Channel& operator=(const Channel&) = delete;
-    virtual ~Channel() = default;
-    virtual void Say(std::string_view bytes) = 0;
-    /// One to `size` bytes; none at the end.
-    virtual std::string Get(std::size_t size) = 0;
-    virtual void End() = 0;
-};
-
 class SocketChannel : public Channel {
 public:
     explicit SocketChannel(std::uint16_t port) : m_peer(port) {}
-    void Say(std::string_view bytes) override { m_peer.Send(bytes); }
+    bool Say(std::string_view bytes) override { return m_peer.Send(bytes); }
     std::string Get(std::size_t size) override { return m_peer.ReceiveSome(size); }
     void End() override { m_peer.Close(); }
 
@@ -50,8 +40,8 @@ private:
 class StreamChannel : public Channel {
 public:
     StreamChannel() : m_input(platform_test::StandardStream(0)), m_output(platform_test::StandardStream(1)) {}
-    void Say(std::string_view bytes) override {
-        static_cast<void>(vapp_platform::WriteOnce(m_output, bytes.data(), bytes.size()));
+    bool Say(std::string_view bytes) override {
+        return !vapp_platform::WriteOnce(m_output, bytes.data(), bytes.size()).Failed();
     }
     std::string Get(std::size_t size) override {
         std::string bytes(size, '\0');
@@ -68,9 +58,9 @@ private:
     OwnedHandle m_output;
 };
 
+// Not for ever: a grandchild has nobody who would end it.
 void LiveOn() {
-    while (true)
-        std::this_thread::sleep_for(std::chrono::hours(1));
+    std::this_thread::sleep_for(std::chrono::minutes(10));
 }
 
 void Echo(Channel& channel) {
@@ -102,6 +92,11 @@ void StartGrandchild() {
     static_cast<void>(vapp_platform::ChildProcess::Start(start));
 }
 
+std::map<std::string, std::function<void(Channel&, const std::string&)>>& AddedWords() {
+    static std::map<std::string, std::function<void(Channel&, const std::string&)>> words;
+    return words;
+}
+
 void Obey(Channel& channel, const std::string& word) {
     const std::string name = word.substr(0, word.find(':'));
     const std::string value = name == word ? std::string() : word.substr(name.size() + 1);
@@ -129,6 +124,8 @@ void Obey(Channel& channel, const std::string& word) {
         Forget(channel, std::stoul(value), 1);
         Echo(channel);
     }
+    const auto added = AddedWords().find(name);
+    if (added != AddedWords().end()) added->second(channel, value);
 }
 
 int Work(Channel& channel, const Words& words) {
@@ -156,6 +153,10 @@ int WorkOverSocket(const Words& words) {
 constexpr const char* csLoginProgram = "plink";
 
 }  // namespace
+
+void AddWorkerWord(const std::string& name, std::function<void(Channel&, const std::string&)> obey) {
+    AddedWords().insert_or_assign(name, std::move(obey));
+}
 
 void AddWorkerRoles() {
     platform_test::AddRole("pipe", WorkOverStreams);

@@ -9,18 +9,38 @@
 ///     echo         sends back what comes, until the end
 ///     slow-echo:N  reads one byte at a time, N of them, then echoes
 ///     end          closes its side of the channel
-///     live         does nothing, for ever
-///     deaf         does nothing for ever and ignores polite requests to end
-///     grandchild   starts a child that holds the worker's streams, for ever
+///     live         does nothing, for longer than any test takes
+///     deaf         the same, and ignores polite requests to end
+///     grandchild   starts a child that holds the worker's streams, and lives
 ///     exit:N       ends the process
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "vapp/connection/ConnectionInfo.h"
 
 namespace connection_test {
+
+/// The worker's side of a connection.
+class Channel {
+public:
+    Channel() = default;
+    Channel(const Channel&) = delete;
+    Channel& operator=(const Channel&) = delete;
+    virtual ~Channel() = default;
+    /// False where nobody hears any more.
+    virtual bool Say(std::string_view bytes) = 0;
+    /// One to `size` bytes; none at the end.
+    virtual std::string Get(std::size_t size) = 0;
+    virtual void End() = 0;
+};
+
+/// Adds a word that workers obey: it is told what stands behind the colon.
+void AddWorkerWord(const std::string& name, std::function<void(Channel&, const std::string&)> obey);
 
 /// Adds the roles of workers, "tcp" and "pipe", and that of the login program, which plays the worker that
 /// its command names. To be called before PlayChildRole.
