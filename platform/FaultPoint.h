@@ -1,8 +1,9 @@
 /// @file
 /// Where a test makes a system call fail that doesn't fail by itself on a healthy machine.
 ///
-/// For the calls that set a connection up. Not on the way of data: what can go wrong there is made to go
-/// wrong for real. Without a source of faults a point costs one relaxed load.
+/// For the calls that set a connection up, and for what a start asks of the machine. Not on the way of data:
+/// what can go wrong there is made to go wrong for real. Without a source of faults a point costs one relaxed
+/// load.
 #pragma once
 
 namespace vapp_platform {
@@ -24,6 +25,7 @@ enum class SystemCall {
     Listen,
     WaitForSocket,
     Accept,
+    AskProcessor,
 };
 
 /// Asked before each such call, from any thread: the code that it is to fail with, 0 to let it be made.

@@ -14,14 +14,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <mutex>
 #include <string>
 #include <vector>
 
 #include "platform/Folders.h"
-#include "platform/posix/EnvironmentLock.h"
 #include "platform/posix/MappedFile.h"
 #include "platform/posix/NativePath.h"
+#include "platform/posix/PathVariable.h"
 #include "platform/posix/SmallFile.h"
 #include "platform/posix/UserDirs.h"
 
@@ -54,13 +53,6 @@ std::string HomeOfAccount() {
     if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
         return {};
     return found->pw_dir != nullptr ? found->pw_dir : std::string();
-}
-
-// A variable with an absolute path; the rules ignore any other.
-std::string PathVariable(const char* name) {
-    const std::lock_guard guard(EnvironmentLock());
-    const char* value = std::getenv(name);
-    return value != nullptr && *value == '/' ? value : std::string();
 }
 
 std::string Home() {

@@ -12,6 +12,7 @@
 
 #include "platform/ChildEnvironment.h"
 #include "platform/CommandLine.h"
+#include "platform/ProgramArguments.h"
 #include "tests/platform/SystemHelpers.h"
 
 namespace platform_test {
@@ -50,6 +51,14 @@ int SayArguments(const Arguments& arguments) {
     std::string all;
     for (const std::string& argument : arguments)
         all += argument + '\0';
+    Say(all);
+    return 0;
+}
+
+int SayProgramArguments(const Arguments& /*arguments*/) {
+    std::string all;
+    for (const CStringU& word : vapp_platform::ProgramArguments())
+        all += '[' + std::string(word.Payload()) + ']';
     Say(all);
     return 0;
 }
@@ -120,6 +129,7 @@ std::map<std::string, Role, std::less<>>& Roles() {
         {"flood", Flood},
         {"folder", SayFolder},
         {"hang", Hang},
+        {"program-arguments", SayProgramArguments},
         {"variable", SayVariable},
     };
     return roles;

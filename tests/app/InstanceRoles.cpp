@@ -1,0 +1,50 @@
+/// @file
+/// The answer is one sign on standard output; the end of standard input is the word to go.
+#include "tests/app/InstanceRoles.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "app/COXInstanceManager.h"
+
+namespace app_test {
+
+namespace {
+
+int BeAnInstance(const std::vector<std::string>& arguments) {
+    COXInstanceManager manager(arguments.at(0).c_str());
+    manager.SetMaxAllowedInstances(static_cast<std::uint32_t>(std::stoul(arguments.at(1))));
+    std::fputc('0' + manager.CheckMaxAllowedInstances(), stdout);
+    std::fflush(stdout);
+    while (std::fgetc(stdin) != EOF) {
+    }
+    return 0;
+}
+
+}  // namespace
+
+void AddInstanceRoles() {
+    platform_test::AddRole("instance", BeAnInstance);
+}
+
+OtherInstance::OtherInstance(const std::string& name, int limit)
+    : m_process(platform_test::StartRole("instance", {name, std::to_string(limit)})) {
+    char sign = '?';
+    EXPECT_NE(m_process.child, nullptr);
+    if (m_process.child == nullptr) return;
+    EXPECT_EQ(m_process.output->Read(&sign, 1).count, 1);
+    m_answer = sign;
+}
+
+void OtherInstance::End() {
+    m_process.input.reset();
+    EXPECT_TRUE(m_process.child->WaitFor(platform_test::cnLong));
+}
+
+void OtherInstance::Kill() {
+    EXPECT_TRUE(m_process.child->Terminate());
+    EXPECT_TRUE(m_process.child->WaitFor(platform_test::cnLong));
+}
+
+}  // namespace app_test
