@@ -7,6 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "text/TranslationTable.h"
+
 namespace vlang {
 
 namespace {
@@ -36,6 +38,16 @@ CString gTranslate(const char* key) {
 void gSetTranslation(const CString& key, const CString& text) {
     const std::lock_guard guard(Lock());
     Translations().insert_or_assign(key, text);
+}
+
+int gLoadTranslations(std::string_view table) {
+    const vapp_text::TTranslationTable read = vapp_text::ReadTranslationTable(table);
+    const std::lock_guard guard(Lock());
+    for (const auto& [english, text] : read.texts) {
+        const std::string key = csKeyPrefix + english;
+        Translations().insert_or_assign(key.c_str(), text.c_str());
+    }
+    return read.wrongLine;
 }
 
 void gClearTranslations() {

@@ -22,11 +22,16 @@ int CComboBox::AddString(const CStringU& text) {
     };
     const auto place =
         m_sorted ? std::upper_bound(m_items.begin(), m_items.end(), text, less) : m_items.end();
-    const auto index = static_cast<int>(place - m_items.begin());
-    m_items.insert(place, text);
-    if (m_current >= index) ++m_current;
+    return InsertString(static_cast<int>(place - m_items.begin()), text);
+}
+
+int CComboBox::InsertString(int index, const CStringU& text) {
+    const int place = index == -1 ? GetCount() : index;
+    if (place < 0 || place > GetCount()) return -1;
+    m_items.insert(m_items.begin() + place, text);
+    if (m_current >= place) ++m_current;
     TellPeer(cnChangeItems | cnChangeSelection);
-    return index;
+    return place;
 }
 
 CStringU CComboBox::GetLBText(int index) const {

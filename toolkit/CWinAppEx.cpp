@@ -3,11 +3,25 @@
 /// the default.
 #include "vapp/toolkit/CWinAppEx.h"
 
+#include <string_view>
 #include <utility>
+
+#include "vapp/toolkit/CCommandLineInfo.h"
 
 namespace {
 
 CWinAppEx* s_app = nullptr;
+
+// How many signs in front make a word a switch; none, also if nothing follows them.
+std::size_t SwitchSigns(std::string_view word, bool slashIsSwitch) {
+    std::size_t signs = 0;
+    if (word.starts_with("--")) {
+        signs = 2;
+    } else if (word.starts_with('-') || (slashIsSwitch && word.starts_with('/'))) {
+        signs = 1;
+    }
+    return signs < word.size() ? signs : 0;
+}
 
 }  // namespace
 
@@ -22,6 +36,25 @@ CWinAppEx::~CWinAppEx() {
 
 CWinAppEx* CWinAppEx::GetApp() {
     return s_app;
+}
+
+int CWinAppEx::InitInstance() {
+    return s_app == this ? 1 : 0;
+}
+
+void CWinAppEx::SetArguments(std::vector<CStringU> words, bool slashIsSwitch) {
+    m_arguments = std::move(words);
+    m_slashIsSwitch = slashIsSwitch;
+}
+
+void CWinAppEx::ParseCommandLine(CCommandLineInfo& info) const {
+    for (std::size_t i = 0; i < m_arguments.size(); ++i) {
+        const CStringU& word = m_arguments[i];
+        const std::size_t signs = SwitchSigns(word.PayloadView(), m_slashIsSwitch);
+        const bool isLast = i + 1 == m_arguments.size();
+        info.ParseParam(signs > 0 ? CStringU(word.Payload() + signs, TextEncoding::Utf8Auto) : word,
+                        signs > 0, isLast);
+    }
 }
 
 void CWinAppEx::SetProfileStore(std::unique_ptr<ProfileStore> store) {

@@ -18,6 +18,18 @@ ClipboardPeer* PeerFactory::GetClipboard() {
     return nullptr;
 }
 
+std::unique_ptr<Peer> PeerFactory::CreateSplash(TSplashScreen& /*splash*/) {
+    return nullptr;
+}
+
+std::optional<int> PeerFactory::ShowMessageBox(const TMessageBox& /*box*/) {
+    return std::nullopt;
+}
+
+std::vector<CRect> PeerFactory::MonitorAreas() const {
+    return {};
+}
+
 PeerFactory* PeerFactory::Installed() {
     return s_installed;
 }

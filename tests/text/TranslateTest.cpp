@@ -23,3 +23,16 @@ TEST(Translate, HostsTextWinsUntilItIsForgotten) {
     vlang::gClearTranslations();
     EXPECT_EQ(vlang::gTranslate("__$$Translatable$$_No cells"), "No cells");
 }
+
+TEST(Translate, ATableIsLoadedWholeOrNotAtAll) {
+    EXPECT_EQ(vlang::gLoadTranslations("# German\n\nReserve\tReservieren\n&No\t&Nein\n"), 0);
+    EXPECT_EQ(vlang::gTranslate("__$$Translatable$$_Reserve"), "Reservieren");
+    EXPECT_EQ(vlang::gTranslate("__$$Translatable$$_&No"), "&Nein");
+    EXPECT_EQ(vlang::gTranslate("Reserve"), "Reserve") << "no key";
+    EXPECT_EQ(vlang::gLoadTranslations("Reserve\tx\nbroken\n"), 2);
+    EXPECT_EQ(vlang::gTranslate("__$$Translatable$$_Reserve"), "Reservieren");
+    EXPECT_EQ(vlang::gLoadTranslations("Reserve\tBelegen"), 0) << "a later table wins";
+    EXPECT_EQ(vlang::gTranslate("__$$Translatable$$_Reserve"), "Belegen");
+    EXPECT_EQ(vlang::gTranslate("__$$Translatable$$_&No"), "&Nein");
+    vlang::gClearTranslations();
+}

@@ -79,3 +79,18 @@ TEST(CComboBox, OnlyTheUsersPickIsToldToTheParent) {
     combo.SetCurSel(-9);
     EXPECT_EQ(combo.GetCurSel(), -1);
 }
+
+TEST(CComboBox, InsertsInFrontOfAnItem) {
+    CComboBox combo(true);
+    EXPECT_EQ(combo.InsertString(0, "z"), 0);
+    EXPECT_EQ(combo.InsertString(0, "y"), 0) << "sorted or not";
+    EXPECT_EQ(combo.InsertString(-1, "a"), 2);
+    EXPECT_EQ(combo.InsertString(3, "b"), 3);
+    EXPECT_EQ(combo.InsertString(5, "c"), -1);
+    EXPECT_EQ(combo.InsertString(-2, "c"), -1);
+    ASSERT_EQ(combo.GetCount(), 4);
+    combo.SetCurSel(1);
+    EXPECT_EQ(combo.InsertString(1, "x"), 1);
+    EXPECT_EQ(combo.GetLBText(combo.GetCurSel()), "z") << "the selected item stays selected";
+    EXPECT_EQ(combo.GetLBText(1), "x");
+}

@@ -45,3 +45,10 @@ TEST(CWinAppEx, StoreCanBeReplacedAndIsNeverNull) {
     app.SetProfileStore(nullptr);
     EXPECT_EQ(app.GetProfileInt("s", "k", 9), 9);
 }
+
+TEST(CWinAppEx, OnlyTheCurrentApplicationStarts) {
+    CWinAppEx first("first");
+    CWinAppEx second("second");
+    EXPECT_EQ(first.InitInstance(), 1);
+    EXPECT_EQ(second.InitInstance(), 0);
+}

@@ -33,12 +33,14 @@ TEST(Peer, EachKindOfWindowAsksForItsOwnPeer) {
     CListCtrl list;
     CXTPReportControl report;
     CSplitterWnd splitter;
+    TSplashScreen splash;
     ASSERT_TRUE(frame.CreateFrame("frame", {0, 0, 10, 10}));
     for (CWnd* child :
          std::initializer_list<CWnd*>{&view, &text, &edit, &button, &tab, &combo, &list, &report}) {
         ASSERT_TRUE(child->Create(&frame, 1));
     }
     ASSERT_TRUE(splitter.CreateStatic(&frame, 1, 1, 2));
+    ASSERT_TRUE(splash.Create(nullptr, 0));
     EXPECT_EQ(peers.Of(frame).kind, "frame");
     EXPECT_EQ(peers.Of(view).kind, "form");
     EXPECT_EQ(peers.Of(text).kind, "static");
@@ -49,6 +51,7 @@ TEST(Peer, EachKindOfWindowAsksForItsOwnPeer) {
     EXPECT_EQ(peers.Of(list).kind, "list");
     EXPECT_EQ(peers.Of(report).kind, "report");
     EXPECT_EQ(peers.Of(splitter).kind, "splitter");
+    EXPECT_EQ(peers.Of(splash).kind, "splash");
 }
 
 TEST(Peer, PeerEndsWhileItsControlIsWhole) {
@@ -80,4 +83,23 @@ TEST(Peer, PeerEndsWhileItsControlIsWhole) {
         ASSERT_TRUE(combo.Create(nullptr, 1));
     }
     EXPECT_EQ(peers.seen, 4);
+}
+
+TEST(Peer, AnAdapterNeedsNoSplashNoBoxesAndNoMonitors) {
+    class PlainPeers : public RecordingPeers {
+    public:
+        std::unique_ptr<Peer> CreateSplash(TSplashScreen& window) override {
+            return PeerFactory::CreateSplash(window);
+        }
+        std::optional<int> ShowMessageBox(const TMessageBox& box) override {
+            return PeerFactory::ShowMessageBox(box);
+        }
+        [[nodiscard]] std::vector<CRect> MonitorAreas() const override { return PeerFactory::MonitorAreas(); }
+    };
+    PlainPeers peers;
+    TSplashScreen splash;
+    ASSERT_TRUE(splash.Create(nullptr, 0));
+    EXPECT_EQ(splash.GetPeer(), nullptr);
+    EXPECT_EQ(TMessageBox(nullptr, "title", "text", MB_OK).Ask(), std::nullopt);
+    EXPECT_TRUE(peers.MonitorAreas().empty());
 }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,6 +22,8 @@
 #include "vapp/toolkit/CTabCtrl.h"
 #include "vapp/toolkit/CXTPReportControl.h"
 #include "vapp/toolkit/Peer.h"
+#include "vapp/toolkit/TMessageBox.h"
+#include "vapp/toolkit/TSplashScreen.h"
 
 /// What one window's peer was told.
 struct PeerRecord {
@@ -83,7 +86,10 @@ public:
         for (auto& [window, record] : m_records)
             record->Forget();
     }
-    CPoint cursor;  ///< what CursorPosition answers
+    CPoint cursor;                     ///< what CursorPosition answers
+    std::vector<CRect> monitors;       ///< what MonitorAreas answers
+    std::vector<TMessageBox> boxes;    ///< those that were shown
+    std::optional<int> answer = IDOK;  ///< to every box; nothing: boxes can't be shown
 
     std::unique_ptr<Peer> CreateFrame(CFrameWnd& window) override { return Make(window, "frame"); }
     std::unique_ptr<Peer> CreateSplitter(CSplitterWnd& window) override { return Make(window, "splitter"); }
@@ -95,6 +101,12 @@ public:
     std::unique_ptr<Peer> CreateCombo(CComboBox& window) override { return Make(window, "combo"); }
     std::unique_ptr<Peer> CreateList(CListCtrl& window) override { return Make(window, "list"); }
     std::unique_ptr<Peer> CreateReport(CXTPReportControl& window) override { return Make(window, "report"); }
+    std::unique_ptr<Peer> CreateSplash(TSplashScreen& window) override { return Make(window, "splash"); }
+    std::optional<int> ShowMessageBox(const TMessageBox& box) override {
+        if (answer) boxes.push_back(box);
+        return answer;
+    }
+    [[nodiscard]] std::vector<CRect> MonitorAreas() const override { return monitors; }
     [[nodiscard]] CPoint CursorPosition() const override { return cursor; }
 
 private:

@@ -51,6 +51,9 @@ static inline BOOL WriteProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR te
 /// Opaque picture; a toolkit adapter says what stands behind the pointer.
 struct HBITMAP__;  // NOLINT(bugprone-reserved-identifier): the name that the system gives it
 using HBITMAP = HBITMAP__*;
+/// Opaque module that holds resources.
+struct HINSTANCE__;  // NOLINT(bugprone-reserved-identifier): the name that the system gives it
+using HINSTANCE = HINSTANCE__*;
 using UINT = std::uint32_t;
 using DWORD = std::uint32_t;
 /// A colour: red in the low byte, green above it, blue in the high one of three.
@@ -58,6 +61,20 @@ using COLORREF = std::uint32_t;
 using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
+// Styles of message boxes: buttons in the lowest four bits, the icon in the next four.
+inline constexpr UINT MB_OK = 0x00;
+inline constexpr UINT MB_OKCANCEL = 0x01;
+inline constexpr UINT MB_YESNOCANCEL = 0x03;
+inline constexpr UINT MB_YESNO = 0x04;
+inline constexpr UINT MB_ICONERROR = 0x10;
+inline constexpr UINT MB_ICONQUESTION = 0x20;
+inline constexpr UINT MB_ICONWARNING = 0x30;
+inline constexpr UINT MB_ICONINFORMATION = 0x40;
+// Answers of message boxes.
+inline constexpr int IDOK = 1;
+inline constexpr int IDCANCEL = 2;
+inline constexpr int IDYES = 6;
+inline constexpr int IDNO = 7;
 #endif
 
 /// "No colour of its own": whoever paints takes the default.

@@ -16,6 +16,9 @@ public:
     void ResetContent();
     /// Adds an item (at its place if sorted) and gives its index. The selected item stays selected.
     int AddString(const CStringU& text);
+    /// Puts an item in front of the one at the index, sorted or not, and gives its index; -1 as the index
+    /// puts it at the end. Gives -1 out of range. The selected item stays selected.
+    int InsertString(int index, const CStringU& text);
     [[nodiscard]] int GetCount() const { return static_cast<int>(m_items.size()); }
     /// The item's text; empty out of range.
     [[nodiscard]] CStringU GetLBText(int index) const;

@@ -6,6 +6,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "vapp/Export.h"
 #include "vapp/toolkit/BasicTypes.h"
@@ -24,6 +26,8 @@ class CTabCtrl;
 class CComboBox;
 class CListCtrl;
 class CXTPReportControl;
+class TMessageBox;
+class TSplashScreen;
 
 /// What changed in a control; several may be told at once.
 enum PeerChange : UINT {
@@ -81,6 +85,16 @@ public:
     virtual std::unique_ptr<Peer> CreateCombo(CComboBox& combo) = 0;
     virtual std::unique_ptr<Peer> CreateList(CListCtrl& list) = 0;
     virtual std::unique_ptr<Peer> CreateReport(CXTPReportControl& report) = 0;
+
+    /// An adapter that shows no splash leaves this as it is.
+    virtual std::unique_ptr<Peer> CreateSplash(TSplashScreen& splash);
+
+    /// Shows a box and waits for the user: the answer of one of its buttons, or of its closing. Nothing, as
+    /// here, if it can't be shown.
+    virtual std::optional<int> ShowMessageBox(const TMessageBox& box);
+
+    /// The monitors' areas on the screen, the primary one first. None, as here, where they aren't known.
+    [[nodiscard]] virtual std::vector<CRect> MonitorAreas() const;
 
     /// Position of the pointer on the screen.
     [[nodiscard]] virtual CPoint CursorPosition() const = 0;
