@@ -1,0 +1,40 @@
+/// @file
+/// When the question is asked, and its words.
+#include "vapp/app/TPreferenceMgr.h"
+
+#include "vapp/text/Translate.h"
+#include "vapp/toolkit/TMessageBox.h"
+
+namespace prefs {
+
+namespace {
+
+CStringU Translated(const char* key) {
+    return {vlang::gTranslate(key), TextEncoding::Utf8Auto};
+}
+
+bool IsAgreed() {
+    TMessageBox box(nullptr, Translated("__$$Translatable$$_Reserve"),
+                    Translated("__$$Translatable$$_Do you want to reserve the cellview?"),
+                    MB_OKCANCEL | MB_ICONQUESTION);
+    box.SetButtonTexts({Translated("__$$Translatable$$_&Yes"), Translated("__$$Translatable$$_&No")});
+    return box.DoModal() == IDOK;
+}
+
+}  // namespace
+
+TPreferenceMgr& TPreferenceMgr::GetInstance() {
+    static TPreferenceMgr instance;
+    return instance;
+}
+
+TAskReserveStatus TPreferenceMgr::AskReserve(bool isManaged, TAskReserveOption option) {
+    m_status = NotAsked;
+    // Only AskAlways asks for permission: the asymmetry is wanted.
+    const bool isWanted =
+        (m_allowAskReserve && option == AskAlways) || (option == AskManagedCellsOnly && isManaged);
+    if (isWanted) m_status = IsAgreed() ? Agreed : Declined;
+    return m_status;
+}
+
+}  // namespace prefs
