@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "app/COXInstanceManager.h"
+#include "vapp/app/TApp.h"
 
 namespace app_test {
 
@@ -22,9 +23,22 @@ int BeAnInstance(const std::vector<std::string>& arguments) {
     return 0;
 }
 
+int SayWhatAnApplicationWasTold(const std::vector<std::string>& /*arguments*/) {
+    const TApp app;
+    std::printf("%zu:", app.GetArguments().size());
+    const char* separator = " ";
+    for (const CStringU& word : app.GetArguments()) {
+        std::printf("%s%s", separator, word.Payload());
+        separator = ", ";
+    }
+    std::fflush(stdout);
+    return 0;
+}
+
 }  // namespace
 
 void AddInstanceRoles() {
+    platform_test::AddRole("application", SayWhatAnApplicationWasTold);
     platform_test::AddRole("instance", BeAnInstance);
 }
 

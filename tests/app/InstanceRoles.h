@@ -1,6 +1,6 @@
 /// @file
 /// Another instance of an application: a process that says how its start went and stays until it is told to
-/// end, or is killed.
+/// end, or is killed; and one that says what its application object was told.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace app_test {
 
-/// Adds the role of these processes. To be called before PlayChildRole.
+/// Adds the roles of these processes. To be called before PlayChildRole.
 void AddInstanceRoles();
 
 class OtherInstance {
