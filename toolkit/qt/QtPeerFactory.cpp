@@ -2,7 +2,10 @@
 /// One peer for each kind of control.
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 
+#include <QApplication>
 #include <QCursor>
+#include <QScreen>
+#include <QThread>
 
 #include "toolkit/qt/QtButtonPeer.h"
 #include "toolkit/qt/QtClipboard.h"
@@ -11,8 +14,10 @@
 #include "toolkit/qt/QtFormPeer.h"
 #include "toolkit/qt/QtFramePeer.h"
 #include "toolkit/qt/QtListPeer.h"
+#include "toolkit/qt/QtMessageBox.h"
 #include "toolkit/qt/QtReportPeer.h"
 #include "toolkit/qt/QtRowAccessible.h"
+#include "toolkit/qt/QtSplashPeer.h"
 #include "toolkit/qt/QtSplitterPeer.h"
 #include "toolkit/qt/QtStaticPeer.h"
 #include "toolkit/qt/QtTabPeer.h"
@@ -26,6 +31,8 @@
 #include "vapp/toolkit/CTabCtrl.h"
 #include "vapp/toolkit/CView.h"
 #include "vapp/toolkit/CXTPReportControl.h"
+#include "vapp/toolkit/TMessageBox.h"
+#include "vapp/toolkit/TSplashScreen.h"
 
 using namespace vapp_qt;
 
@@ -80,6 +87,25 @@ std::unique_ptr<Peer> QtPeerFactory::CreateList(CListCtrl& list) {
 
 std::unique_ptr<Peer> QtPeerFactory::CreateReport(CXTPReportControl& report) {
     return std::make_unique<QtReportPeer>(report);
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateSplash(TSplashScreen& splash) {
+    return std::make_unique<QtSplashPeer>(splash);
+}
+
+std::optional<int> QtPeerFactory::ShowMessageBox(const TMessageBox& box) {
+    // Without its application object Qt shows nothing; on other threads it must not.
+    if (qApp == nullptr || QThread::currentThread() != qApp->thread()) return std::nullopt;
+    return gShowMessageBox(box);
+}
+
+std::vector<CRect> QtPeerFactory::MonitorAreas() const {
+    std::vector<CRect> areas;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect area = screen->geometry();
+        areas.emplace_back(area.x(), area.y(), area.x() + area.width(), area.y() + area.height());
+    }
+    return areas;
 }
 
 CPoint QtPeerFactory::CursorPosition() const {

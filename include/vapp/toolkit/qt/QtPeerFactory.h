@@ -29,6 +29,9 @@ public:
     std::unique_ptr<Peer> CreateList(CListCtrl& list) override;
     std::unique_ptr<Peer> CreateReport(CXTPReportControl& report) override;
 
+    std::unique_ptr<Peer> CreateSplash(TSplashScreen& splash) override;
+    std::optional<int> ShowMessageBox(const TMessageBox& box) override;
+    [[nodiscard]] std::vector<CRect> MonitorAreas() const override;
     [[nodiscard]] CPoint CursorPosition() const override;
     [[nodiscard]] ClipboardPeer* GetClipboard() override;
 };
