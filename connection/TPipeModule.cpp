@@ -71,9 +71,9 @@ bool TPipeModule::CloseChildsEnds(CStringU& message) {
         message = "StdOutWr CloseHandle";
         return false;
     }
-    // Under Wine, and on Linux as there, this one stays open: to write to a worker that has gone then fills
-    // the pipe instead of failing.
-    if (!gIsWine() && m_pipes->inputRead.Close() != 0) {
+    // Under Wine this one stays open, with the consequence that to write to a worker that has gone fills the
+    // pipe instead of failing. Native Linux has no need of that, although gIsWine is true there.
+    if (!vapp_platform::IsWindowsUnderWine() && m_pipes->inputRead.Close() != 0) {
         message = "StdInRd CloseHandle";
         return false;
     }

@@ -1,13 +1,18 @@
 /// @file
-/// The sockets of a connection. What is told to stay open when a handshake fails stays open until the object
-/// ends.
+/// The sockets of a connection. Where a handshake fails, what was open by then stays open until the object
+/// ends: the listening socket behind a worker that never came, the client behind a wrong keyword.
 ///
 /// A socket is closed once and never under a call of another thread: the objects count who is inside.
+///
+/// The surprise: an accept while the connection is up leaves it without a client. The old client is put
+/// aside, open, for the thread that may still be receiving from it.
 #include "vapp/connection/TTCPModule.h"
 
 #include <algorithm>
+#include <chrono>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include "connection/Limits.h"
@@ -57,12 +62,38 @@ CStringU TimedOutMessage(const CStringU& keyword) {
 void AppendAddress(std::vector<wchar_t>& environment, std::uint16_t port) {
     if (environment.empty()) {
         environment = vapp_platform::EnvironmentSnapshot();
+    } else if (environment.front() == L'\0') {
+        // A block without entries: behind a NUL at its front nobody would look for one.
+        environment.clear();
     } else {
         environment.pop_back();
     }
     const std::wstring entry = L"TCONNECT_ADDRESS=localhost:" + std::to_wstring(port);
     environment.insert(environment.end(), entry.begin(), entry.end());
     environment.insert(environment.end(), 2, L'\0');
+}
+
+using std::chrono::milliseconds;
+
+// Between two waits of which the first has failed.
+constexpr milliseconds cnRetryPause{10};
+
+using WaitCall = SocketWait (Socket::*)(milliseconds);
+
+// False when the limit is over. A wait that fails says nothing about the socket, so it is made again until
+// then; without a socket there is nothing to wait for, and the call that follows says why it fails.
+bool WaitUntilReady(Socket& socket, WaitCall wait) {
+    const milliseconds limit = vapp_connection::CurrentLimits().socketWait;
+    const auto end = std::chrono::steady_clock::now() + limit;
+    milliseconds left = limit;
+    do {
+        const WaitAnswer answer = (socket.*wait)(left).answer;
+        if (answer != WaitAnswer::Failed) return answer == WaitAnswer::Ready;
+        if (!socket.IsOpen()) return true;
+        std::this_thread::sleep_for(std::min(left, cnRetryPause));
+        left = std::chrono::ceil<milliseconds>(end - std::chrono::steady_clock::now());
+    } while (left.count() > 0);
+    return false;
 }
 
 }  // namespace
@@ -72,8 +103,9 @@ TTCPModule::TTCPModule(ConnectionInfo&& info) : TTCPModule(static_cast<const Con
 TTCPModule::TTCPModule(const ConnectionInfo& info)
     : TConnectionModule(info),
       m_socketLibrary(std::make_unique<vapp_platform::SocketLibrary>()),
-      m_listenSocket(std::make_unique<Socket>()),
-      m_clientSocket(std::make_unique<Socket>()) {
+      m_listenSocket(std::make_unique<Socket>()) {
+    m_clients.push_back(std::make_unique<Socket>());
+    m_clientSocket = m_clients.front().get();
     SetTCPEnvironments();
 }
 
@@ -85,6 +117,12 @@ TTCPModule::~TTCPModule() {
 void TTCPModule::SetTCPEnvironments() {
     vapp_platform::SetEnvironmentValue("CONNECTION_TYPE_TCP", "");
     vapp_platform::SetEnvironmentValue("VORNEX_HOST_NAME", m_info.hostName.ToAnsi());
+}
+
+void TTCPModule::AddClient(std::unique_ptr<Socket> client) {
+    const std::lock_guard guard(m_clientsMutex);
+    m_clientSocket = client.get();
+    m_clients.push_back(std::move(client));
 }
 
 bool TTCPModule::InitSocket(CStringU& message) {
@@ -119,7 +157,7 @@ bool TTCPModule::InitConnection(std::vector<wchar_t>& environment, CStringU& mes
 }
 
 bool TTCPModule::AcceptConnection(CStringU& message) {
-    m_clientSocket = std::make_unique<Socket>();
+    m_clientSocket = m_clients.front().get();
     if (!m_workerLatch.test_and_set()) {
         m_listenSocket->Close();
         return true;
@@ -137,7 +175,7 @@ bool TTCPModule::AcceptConnection(CStringU& message) {
     m_listenSocket->Close();
     // Success without a client: hosts know a worker that could not be let in by its first Send or Recv.
     if (client == nullptr) return true;
-    m_clientSocket = std::move(client);
+    AddClient(std::move(client));
 
     CStringU received;
     const int count = ReadKeyword(received, message);
@@ -159,13 +197,11 @@ int TTCPModule::ReadKeyword(CStringU& received, CStringU& message) {
     const int wanted = std::min(m_info.keyword.GetByteLength(), cnKeywordBuffer);
     char buffer[cnKeywordBuffer + 1];
     int count = 0;
+    Socket& client = *m_clientSocket;
     while (count < wanted) {
-        const SocketWait wait = m_clientSocket->WaitReadable(vapp_connection::CurrentLimits().socketWait);
-        if (wait.answer == WaitAnswer::TimedOut) return 0;
-        // Never a byte beyond the keyword: the rest belongs to Recv. A wait that failed says nothing about
-        // the bytes; the call does.
-        const Transfer got =
-            m_clientSocket->Receive(buffer + count, static_cast<std::size_t>(wanted - count));
+        if (!WaitUntilReady(client, &Socket::WaitReadable)) return 0;
+        // Never a byte beyond the keyword: the rest belongs to Recv.
+        const Transfer got = client.Receive(buffer + count, static_cast<std::size_t>(wanted - count));
         if (got.Failed()) {
             message = CStringU::Formatted("Read Keyword failed with error: %d\n", got.code);
             return -1;
@@ -182,10 +218,10 @@ bool TTCPModule::Send(const char* data, std::uint64_t size, CStringU& message) {
     const std::lock_guard guard(m_sendMutex);
     const auto count = static_cast<std::int32_t>(size);
     std::int32_t done = 0;
+    Socket& client = *m_clientSocket;
     while (done < count) {
-        const SocketWait wait = m_clientSocket->WaitWritable(vapp_connection::CurrentLimits().socketWait);
-        if (wait.answer == WaitAnswer::TimedOut) return false;
-        const Transfer sent = m_clientSocket->Send(data + done, static_cast<std::size_t>(count - done));
+        if (!WaitUntilReady(client, &Socket::WaitWritable)) return false;
+        const Transfer sent = client.Send(data + done, static_cast<std::size_t>(count - done));
         if (sent.Failed()) {
             message = CStringU::Formatted("send failed with error: %d\n", sent.code);
             Disconnect();
@@ -203,7 +239,8 @@ int TTCPModule::Recv(char* buffer, int capacity, CStringU& message) {
         message = "Recv buffer is null or recv buffer length <= 0.\n";
         return -1;
     }
-    const Transfer got = m_clientSocket->Receive(buffer, static_cast<std::size_t>(capacity));
+    Socket& client = *m_clientSocket;
+    const Transfer got = client.Receive(buffer, static_cast<std::size_t>(capacity));
     if (got.Failed()) {
         if (!vapp_platform::IsWouldBlock(got.code)) {
             message = CStringU::Formatted("Recv lost failed with error: %d\n", got.code);
@@ -218,7 +255,10 @@ void TTCPModule::Disconnect() {
     // The first of several threads does it.
     if (!m_connected.exchange(false)) return;
     m_listenSocket->Close();
-    m_clientSocket->Close();
+    // All of them: a thread may also be in a client that was put aside, and has to come out.
+    const std::lock_guard guard(m_clientsMutex);
+    for (const std::unique_ptr<Socket>& client : m_clients)
+        client->Close();
     m_socketLibrary->End();
 }
 

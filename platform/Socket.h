@@ -32,6 +32,8 @@ public:
 
     /// 0, or the system's code.
     [[nodiscard]] int Start();
+    /// Starts it once more for something that lives by it, which can't fail as long as it is started.
+    void Use() noexcept;
     /// Ends what Start began; nothing without it, nothing the second time.
     void End() noexcept;
     [[nodiscard]] bool IsStarted() const noexcept { return m_started; }
@@ -53,8 +55,8 @@ struct SocketWait {
     int code = 0;
 };
 
-/// One socket. One thread at a time may receive and one may send; any thread may close. A default one is no
-/// socket, and each call on it fails.
+/// One socket, which keeps the library in use as long as it is open. One thread at a time may receive and one
+/// may send; any thread may close. A default one is no socket, and each call on it fails.
 class Socket {
 public:
     Socket() noexcept;
@@ -84,6 +86,7 @@ private:
 
     OwnedHandle m_handle;
     UseGate m_gate;
+    SocketLibrary m_library;
 };
 
 /// The code of "a receive would block".

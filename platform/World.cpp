@@ -20,6 +20,11 @@ bool gIsWine() noexcept {
 
 namespace vapp_platform {
 
+bool IsWindowsUnderWine() noexcept {
+    const bool told = gAnswer.load(std::memory_order_relaxed) >= 0;
+    return gIsWine() && (told || IsWindowsBuild());
+}
+
 World CurrentWorld() noexcept {
     return gIsWine() ? World::Wine : World::Windows;
 }

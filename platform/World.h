@@ -22,10 +22,17 @@ enum class World {
 /// What gIsWine answers, as a world.
 [[nodiscard]] World CurrentWorld() noexcept;
 
+/// Whether this is a Windows program that Wine runs. False on native Linux, where gIsWine is true: for what
+/// only mends a weakness of Wine's.
+[[nodiscard]] bool IsWindowsUnderWine() noexcept;
+
 /// What the system itself says, asked at each call. Implemented once for each system.
 [[nodiscard]] bool IsWineSystem() noexcept;
+/// Whether this build is for Windows. Implemented once for each system.
+[[nodiscard]] bool IsWindowsBuild() noexcept;
 
-/// Switches the answer of gIsWine for the whole process, for tests; nullopt returns to the system's own.
+/// Switches the answers of gIsWine and IsWindowsUnderWine for the whole process, for tests; nullopt returns
+/// to the system's own.
 void SetWineAnswer(std::optional<bool> answer) noexcept;
 
 }  // namespace vapp_platform

@@ -78,6 +78,10 @@ int SocketLibrary::Start() {
     return 0;
 }
 
+void SocketLibrary::Use() noexcept {
+    m_started = true;
+}
+
 void SocketLibrary::End() noexcept {
     m_started = false;
 }
@@ -86,7 +90,9 @@ Socket::Socket() noexcept {
     Close();
 }
 
-Socket::Socket(OwnedHandle handle) noexcept : m_handle(std::move(handle)) {}
+Socket::Socket(OwnedHandle handle) noexcept : m_handle(std::move(handle)) {
+    m_library.Use();
+}
 
 SocketWait Socket::WaitReadable(std::chrono::milliseconds limit) {
     if (!m_gate.Enter()) return {WaitAnswer::Failed, cnClosedHere};
@@ -138,7 +144,9 @@ void Socket::Close() noexcept {
 }
 
 void Socket::Leave() noexcept {
-    if (m_gate.Leave()) m_handle.Drop();
+    if (!m_gate.Leave()) return;
+    m_handle.Drop();
+    m_library.End();
 }
 
 bool IsWouldBlock(int code) noexcept {

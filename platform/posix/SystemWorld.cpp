@@ -8,4 +8,8 @@ bool IsWineSystem() noexcept {
     return true;
 }
 
+bool IsWindowsBuild() noexcept {
+    return false;
+}
+
 }  // namespace vapp_platform

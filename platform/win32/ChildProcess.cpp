@@ -65,6 +65,14 @@ private:
     bool m_named = false;
 };
 
+// The system reads up to an empty entry: one stands behind the last, whether or not it is there already. None
+// at all for the process's own environment.
+std::vector<wchar_t> EnvironmentBlock(std::span<const wchar_t> given) {
+    std::vector<wchar_t> block(given.begin(), given.end());
+    if (!block.empty()) block.insert(block.end(), 2, L'\0');
+    return block;
+}
+
 StartResult Failed(StartStep step, int code) {
     StartResult result;
     result.failed = step;
@@ -93,8 +101,8 @@ StartResult ChildProcess::Start(const ChildStart& start) {
     const std::wstring folder = AsWide(start.workingFolder);
     const DWORD flags =
         CREATE_UNICODE_ENVIRONMENT | (inherited.IsNamed() ? EXTENDED_STARTUPINFO_PRESENT : 0U);
-    void* const environment =
-        start.environment.empty() ? nullptr : const_cast<wchar_t*>(start.environment.data());
+    std::vector<wchar_t> block = EnvironmentBlock(start.environment);
+    void* const environment = block.empty() ? nullptr : block.data();
     PROCESS_INFORMATION made{};
     if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, inherited.IsEmpty() ? FALSE : TRUE, flags,
                        environment, folder.empty() ? nullptr : folder.c_str(), &startup.StartupInfo,

@@ -125,6 +125,13 @@ int SocketLibrary::Start() {
     return result;
 }
 
+void SocketLibrary::Use() noexcept {
+    WSADATA data;
+    m_started = WSAStartup(MAKEWORD(2, 2), &data) == 0;
+}
+
+// The last end takes every open socket of the process with it, whose numbers then belong to whoever comes
+// next: so each socket counts as a use of its own.
 void SocketLibrary::End() noexcept {
     if (std::exchange(m_started, false)) WSACleanup();
 }
@@ -133,7 +140,9 @@ Socket::Socket() noexcept {
     Close();
 }
 
-Socket::Socket(OwnedHandle handle) noexcept : m_handle(std::move(handle)) {}
+Socket::Socket(OwnedHandle handle) noexcept : m_handle(std::move(handle)) {
+    m_library.Use();
+}
 
 SocketWait Socket::WaitReadable(milliseconds limit) {
     if (!m_gate.Enter()) return {WaitAnswer::Failed, cnClosedHere};
@@ -190,7 +199,9 @@ void Socket::Close() noexcept {
 }
 
 void Socket::Leave() noexcept {
-    if (m_gate.Leave()) GiveBack(m_handle);
+    if (!m_gate.Leave()) return;
+    GiveBack(m_handle);
+    m_library.End();
 }
 
 bool IsWouldBlock(int code) noexcept {

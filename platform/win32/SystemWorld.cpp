@@ -11,4 +11,8 @@ bool IsWineSystem() noexcept {
     return ntdll != nullptr && GetProcAddress(ntdll, "wine_get_version") != nullptr;
 }
 
+bool IsWindowsBuild() noexcept {
+    return true;
+}
+
 }  // namespace vapp_platform

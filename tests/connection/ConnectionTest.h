@@ -28,12 +28,7 @@ protected:
         gSetMessageBox([](const char* text, const char* caption) {
             s_boxes.push_back(std::string(text) + '/' + caption);
         });
-        vapp_connection::Limits limits;
-        // As long as ever, but the pipe is looked at often.
-        limits.pipePause = std::chrono::milliseconds(1);
-        limits.pipePolls = 60000;
-        limits.socketWait = std::chrono::milliseconds(60000);
-        vapp_connection::SetLimits(limits);
+        LengthenWaits();
     }
     ~ConnectionTest() override {
         vapp_connection::SetLimits({});
@@ -42,6 +37,14 @@ protected:
         gSetMessageBox(nullptr);
     }
 
+    /// As long as ever, but the pipe is looked at often.
+    static void LengthenWaits() {
+        vapp_connection::Limits limits;
+        limits.pipePause = std::chrono::milliseconds(1);
+        limits.pipePolls = 60000;
+        limits.socketWait = std::chrono::milliseconds(60000);
+        vapp_connection::SetLimits(limits);
+    }
     /// For a worker that is not expected to come in time.
     static void ShortenWaits() {
         vapp_connection::Limits limits;

@@ -19,7 +19,9 @@ using connection_test::LocalWorker;
 using connection_test::Text;
 
 struct HandshakeTest : ConnectionTest {
-    HandshakeTest() { vapp_platform::SetWineAnswer(true); }
+    HandshakeTest() {
+        if (!gIsWine()) vapp_platform::SetWineAnswer(true);
+    }
 };
 
 std::string Hex(const std::string& bytes) {

@@ -23,9 +23,9 @@ std::string gLogged;
 int gCalls = 0;
 
 struct TPipeModuleTest : ConnectionTest {
-    // As under Wine: without the agent, which no test machine runs.
+    // Without the agent, which no test machine runs; where the system itself asks for none, as it is.
     TPipeModuleTest() {
-        vapp_platform::SetWineAnswer(true);
+        if (!gIsWine()) vapp_platform::SetWineAnswer(true);
         gLogged.clear();
         gCalls = 0;
     }
@@ -338,6 +338,31 @@ TEST_F(TPipeModuleTest, SendingToAWorkerThatHasGoneFailsAndDisconnectsOnPlainWin
     EXPECT_FALSE(module.Send("x", 1, message));
     EXPECT_TRUE(Text(message).starts_with("send failed with error: ")) << Text(message);
     EXPECT_FALSE(module.IsConnected());
+}
+
+// To write to nobody fails, as anybody would expect; only under Wine the open end takes what fits.
+TEST_F(TPipeModuleTest, SendingToAWorkerThatHasGoneFailsUnlessWineRunsTheProgram) {
+    const bool kept = vapp_platform::IsWindowsUnderWine();
+    TPipeModule module(LocalWorker("pipe", {"say:KEY", "exit:0"}, "KEY"));
+    ASSERT_TRUE(Connect(module));
+    while (platform_test::IsRunning(module.GetChildProcessID()))
+        std::this_thread::yield();
+    CStringU none;
+    EXPECT_EQ(module.Send("x", 1, none), kept);
+    EXPECT_EQ(module.IsConnected(), kept);
+    EXPECT_EQ(Text(none).starts_with("send failed with error: "), !kept) << Text(none);
+}
+
+TEST_F(TPipeModuleTest, SendingToAWorkerThatHasGoneSucceedsUnderWineWhileThereIsRoom) {
+    TPipeModule module(LocalWorker("pipe", {"say:KEY", "exit:0"}, "KEY"));
+    module.SetLogCallback([](const CStringU&) { vapp_platform::SetWineAnswer(true); });
+    ASSERT_TRUE(Connect(module));
+    while (platform_test::IsRunning(module.GetChildProcessID()))
+        std::this_thread::yield();
+    CStringU none;
+    EXPECT_TRUE(module.Send("x", 1, none));
+    EXPECT_TRUE(none.IsEmpty());
+    EXPECT_TRUE(module.IsConnected());
 }
 
 TEST_F(TPipeModuleTest, SendingWithoutAConnectionFailsAndSendingNothingDoesNot) {

@@ -69,15 +69,6 @@ TEST_F(TTCPModuleTest, AFoundWorkerIsToldOnceAfterTheHandshake) {
     EXPECT_FALSE(module.IsWorkerFound());
 }
 
-TEST_F(TTCPModuleTest, ASecondAcceptIsTrueWithoutReading) {
-    TTCPModule module(LocalWorker("tcp", {"say:KEYrest", "echo"}, "KEY"));
-    ASSERT_TRUE(Connect(module));
-    CStringU none;
-    EXPECT_TRUE(module.AcceptConnection(none));
-    EXPECT_TRUE(none.IsEmpty());
-    EXPECT_FALSE(module.IsWorkerFound());
-}
-
 TEST_F(TTCPModuleTest, AnEmptyEnvironmentIsFilledFromTheProcess) {
     TTCPModule module(LocalWorker("tcp", {"say:KEY", "echo"}, "KEY"));
     std::vector<wchar_t> expected = vapp_platform::EnvironmentSnapshot();
@@ -103,15 +94,6 @@ TEST_F(TTCPModuleTest, AGivenEnvironmentGetsTheAddressAsItsLastEntry) {
     EXPECT_TRUE(tail.starts_with(L"TCONNECT_ADDRESS=localhost:"));
     EXPECT_TRUE(tail.ends_with(std::wstring(2, L'\0')));
     EXPECT_EQ(environment[before - 2], L'\0');
-}
-
-TEST_F(TTCPModuleTest, AnEnvironmentThatIsUsedAgainLeadsToTheFirstAddress) {
-    TTCPModule first(LocalWorker("tcp", {"say:KEY", "echo"}, "KEY"));
-    ASSERT_TRUE(first.InitConnection(environment, message));
-    ShortenWaits();
-    TTCPModule second(LocalWorker("tcp", {"say:KEY", "echo"}, "KEY"));
-    EXPECT_FALSE(second.InitConnection(environment, message));
-    EXPECT_EQ(Text(message), "Timed out waiting keyword \"KEY\" for accept TCP connection.\n");
 }
 
 TEST_F(TTCPModuleTest, TheConstructorSetsTheProcessesVariables) {
@@ -179,25 +161,6 @@ TEST_F(TTCPModuleTest, AStartThatFailsShowsABoxAndLeavesTheCommandLine) {
     EXPECT_FALSE(Connect(module));
     EXPECT_EQ(Text(message), "vapp-no-such-worker --x\n");
     EXPECT_THAT(s_boxes, testing::ElementsAre("Create Process Failed/Create Process Failed"));
-}
-
-TEST_F(TTCPModuleTest, AWorkerThatNeverConnectsTimesOut) {
-    ShortenWaits();
-    TTCPModule module(LocalWorker("pipe", {"live"}, "KEY"));
-    EXPECT_FALSE(Connect(module));
-    EXPECT_EQ(Text(message), "Timed out waiting keyword \"KEY\" for accept TCP connection.\n");
-    EXPECT_FALSE(module.IsConnected());
-}
-
-TEST_F(TTCPModuleTest, AWorkerThatConnectsAndIsSilentTimesOut) {
-    vapp_connection::Limits limits = vapp_connection::CurrentLimits();
-    limits.socketWait = std::chrono::milliseconds(3000);
-    vapp_connection::SetLimits(limits);
-    TTCPModule module(LocalWorker("tcp", {"say:KE", "live"}, "KEY"));
-    EXPECT_FALSE(Connect(module));
-    EXPECT_EQ(Text(message), "Timed out waiting keyword \"KEY\" for accept TCP connection.\n");
-    limits.childEnd = std::chrono::milliseconds(0);
-    vapp_connection::SetLimits(limits);
 }
 
 TEST_F(TTCPModuleTest, AWorkerThatConnectsAndClosesIsAMismatch) {

@@ -32,6 +32,7 @@ public:
     bool Say(std::string_view bytes) override { return m_peer.Send(bytes); }
     std::string Get(std::size_t size) override { return m_peer.ReceiveSome(size); }
     void End() override { m_peer.Close(); }
+    [[nodiscard]] vapp_platform::NativeHandle Handle() const override { return m_peer.Handle(); }
 
 private:
     LocalPeer m_peer;
@@ -52,6 +53,7 @@ public:
         m_output.Drop();
         OwnedHandle(platform_test::StandardStream(2)).Drop();
     }
+    [[nodiscard]] vapp_platform::NativeHandle Handle() const override { return m_output.Get(); }
 
 private:
     OwnedHandle m_input;
@@ -68,10 +70,11 @@ void Echo(Channel& channel) {
         channel.Say(bytes);
 }
 
+// A worker that gets less than it waits for says and does nothing more.
 void Forget(Channel& channel, std::size_t count, std::size_t most) {
     while (count > 0) {
         const std::size_t got = channel.Get(std::min(count, most)).size();
-        if (got == 0) return;
+        if (got == 0) std::_Exit(5);
         count -= got;
     }
 }
@@ -84,11 +87,17 @@ std::string FromHex(const std::string& digits) {
     return bytes;
 }
 
-void StartGrandchild() {
+std::vector<LocalPeer>& Knocked() {
+    static std::vector<LocalPeer> knocked;
+    return knocked;
+}
+
+void StartGrandchild(const Channel& channel, const std::string& port) {
     vapp_platform::ChildStart start;
-    start.commandLine = platform_test::RoleCommand("pipe", {"live"});
-    start.output = platform_test::StandardStream(1);
-    start.error = platform_test::StandardStream(2);
+    const Words words = port.empty() ? Words{"live"} : Words{"knock:" + port, "stay"};
+    start.commandLine = platform_test::RoleCommand("pipe", words);
+    start.output = channel.Handle();
+    start.error = start.output;
     static_cast<void>(vapp_platform::ChildProcess::Start(start));
 }
 
@@ -107,7 +116,10 @@ void Obey(Channel& channel, const std::string& word) {
     if (name == "end") channel.End();
     if (name == "deaf") platform_test::IgnoreRequestsToEnd();
     if (name == "live" || name == "deaf") LiveOn();
-    if (name == "grandchild") StartGrandchild();
+    if (name == "grandchild") StartGrandchild(channel, value);
+    if (name == "knock") Knocked().emplace_back(static_cast<std::uint16_t>(std::stoi(value)));
+    if (name == "tell") Knocked().back().Send(value);
+    if (name == "stay") static_cast<void>(Knocked().back().Receive(1));
     if (name == "exit") std::_Exit(std::stoi(value));
     if (name == "dots") {
         for (const char byte : value) {

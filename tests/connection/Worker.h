@@ -5,13 +5,17 @@
 ///     bytes:HEX    sends bytes, two digits each
 ///     dots:TEXT    sends the text byte by byte, each with a moment behind it
 ///     blocks:N     sends N blocks of 64 KB
-///     get:N        waits for N bytes and forgets them
+///     get:N        waits for N bytes and forgets them; ends the process where fewer come
 ///     echo         sends back what comes, until the end
 ///     slow-echo:N  reads one byte at a time, N of them, then echoes
 ///     end          closes its side of the channel
 ///     live         does nothing, for longer than any test takes
 ///     deaf         the same, and ignores polite requests to end
-///     grandchild   starts a child that holds the worker's streams, and lives
+///     knock:PORT   connects to a port of the test (Door.h) and holds that connection
+///     tell:TEXT    says something there
+///     stay         does nothing until that connection is ended
+///     grandchild:PORT  starts a child that holds the worker's channel, knocks, and stays;
+///                  without a port it lives
 ///     exit:N       ends the process
 #pragma once
 
@@ -21,6 +25,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/OwnedHandle.h"
 #include "vapp/connection/ConnectionInfo.h"
 
 namespace connection_test {
@@ -37,6 +42,8 @@ public:
     /// One to `size` bytes; none at the end.
     virtual std::string Get(std::size_t size) = 0;
     virtual void End() = 0;
+    /// What a child of the worker holds the channel by.
+    [[nodiscard]] virtual vapp_platform::NativeHandle Handle() const = 0;
 };
 
 /// Adds a word that workers obey: it is told what stands behind the colon.

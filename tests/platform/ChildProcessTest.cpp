@@ -140,6 +140,30 @@ TEST(ChildProcess, TheEnvironmentIsTheOneGivenOrTheProcessesOwn) {
     EXPECT_EQ(ReadAll(*own.output), "unset");
 }
 
+TEST(ChildProcess, AnEnvironmentEndsWhereItIsSaidToWhateverStandsBehindIt) {
+    for (const std::size_t nuls : {0U, 1U, 2U}) {
+        std::wstring memory;
+        for (const char* name : {"SystemRoot", "PATH", "LD_LIBRARY_PATH", "WINEPREFIX"}) {
+            const char* const value = std::getenv(name);
+            if (value == nullptr) continue;
+            const std::string entry = std::string(name) + '=' + value;
+            memory.append(entry.begin(), entry.end());
+            memory += L'\0';
+        }
+        memory += L"VAPP_TEST_WORD=word";
+        memory.append(nuls, L'\0');
+        const std::size_t size = memory.size();
+        memory += L"and more";
+        memory.append(2, L'\0');
+        ChildStart start;
+        start.commandLine = RoleCommand("variable", {"VAPP_TEST_WORD"});
+        start.environment = std::span(memory).first(size);
+        const PipedChild given = platform_test::StartPiped(start);
+        ASSERT_NE(given.child, nullptr);
+        EXPECT_EQ(ReadAll(*given.output), "=word") << nuls;
+    }
+}
+
 TEST(ChildProcess, TheWorkingFolderIsEnteredAndTheProgramIsLookedForFromHere) {
     const auto folder = std::filesystem::temp_directory_path() / "vapp child folder";
     std::filesystem::create_directory(folder);

@@ -21,6 +21,7 @@ public:
     ~LocalPeer() { Close(); }
 
     [[nodiscard]] bool IsConnected() const noexcept { return m_handle != vapp_platform::cnNoHandle; }
+    [[nodiscard]] vapp_platform::NativeHandle Handle() const noexcept { return m_handle; }
     /// Sends all; false where the other side has gone.
     bool Send(std::string_view bytes) const;
     /// Exactly so many bytes, fewer at the end of the stream.

@@ -218,6 +218,23 @@ TEST_F(SocketTest, AcceptAndWaitsFailWhereATestAsksForIt) {
     EXPECT_EQ(wait.code, 5);
 }
 
+// Where the end of the last use of the library took the socket away, its number would be somebody else's.
+TEST(SocketLibrary, ASocketKeepsTheLibraryInUse) {
+    SocketLibrary first;
+    ASSERT_EQ(first.Start(), 0);
+    const Listening listening = vapp_platform::ListenAtLocalhost();
+    first.End();
+    EXPECT_EQ(listening.socket->WaitReadable(milliseconds(0)).answer, WaitAnswer::TimedOut);
+    const LocalPeer peer(listening.port);
+    ASSERT_TRUE(peer.IsConnected());
+    EXPECT_EQ(listening.socket->WaitReadable(milliseconds(30000)).answer, WaitAnswer::Ready);
+    int code = 0;
+    const auto socket = listening.socket->Accept(code);
+    ASSERT_NE(socket, nullptr) << code;
+    EXPECT_EQ(socket->Send("hello", 5).count, 5);
+    EXPECT_EQ(peer.Receive(5), "hello");
+}
+
 TEST_F(SocketTest, TheLibrarysStartCanFail) {
     vapp_platform::SetFaultSource(
         [](SystemCall call) { return call == SystemCall::StartSocketLibrary ? 9 : 0; });

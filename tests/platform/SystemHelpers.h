@@ -15,6 +15,11 @@ namespace platform_test {
 [[nodiscard]] int CountOpenHandles();
 /// Whether a process with this id runs; one that has ended and waits to be collected doesn't.
 [[nodiscard]] bool IsRunning(std::uint32_t id);
+/// The system's number of the calling thread.
+[[nodiscard]] std::uint32_t OwnThreadId();
+/// Waits until a thread of this process sleeps in the system. Where the system doesn't tell that (Windows)
+/// the thread is given many turns instead, and a test repeats itself.
+void WaitUntilAsleep(std::uint32_t thread);
 /// Makes this process deaf to polite requests to end.
 void IgnoreRequestsToEnd();
 /// What only this system's children can say about themselves, by the name of a question; empty for none.

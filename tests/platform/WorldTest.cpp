@@ -28,4 +28,12 @@ TEST_F(WorldTest, ATestSwitchesTheAnswerAndGivesItBack) {
     EXPECT_EQ(gIsWine(), vapp_platform::IsWineSystem());
 }
 
+TEST_F(WorldTest, NativeLinuxIsWinesWorldButNotWine) {
+    EXPECT_EQ(vapp_platform::IsWindowsUnderWine(), gIsWine() && vapp_platform::IsWindowsBuild());
+    for (const bool answer : {false, true}) {
+        SetWineAnswer(answer);
+        EXPECT_EQ(vapp_platform::IsWindowsUnderWine(), answer);
+    }
+}
+
 }  // namespace

@@ -4,6 +4,11 @@
 #pragma once
 
 #include <array>
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <vector>
 
 #include "vapp/Export.h"
 #include "vapp/connection/TConnectionModule.h"
@@ -42,10 +47,15 @@ private:
     int ReadKeyword(CStringU& received, CStringU& message) override;
     bool InitSocket(CStringU& message);
     void SetTCPEnvironments();
+    void AddClient(std::unique_ptr<vapp_platform::Socket> client);
 
     std::unique_ptr<vapp_platform::SocketLibrary> m_socketLibrary;
     std::unique_ptr<vapp_platform::Socket> m_listenSocket;
-    std::unique_ptr<vapp_platform::Socket> m_clientSocket;
+    /// The one that Send and Recv use; among m_clients.
+    std::atomic<vapp_platform::Socket*> m_clientSocket = nullptr;
+    /// No socket, and every client that there was: another thread may still be in it.
+    std::vector<std::unique_ptr<vapp_platform::Socket>> m_clients;
+    std::mutex m_clientsMutex;
     /// The listening socket's own address as the system writes it.
     std::array<unsigned char, 16> m_address{};
     std::uint16_t m_port = 0;

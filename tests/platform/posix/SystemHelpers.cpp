@@ -8,6 +8,7 @@
 
 #include <fstream>
 #include <string>
+#include <thread>
 
 namespace platform_test {
 
@@ -23,6 +24,15 @@ std::string OpenDescriptors() {
     }
     closedir(folder);
     return numbers;
+}
+
+// The letter of a process's or a thread's state; NUL for none that is there.
+char StateIn(const std::string& path) {
+    std::ifstream file(path);
+    std::string all;
+    std::getline(file, all);
+    const auto behindName = all.rfind(')');
+    return behindName != std::string::npos ? all.at(behindName + 2) : '\0';
 }
 
 std::string StatusLine(const std::string& front) {
@@ -48,11 +58,17 @@ int CountOpenHandles() {
 }
 
 bool IsRunning(std::uint32_t id) {
-    std::ifstream file("/proc/" + std::to_string(id) + "/stat");
-    std::string all;
-    std::getline(file, all);
-    const auto behindName = all.rfind(')');
-    return behindName != std::string::npos && all.substr(behindName + 2, 1) != "Z";
+    const char state = StateIn("/proc/" + std::to_string(id) + "/stat");
+    return state != '\0' && state != 'Z';
+}
+
+std::uint32_t OwnThreadId() {
+    return static_cast<std::uint32_t>(gettid());
+}
+
+void WaitUntilAsleep(std::uint32_t thread) {
+    while (StateIn("/proc/self/task/" + std::to_string(thread) + "/stat") != 'S')
+        std::this_thread::yield();
 }
 
 void IgnoreRequestsToEnd() {

@@ -31,6 +31,16 @@ bool IsRunning(std::uint32_t id) {
     return running;
 }
 
+std::uint32_t OwnThreadId() {
+    return GetCurrentThreadId();
+}
+
+void WaitUntilAsleep(std::uint32_t /*thread*/) {
+    constexpr int cnTurns = 2000;
+    for (int turn = 0; turn < cnTurns; ++turn)
+        SwitchToThread();
+}
+
 void IgnoreRequestsToEnd() {
     SetConsoleCtrlHandler(nullptr, TRUE);
 }
