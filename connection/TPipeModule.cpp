@@ -4,7 +4,6 @@
 #include "vapp/connection/TPipeModule.h"
 
 #include <algorithm>
-#include <string_view>
 #include <thread>
 #include <utility>
 
@@ -34,9 +33,10 @@ namespace {
 // What is looked at for the keyword at most.
 constexpr std::int64_t cnKeywordBuffer = 4096;
 
-// The bytes up to the first NUL, as a text ends there.
-std::string_view AsText(const char* buffer) {
-    return buffer;
+// By bytes, here and where the answer is drawn from it: decoded, bytes that are no text would be equal to
+// others, and the reading would stop elsewhere than the comparison.
+bool EndsWithKeyword(const CStringU& received, const CStringU& keyword) {
+    return received.PayloadView().ends_with(keyword.PayloadView());
 }
 
 }  // namespace
@@ -123,7 +123,7 @@ bool TPipeModule::AcceptConnection(CStringU& message) {
         Disconnect();
         return false;
     }
-    if (count > 0 && received.EndsWith(m_info.keyword)) {
+    if (count > 0 && EndsWithKeyword(received, m_info.keyword)) {
         m_workerLatch.clear();
         return true;
     }
@@ -136,8 +136,7 @@ bool TPipeModule::AcceptConnection(CStringU& message) {
 }
 
 int TPipeModule::ReadKeyword(CStringU& received, CStringU& message) {
-    const std::string_view keyword = m_info.keyword.PayloadView();
-    const auto wanted = static_cast<std::int64_t>(keyword.size());
+    const std::int64_t wanted = m_info.keyword.GetByteLength();
     const vapp_connection::Limits& limits = vapp_connection::CurrentLimits();
 
     std::int64_t available = -1;
@@ -156,7 +155,6 @@ int TPipeModule::ReadKeyword(CStringU& received, CStringU& message) {
     // Byte by byte behind the first read: what follows the keyword belongs to Recv.
     char buffer[cnKeywordBuffer + 1] = {};
     std::int64_t count = 0;
-    bool found = false;
     do {
         const std::int64_t next = count == 0 ? std::min(wanted, cnKeywordBuffer) : 1;
         const Transfer got = m_pipes->stdOutRead->Read(buffer + count, static_cast<std::size_t>(next));
@@ -167,9 +165,8 @@ int TPipeModule::ReadKeyword(CStringU& received, CStringU& message) {
         }
         count += got.count;
         buffer[count] = '\0';
-        found = AsText(buffer).ends_with(keyword);
-    } while (!found && count < available);
-    received.Assign(buffer, TextEncoding::Utf8Auto);
+        received.Assign(buffer, TextEncoding::Utf8Auto);
+    } while (!EndsWithKeyword(received, m_info.keyword) && count < available);
     return static_cast<int>(count);
 }
 

@@ -30,7 +30,8 @@ struct ChildStart {
     /// Where the child works; empty for the process's own folder. The program is looked for from here, not
     /// from there.
     CStringU workingFolder;
-    /// The standard streams; without one the child finds the null device there, or nothing (Windows).
+    /// The standard streams; without one the child finds the null device there, or nothing (Windows). Behind
+    /// the start, also one that fails, no other child of this process inherits them.
     NativeHandle input = cnNoHandle;
     NativeHandle output = cnNoHandle;
     NativeHandle error = cnNoHandle;

@@ -14,6 +14,8 @@ enum class SystemCall {
     KeepFromChildren,
     CloseHandle,
     StartProcess,
+    /// Puts the streams of a child in place.
+    PlaceStreams,
     StartSocketLibrary,
     ResolveAddress,
     CreateSocket,

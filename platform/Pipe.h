@@ -19,7 +19,7 @@ namespace vapp_platform {
 
 /// Makes a pipe of the system's default size. 0, or the system's code. Both ends can be handed to a child at
 /// its start; on Linux no other child ever gets them, on Windows one can that the host itself starts with
-/// "inherit all" before KeepFromChildren.
+/// "inherit all" before KeepFromChildren, or before the start that an end goes to is over.
 [[nodiscard]] int CreatePipe(OwnedHandle& readEnd, OwnedHandle& writeEnd);
 /// Says that an end is for this process alone. 0, or the system's code.
 [[nodiscard]] int KeepFromChildren(const OwnedHandle& end);

@@ -147,6 +147,9 @@ StartResult ChildProcess::Start(const ChildStart& start) {
     const TextArray entries(Entries(start.environment));
     const std::vector<char*> own = start.environment.empty() ? OwnEnvironment() : std::vector<char*>();
 
+    if (const int fault = FaultOf(SystemCall::PlaceStreams); fault != 0) {
+        return Failed(StartStep::Streams, fault);
+    }
     const OwnedHandle nothing(open("/dev/null", O_RDWR | O_CLOEXEC));
     if (!nothing.IsOpen()) return Failed(StartStep::Streams, errno);
     const auto stream = [&](NativeHandle handle) {

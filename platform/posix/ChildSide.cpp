@@ -6,7 +6,6 @@
 
 #include <fcntl.h>
 #include <signal.h>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -55,14 +54,58 @@ VAPP_CHILD_SIDE bool PlaceStreams(int* streams) noexcept {
     return true;
 }
 
+// The number that a name is; -1 for a name that is none.
+VAPP_CHILD_SIDE long NumberOf(const char* name) noexcept {
+    long number = *name == '\0' ? -1 : 0;
+    for (; *name != '\0'; ++name) {
+        if (*name < '0' || *name > '9') return -1;
+        number = number * 10 + (*name - '0');
+    }
+    return number;
+}
+
+// The kernel's own form of an entry of a folder.
+struct KernelFolderEntry {
+    unsigned long long inode;
+    long long offset;
+    unsigned short length;
+    unsigned char type;
+    char name[1];
+};
+
+// By the list that the kernel keeps: the limit of descriptors can be a thousand million, and one that was
+// lowered later is below what is open. An entry is found by its number, so closing on the way skips none.
+VAPP_CHILD_SIDE bool CloseListed() noexcept {
+    const long folder = syscall(SYS_openat, AT_FDCWD, "/proc/self/fd", O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+    if (folder < 0) return false;
+    alignas(KernelFolderEntry) char entries[1024];
+    while (true) {
+        const long size = syscall(SYS_getdents64, folder, entries, sizeof entries);
+        if (size <= 0) break;
+        for (long at = 0; at < size;) {
+            const auto* const entry = reinterpret_cast<const KernelFolderEntry*>(entries + at);
+            const long number = NumberOf(entry->name);
+            if (number >= cnStreams && number != folder) syscall(SYS_close, number);
+            at += entry->length;
+        }
+    }
+    syscall(SYS_close, folder);
+    return true;
+}
+
 VAPP_CHILD_SIDE void CloseOthers() noexcept {
     if (syscall(SYS_close_range, cnStreams, ~0U, 0) == 0) return;
-    // A kernel without that call.
-    rlimit limit{};
-    syscall(SYS_prlimit64, 0, RLIMIT_NOFILE, nullptr, &limit);
-    for (long number = cnStreams; number < static_cast<long>(limit.rlim_cur); ++number) {
+    // A kernel without that call, or one that is told to refuse it.
+    if (CloseListed()) return;
+    constexpr long cnMost = 65536;
+    for (long number = cnStreams; number < cnMost; ++number)
         syscall(SYS_close, number);
-    }
+}
+
+// As the C library searches: a folder that is away, be it only its server, does not end the search.
+VAPP_CHILD_SIDE bool IsPassedOver(int code) noexcept {
+    return code == ENOENT || code == ENOTDIR || code == EACCES || code == ESTALE || code == ENODEV ||
+           code == ETIMEDOUT;
 }
 
 VAPP_CHILD_SIDE int RunProgram(const ChildPlan& plan) noexcept {
@@ -71,7 +114,7 @@ VAPP_CHILD_SIDE int RunProgram(const ChildPlan& plan) noexcept {
         syscall(SYS_execve, *program, plan.arguments, plan.environment);
         const int code = errno;
         refused = refused || code == EACCES;
-        if (code != ENOENT && code != ENOTDIR && code != EACCES) return code;
+        if (!IsPassedOver(code)) return code;
     }
     return refused ? EACCES : ENOENT;
 }

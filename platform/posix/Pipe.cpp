@@ -11,7 +11,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "platform/FaultPoint.h"
@@ -36,15 +38,20 @@ void Wake(const OwnedHandle& wake) {
     Retry([&] { return write(Descriptor(wake), &one, sizeof one); });
 }
 
+// Can't fail for the end of a pipe.
 void StopBlocking(const OwnedHandle& end) {
     const int flags = fcntl(Descriptor(end), F_GETFL);
     if (flags >= 0) fcntl(Descriptor(end), F_SETFL, flags | O_NONBLOCK);
 }
 
-// Without a wake (the process has no descriptor left) poll skips it: its number is negative.
+// How long a wait can go on after a Close that could not wake it.
+constexpr std::chrono::milliseconds cnSlice{50};
+
+// Without a wake (the process had no descriptor left for one) poll skips its number, which is negative, and
+// the caller looks now and then whether the end was closed.
 void WaitFor(const OwnedHandle& end, short events, const OwnedHandle& wake) {
     pollfd both[] = {{Descriptor(end), events, 0}, {Descriptor(wake), POLLIN, 0}};
-    PollFor(both, std::nullopt);
+    PollFor(both, wake.IsOpen() ? std::nullopt : std::optional(cnSlice));
 }
 
 Transfer Done(ssize_t count) {

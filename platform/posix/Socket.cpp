@@ -11,9 +11,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <mutex>
 #include <utility>
 
 #include "platform/FaultPoint.h"
+#include "platform/posix/EnvironmentLock.h"
 #include "platform/posix/Poll.h"
 #include "platform/posix/Retry.h"
 
@@ -58,6 +60,8 @@ int Resolve(Addresses& addresses) {
     hints.ai_socktype = SOCK_STREAM;
     hints.ai_protocol = IPPROTO_TCP;
     addrinfo* found = nullptr;
+    // The resolver reads variables of the environment.
+    const std::lock_guard guard(EnvironmentLock());
     const int result = getaddrinfo("localhost", nullptr, &hints, &found);
     addresses.reset(found);
     return result;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,7 +27,9 @@ std::wstring AsWide(const CStringU& text) {
     return {units.begin(), units.end()};
 }
 
-/// The attribute of a start that names the handles to be inherited. Each may be named once.
+/// The streams of a start. As long as this object lives they can be inherited, and the attribute of the start
+/// says that nothing else may be; each is named there once. Behind the start they are for nobody: whatever
+/// the host starts by itself, "inherit all" among it, would else hold them too.
 class InheritedHandles {
 public:
     explicit InheritedHandles(const ChildStart& start) {
@@ -35,34 +38,45 @@ public:
             const bool known = std::find(m_handles.begin(), m_handles.end(), handle) != m_handles.end();
             if (handle != nullptr && !known) m_handles.push_back(handle);
         }
-        if (!m_handles.empty()) Name();
     }
     InheritedHandles(const InheritedHandles&) = delete;
     InheritedHandles& operator=(const InheritedHandles&) = delete;
     ~InheritedHandles() {
-        if (m_named) DeleteProcThreadAttributeList(Get());
+        if (m_initialized) DeleteProcThreadAttributeList(Get());
+        for (const HANDLE handle : m_handles)
+            SetHandleInformation(handle, HANDLE_FLAG_INHERIT, 0);
     }
 
+    /// 0, or the system's code. Without the attribute a start must not be made: the child would get
+    /// everything.
+    [[nodiscard]] int Prepare() {
+        if (const int fault = FaultOf(SystemCall::PlaceStreams); fault != 0) return fault;
+        if (IsEmpty()) return 0;
+        const auto lend = [](HANDLE handle) {
+            return SetHandleInformation(handle, HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT) != FALSE;
+        };
+        const bool done = std::all_of(m_handles.begin(), m_handles.end(), lend) && Name();
+        return done ? 0 : static_cast<int>(GetLastError());
+    }
     [[nodiscard]] bool IsEmpty() const { return m_handles.empty(); }
-    [[nodiscard]] bool IsNamed() const { return m_named; }
     [[nodiscard]] LPPROC_THREAD_ATTRIBUTE_LIST Get() {
         return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(m_memory.data());
     }
 
 private:
-    void Name() {
+    bool Name() {
         SIZE_T size = 0;
         InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
         m_memory.resize(size);
-        if (InitializeProcThreadAttributeList(Get(), 1, 0, &size) == FALSE) return;
-        m_named = true;
-        UpdateProcThreadAttribute(Get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, m_handles.data(),
-                                  m_handles.size() * sizeof(HANDLE), nullptr, nullptr);
+        m_initialized = InitializeProcThreadAttributeList(Get(), 1, 0, &size) != FALSE;
+        return m_initialized &&
+               UpdateProcThreadAttribute(Get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, m_handles.data(),
+                                         m_handles.size() * sizeof(HANDLE), nullptr, nullptr) != FALSE;
     }
 
     std::vector<HANDLE> m_handles;
     std::vector<std::byte> m_memory;
-    bool m_named = false;
+    bool m_initialized = false;
 };
 
 // The system reads up to an empty entry: one stands behind the last, whether or not it is there already. None
@@ -87,20 +101,21 @@ StartResult ChildProcess::Start(const ChildStart& start) {
         return Failed(StartStep::Process, fault);
     }
     InheritedHandles inherited(start);
+    if (const int code = inherited.Prepare(); code != 0) return Failed(StartStep::Streams, code);
     STARTUPINFOEXW startup{};
-    startup.StartupInfo.cb = inherited.IsNamed() ? sizeof startup : sizeof startup.StartupInfo;
+    startup.StartupInfo.cb = inherited.IsEmpty() ? sizeof startup.StartupInfo : sizeof startup;
     startup.StartupInfo.dwFlags = STARTF_USESHOWWINDOW | STARTF_USESTDHANDLES;
     startup.StartupInfo.wShowWindow = SW_HIDE;
     startup.StartupInfo.hStdInput = AsHandle(start.input);
     startup.StartupInfo.hStdOutput = AsHandle(start.output);
     startup.StartupInfo.hStdError = AsHandle(start.error);
-    if (inherited.IsNamed()) startup.lpAttributeList = inherited.Get();
+    if (!inherited.IsEmpty()) startup.lpAttributeList = inherited.Get();
 
     // The system writes into the line while it looks for the program.
     std::wstring line = AsWide(start.commandLine);
     const std::wstring folder = AsWide(start.workingFolder);
     const DWORD flags =
-        CREATE_UNICODE_ENVIRONMENT | (inherited.IsNamed() ? EXTENDED_STARTUPINFO_PRESENT : 0U);
+        CREATE_UNICODE_ENVIRONMENT | (inherited.IsEmpty() ? 0U : EXTENDED_STARTUPINFO_PRESENT);
     std::vector<wchar_t> block = EnvironmentBlock(start.environment);
     void* const environment = block.empty() ? nullptr : block.data();
     PROCESS_INFORMATION made{};

@@ -4,10 +4,16 @@
 
 #include <windows.h>
 
+#include "platform/win32/BoxText.h"
+
 namespace vapp_platform {
 
+CString BoxText(const char* text) {
+    return CStringU(text, TextEncoding::Utf8Auto).ToAnsi();
+}
+
 void ShowSystemMessageBox(const char* text, const char* caption) noexcept {
-    MessageBoxA(nullptr, text, caption, MB_OK);
+    MessageBoxA(nullptr, BoxText(text), BoxText(caption), MB_OK);
 }
 
 }  // namespace vapp_platform

@@ -97,7 +97,7 @@ TYPED_TEST(AcceptTest, ASecondAcceptHurtsNoThreadThatReceives) {
     });
     while (thread == 0)
         std::this_thread::yield();
-    platform_test::WaitUntilAsleep(thread);
+    EXPECT_TRUE(platform_test::WaitUntilAsleep(thread));
     CStringU none;
     EXPECT_TRUE(module.AcceptConnection(none));
     EXPECT_TRUE(module.IsConnected());

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "tests/connection/ConnectionTest.h"
+#include "tests/connection/Door.h"
 #include "tests/connection/Worker.h"
 #include "vapp/connection/TPipeModule.h"
 #include "vapp/connection/TTCPModule.h"
@@ -15,7 +16,9 @@
 namespace {
 
 using connection_test::ConnectionTest;
+using connection_test::Door;
 using connection_test::LocalWorker;
+using connection_test::TAfterKnock;
 using connection_test::Text;
 
 struct HandshakeTest : ConnectionTest {
@@ -77,18 +80,21 @@ TEST_F(HandshakeTest, ThePipeHandshakeAnswersAnyBytesByItsRule) {
         std::string bytes = SomeBytes(random, 20);
         if (random() % 2 == 0) bytes += keyword + SomeBytes(random, 3);
         if (round <= 4) bytes = keyword.substr(0, static_cast<std::size_t>(round));
-        // Nothing to say and an end: the poll fails, or its time is over.
-        ShortenWaits();
+        // All that the worker says is there before the first look.
+        Door door;
         vapp_connection::Limits limits = vapp_connection::CurrentLimits();
-        if (bytes.size() >= keyword.size()) limits.pipePolls = 60000;
-        vapp_connection::SetLimits(limits);
-        TPipeModule module(LocalWorker("pipe", {"bytes:" + Hex(bytes), "live"}, keyword));
+        limits.pipePolls = 3;
+        limits.childEnd = std::chrono::milliseconds(0);
+        TAfterKnock<TPipeModule> module(
+            LocalWorker("pipe", {"bytes:" + Hex(bytes), door.Word(), "live"}, keyword), door, limits);
         std::vector<wchar_t> environment;
         CStringU message;
         const bool connected = module.InitConnection(environment, message);
         const bool found = AsText(bytes).find(keyword) != std::string::npos;
         ASSERT_EQ(connected, found) << Hex(bytes) << ' ' << Text(message);
-        if (!connected && bytes.size() >= keyword.size()) {
+        if (bytes.size() < keyword.size()) {
+            ASSERT_EQ(Text(message), "Timed out waiting keyword \"KEYW\" for accept Pipe connection.\n");
+        } else if (!connected) {
             const std::string text = AsText(bytes);
             ASSERT_EQ(Text(message),
                       text.empty()

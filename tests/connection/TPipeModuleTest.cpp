@@ -2,18 +2,23 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
+#include <optional>
 #include <thread>
 
 #include "platform/KnownFolders.h"
 #include "tests/connection/ConnectionTest.h"
+#include "tests/connection/Door.h"
 #include "tests/connection/Worker.h"
 #include "tests/platform/SystemHelpers.h"
 
 namespace {
 
 using connection_test::ConnectionTest;
+using connection_test::Door;
 using connection_test::LocalWorker;
 using connection_test::ReceiveAll;
+using connection_test::TAfterKnock;
 using connection_test::Text;
 using vapp_platform::FaultSource;
 using vapp_platform::SystemCall;
@@ -30,6 +35,11 @@ struct TPipeModuleTest : ConnectionTest {
         gCalls = 0;
     }
     bool Connect(TPipeModule& module) { return module.InitConnection(environment, message); }
+    static void WaitUntilAsleep(const std::atomic<std::uint32_t>& thread) {
+        while (thread == 0)
+            std::this_thread::yield();
+        EXPECT_TRUE(platform_test::WaitUntilAsleep(thread));
+    }
     static void KillAtOnce() {
         vapp_connection::Limits limits = vapp_connection::CurrentLimits();
         limits.childEnd = std::chrono::milliseconds(0);
@@ -115,6 +125,23 @@ TEST_F(TPipeModuleTest, WhatTheLoginPrintsReachesTheUser) {
               "Waiting keyword \"KEY\" mismatched. Received message \"Host does not exist\"\n");
 }
 
+TEST_F(TPipeModuleTest, WithACallbackAFailureLeavesTheMessageFreeOfTheCommandLine) {
+    const ConnectionInfo info = LocalWorker("pipe", {"exit:0"}, "KEY");
+    TPipeModule module(info);
+    module.SetLogCallback([](const CStringU& line) { gLogged += Text(line); });
+    EXPECT_FALSE(Connect(module));
+    EXPECT_EQ(gLogged, Text(info.command) + "\n");
+    EXPECT_EQ(Text(message), "Connection failed, no data received.\n");
+    // Nothing is started, nothing is told.
+    gLogged.clear();
+    TPipeModule none(info);
+    none.SetLogCallback([](const CStringU& line) { gLogged += Text(line); });
+    vapp_platform::SetFaultSource([](SystemCall call) { return call == SystemCall::CreatePipe ? 24 : 0; });
+    EXPECT_FALSE(Connect(none));
+    EXPECT_EQ(gLogged, "");
+    EXPECT_EQ(Text(message), "StdOutRd CreatePipe");
+}
+
 TEST_F(TPipeModuleTest, EachStepBeforeTheStartFailsWithItsMessage) {
     struct Row {
         FaultSource fault;
@@ -188,8 +215,12 @@ TEST_F(TPipeModuleTest, AWorkerThatNeverSpeaksTimesOut) {
 }
 
 TEST_F(TPipeModuleTest, AWorkerThatSaysTooLittleTimesOut) {
-    ShortenWaits();
-    TPipeModule module(LocalWorker("pipe", {"say:KE", "live"}, "KEY"));
+    Door door;
+    vapp_connection::Limits few = vapp_connection::CurrentLimits();
+    few.pipePolls = 3;
+    few.childEnd = std::chrono::milliseconds(0);
+    // Its bytes are there before the first look.
+    TAfterKnock<TPipeModule> module(LocalWorker("pipe", {"say:KE", door.Word(), "live"}, "KEY"), door, few);
     EXPECT_FALSE(Connect(module));
     EXPECT_EQ(Text(message), "Timed out waiting keyword \"KEY\" for accept Pipe connection.\n");
 }
@@ -221,11 +252,33 @@ TEST_F(TPipeModuleTest, NothingBehindTheKeywordIsTaken) {
     EXPECT_EQ(ReceiveAll(module, 8), "rest KEY");
 }
 
-TEST_F(TPipeModuleTest, ExactlyTheKeywordIsOneRead) {
-    TPipeModule module(LocalWorker("pipe", {"say:KEY", "get:1", "say:later", "echo"}, "KEY"));
-    ASSERT_TRUE(Connect(module));
-    EXPECT_TRUE(module.Send("x", 1, message));
-    EXPECT_EQ(ReceiveAll(module, 5), "later");
+TEST_F(TPipeModuleTest, ExactlyTheKeywordIsOneReadHoweverLongItIs) {
+    std::int64_t calls[2] = {};
+    for (const std::size_t size : {3U, 3000U}) {
+        const std::string keyword(size, 'k');
+        // A start and a handshake of its own, with all of the keyword there at the first look.
+        Door door;
+        struct TCounting : TAfterKnock<TPipeModule> {
+            using TAfterKnock<TPipeModule>::TAfterKnock;
+            bool AcceptConnection(CStringU& message) override {
+                const bool connected = TAfterKnock<TPipeModule>::AcceptConnection(message);
+                after = platform_test::CountReadCalls();
+                return connected;
+            }
+            std::optional<std::int64_t> after;
+        };
+        TCounting module(
+            LocalWorker("pipe", {"say:" + keyword, door.Word(), "get:1", "say:later", "echo"}, keyword),
+            door);
+        const auto before = platform_test::CountReadCalls();
+        ASSERT_TRUE(Connect(module)) << Text(message);
+        EXPECT_TRUE(module.Send("x", 1, message));
+        EXPECT_EQ(ReceiveAll(module, 5), "later");
+        if (!before) GTEST_SKIP() << "the system counts no calls of a thread";
+        calls[size == 3 ? 0 : 1] = *module.after - *before;
+    }
+    // The start reads a little by itself, the same both times.
+    EXPECT_EQ(calls[0], calls[1]);
 }
 
 TEST_F(TPipeModuleTest, AtMostABufferOfWhatIsThereIsLookedAt) {
@@ -259,6 +312,16 @@ TEST_F(TPipeModuleTest, AnEmptyKeywordIsNeverFound) {
 TEST_F(TPipeModuleTest, AKeywordOfOtherLettersIsComparedAsItsBytes) {
     TPipeModule module(LocalWorker("pipe", {"bytes:21ff6bc3a9", "echo"}, "k\u00e9"));
     EXPECT_TRUE(Connect(module)) << Text(message);
+}
+
+TEST_F(TPipeModuleTest, BytesThatAreNoTextMatchNothingButThemselves) {
+    // Decoded, 0xFF is a question mark.
+    TPipeModule wrong(LocalWorker("pipe", {"bytes:ff4559", "live"}, "?EY"));
+    EXPECT_FALSE(Connect(wrong));
+    EXPECT_EQ(Text(message), "Waiting keyword \"?EY\" mismatched. Received message \"\xff\x45\x59\"\n");
+    TPipeModule behind(LocalWorker("pipe", {"bytes:ff45593f4559", "echo"}, "?EY"));
+    EXPECT_TRUE(Connect(behind)) << Text(message);
+    KillAtOnce();
 }
 
 TEST_F(TPipeModuleTest, AKnownWorkerSkipsTheHandshakeOnce) {
@@ -379,18 +442,18 @@ TEST_F(TPipeModuleTest, DisconnectWakesABlockedRecv) {
     ASSERT_TRUE(Connect(module));
     int result = 1;
     CStringU reason;
-    std::atomic<bool> receiving = false;
+    std::atomic<std::uint32_t> thread = 0;
     std::thread receiver([&] {
         char buffer[8];
-        receiving = true;
+        thread = platform_test::OwnThreadId();
         result = module.Recv(buffer, 7, reason);
     });
-    while (!receiving)
-        std::this_thread::yield();
-    std::this_thread::yield();
+    WaitUntilAsleep(thread);
     module.Disconnect();
     receiver.join();
     EXPECT_EQ(result, 0);
+    // It was inside: one that asks a connection that is down says nothing.
+    EXPECT_TRUE(Text(reason).starts_with("Recv failed with error: ") || !platform_test::TellsSleep());
     EXPECT_FALSE(module.IsConnected());
     KillAtOnce();
 }
@@ -398,16 +461,16 @@ TEST_F(TPipeModuleTest, DisconnectWakesABlockedRecv) {
 TEST_F(TPipeModuleTest, DisconnectWakesASendIntoAFullPipe) {
     TPipeModule module(LocalWorker("pipe", {"say:KEY", "live"}, "KEY"));
     ASSERT_TRUE(Connect(module));
-    std::atomic<bool> sending = false;
     CStringU reason;
     bool sent = true;
+    std::atomic<std::uint32_t> thread = 0;
     const std::string much(1 << 22, 'x');
     std::thread sender([&] {
-        sending = true;
+        thread = platform_test::OwnThreadId();
         sent = module.Send(much.data(), much.size(), reason);
     });
-    while (!sending)
-        std::this_thread::yield();
+    // It sleeps only where the pipe takes no more.
+    WaitUntilAsleep(thread);
     module.Disconnect();
     sender.join();
     EXPECT_FALSE(sent);

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <thread>
 
@@ -9,6 +10,9 @@
 #include "platform/KnownFolders.h"
 #include "tests/connection/ConnectionTest.h"
 #include "tests/connection/Worker.h"
+#include "tests/platform/LocalPeer.h"
+#include "tests/platform/SystemHelpers.h"
+#include "text/PlatformText.h"
 
 namespace {
 
@@ -20,7 +24,18 @@ using vapp_platform::FaultSource;
 using vapp_platform::SystemCall;
 using Words = std::vector<std::string>;
 
+// The port at which a connection waits for its worker.
+std::uint16_t PortIn(const std::vector<wchar_t>& environment) {
+    const std::wstring all(environment.begin(), environment.end());
+    return static_cast<std::uint16_t>(std::stoi(all.substr(all.rfind(L':') + 1)));
+}
+
 struct TTCPModuleTest : ConnectionTest {
+    static void KillAtOnce() {
+        vapp_connection::Limits limits = vapp_connection::CurrentLimits();
+        limits.childEnd = std::chrono::milliseconds(0);
+        vapp_connection::SetLimits(limits);
+    }
     /// With the process's own environment, unless the test has filled it.
     bool Connect(TTCPModule& module) {
         if (m_filled) environment.clear();
@@ -104,6 +119,21 @@ TEST_F(TTCPModuleTest, TheConstructorSetsTheProcessesVariables) {
     const std::wstring all(snapshot.begin(), snapshot.end());
     EXPECT_NE(all.find(L"VORNEX_HOST_NAME=some-host" + std::wstring(1, L'\0')), std::wstring::npos);
     EXPECT_NE(all.find(L"CONNECTION_TYPE_TCP=" + std::wstring(1, L'\0')), std::wstring::npos);
+}
+
+TEST_F(TTCPModuleTest, TheHostsNameIsInTheActiveCodePage) {
+    // On Windows the variables' own one, which no test can set.
+    if (vapp_platform::IsWindowsBuild() && vapp_platform::ActiveCodePage() != 1252) GTEST_SKIP();
+    vapp_platform::SetActiveCodePage(1252);
+    ConnectionInfo info = LocalWorker("tcp", {}, "KEY");
+    info.hostName = {"h\xc3\xbcte", TextEncoding::Utf8Auto};
+    const TTCPModule module(info);
+    vapp_platform::SetActiveCodePage(0);
+    const std::vector<wchar_t> snapshot = vapp_platform::EnvironmentSnapshot();
+    const std::wstring all(snapshot.begin(), snapshot.end());
+    // Linux keeps the byte, which is no UTF-8, in a way that leads back to it.
+    const wchar_t letter = vapp_platform::IsWindowsBuild() ? L'\x00fc' : L'\xdcfc';
+    EXPECT_NE(all.find(std::wstring(L"VORNEX_HOST_NAME=h") + letter + L"te"), std::wstring::npos);
 }
 
 TEST_F(TTCPModuleTest, ARemoteWorkerIsStartedThroughTheLoginProgram) {
@@ -233,9 +263,7 @@ TEST_F(TTCPModuleTest, AnAcceptThatFailsIsASuccessWithoutAClient) {
         EXPECT_FALSE(module.Send("x", 1, message));
         EXPECT_TRUE(Text(message).starts_with("send failed with error: "));
         EXPECT_FALSE(module.IsConnected());
-        vapp_connection::Limits limits;
-        limits.childEnd = std::chrono::milliseconds(0);
-        vapp_connection::SetLimits(limits);
+        KillAtOnce();
     }
 }
 
@@ -331,25 +359,62 @@ TEST_F(TTCPModuleTest, DisconnectWakesABlockedRecvWithAFailure) {
     ASSERT_TRUE(Connect(module));
     int result = 1;
     CStringU reason;
-    std::atomic<bool> receiving = false;
+    std::atomic<std::uint32_t> thread = 0;
     std::thread receiver([&] {
         char buffer[8];
-        receiving = true;
+        thread = platform_test::OwnThreadId();
         result = module.Recv(buffer, 7, reason);
     });
-    while (!receiving)
+    while (thread == 0)
         std::this_thread::yield();
-    std::this_thread::yield();
+    EXPECT_TRUE(platform_test::WaitUntilAsleep(thread));
     module.Disconnect();
     receiver.join();
-    // Or 0, where the disconnect came before the call had begun.
+    // Where the system doesn't tell that the thread was inside it may have come later, and heard of no
+    // failure.
+    if (platform_test::TellsSleep()) {
+        EXPECT_EQ(result, -1);
+    }
     EXPECT_LE(result, 0);
     EXPECT_EQ(Text(reason).starts_with("Recv lost failed with error: "), result < 0);
     EXPECT_FALSE(module.IsConnected());
     module.Disconnect();
-    vapp_connection::Limits limits;
-    limits.childEnd = std::chrono::milliseconds(0);
-    vapp_connection::SetLimits(limits);
+    KillAtOnce();
+}
+
+TEST_F(TTCPModuleTest, ARecvThatWouldBlockIsAFailureWithoutAWord) {
+    TTCPModule module(LocalWorker("tcp", {"say:KEY", "live"}, "KEY"));
+    ASSERT_TRUE(Connect(module));
+    // Only the client is left at the port: nobody listens there any more.
+    const auto sockets = platform_test::OwnSocketsAt(PortIn(environment));
+    ASSERT_EQ(sockets.size(), 1U);
+    platform_test::StopBlocking(sockets.front());
+    char buffer[8];
+    CStringU none;
+    EXPECT_EQ(module.Recv(buffer, 7, none), -1);
+    EXPECT_TRUE(none.IsEmpty()) << Text(none);
+    EXPECT_TRUE(module.IsConnected());
+    KillAtOnce();
+}
+
+TEST_F(TTCPModuleTest, NoChildGetsTheSockets) {
+    struct TLooking : TTCPModule {
+        TLooking(const ConnectionInfo& info, const std::vector<wchar_t>& given)
+            : TTCPModule(info), environment(given) {}
+        bool AcceptConnection(CStringU& message) override {
+            const auto sockets = platform_test::OwnSocketsAt(PortIn(environment));
+            EXPECT_EQ(sockets.size(), 1U);
+            for (const auto socket : sockets)
+                EXPECT_FALSE(platform_test::IsInheritable(socket));
+            return TTCPModule::AcceptConnection(message);
+        }
+        const std::vector<wchar_t>& environment;
+    };
+    TLooking module(LocalWorker("tcp", {"say:KEY", "echo"}, "KEY"), environment);
+    ASSERT_TRUE(Connect(module)) << Text(message);
+    const auto sockets = platform_test::OwnSocketsAt(PortIn(environment));
+    ASSERT_EQ(sockets.size(), 1U);
+    EXPECT_FALSE(platform_test::IsInheritable(sockets.front()));
 }
 
 TEST_F(TTCPModuleTest, BothDirectionsRunAtOnceFromManyThreads) {

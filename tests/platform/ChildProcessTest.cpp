@@ -5,8 +5,12 @@
 #include <atomic>
 #include <filesystem>
 #include <fstream>
+#include <span>
+#include <string>
 #include <thread>
+#include <utility>
 
+#include "platform/FaultPoint.h"
 #include "tests/platform/ChildRoles.h"
 #include "tests/platform/SystemHelpers.h"
 
@@ -21,8 +25,10 @@ using std::chrono::milliseconds;
 using vapp_platform::ChildProcess;
 using vapp_platform::ChildStart;
 using vapp_platform::ExitKind;
+using vapp_platform::OwnedHandle;
 using vapp_platform::StartResult;
 using vapp_platform::StartStep;
+using vapp_platform::SystemCall;
 
 StartResult StartLine(const CStringU& line) {
     ChildStart start;
@@ -198,6 +204,34 @@ TEST(ChildProcess, AStartThatFailsHasAReasonAndLeavesNoChild) {
     // Fewer where a child of an earlier test is collected meanwhile.
     EXPECT_LE(platform_test::CountOpenHandles(), before);
     std::filesystem::remove(folder);
+}
+
+TEST(ChildProcess, WithoutItsStreamsInPlaceNoChildIsStarted) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    ChildStart start;
+    start.commandLine = RoleCommand("exit", {"0"});
+    start.output = writeEnd.Get();
+    vapp_platform::SetFaultSource([](SystemCall call) { return call == SystemCall::PlaceStreams ? 8 : 0; });
+    const StartResult started = ChildProcess::Start(start);
+    vapp_platform::SetFaultSource(nullptr);
+    EXPECT_EQ(started.child, nullptr);
+    EXPECT_EQ(started.failed, StartStep::Streams);
+    EXPECT_EQ(started.code, 8);
+}
+
+TEST(ChildProcess, AChildHoldsNoOtherPipeOfTheHost) {
+    OwnedHandle readEnd, writeEnd;
+    // As a host that thinks of children of its own: on Windows both ends can be inherited.
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    const PipedChild piped = StartRole("hang");
+    ASSERT_NE(piped.child, nullptr);
+    char here[4];
+    ASSERT_FALSE(piped.output->Read(here, sizeof here).Failed());
+    writeEnd.Drop();
+    vapp_platform::PipeReader reader(std::move(readEnd));
+    EXPECT_TRUE(reader.Peek().Failed()) << "the child holds the other end";
+    End(*piped.child);
 }
 
 TEST(ChildProcess, AChildThatClosesItsStreamsLivesOn) {

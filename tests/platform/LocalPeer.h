@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/OwnedHandle.h"
 
@@ -28,10 +29,19 @@ public:
     [[nodiscard]] std::string Receive(std::size_t size) const;
     /// One to `size` bytes; none at the end of the stream.
     [[nodiscard]] std::string ReceiveSome(std::size_t size) const;
+    /// Waits; true for the plain end of the stream, false for bytes or for a connection that was torn down.
+    [[nodiscard]] bool SeesTheEnd() const;
     void Close();
 
 private:
     vapp_platform::NativeHandle m_handle = vapp_platform::cnNoHandle;
 };
+
+/// The sockets of this process that are bound to a port of this machine.
+[[nodiscard]] std::vector<vapp_platform::NativeHandle> OwnSocketsAt(std::uint16_t port);
+/// Makes a socket answer "would block" instead of waiting.
+void StopBlocking(vapp_platform::NativeHandle socket);
+/// Whether a child would get the socket that is started without a list of what it may have.
+[[nodiscard]] bool IsInheritable(vapp_platform::NativeHandle socket);
 
 }  // namespace platform_test

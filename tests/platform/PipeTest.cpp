@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <functional>
 #include <random>
 #include <string>
 #include <thread>
@@ -23,6 +24,9 @@ using vapp_platform::PipeReader;
 using vapp_platform::PipeWriter;
 using vapp_platform::SystemCall;
 using vapp_platform::Transfer;
+
+// How often a call is caught in its sleep.
+constexpr int cnRounds = 20;
 
 /// Both ends in this process.
 struct OwnPipe {
@@ -96,42 +100,56 @@ TEST(Pipe, AMebibyteGoesThroughWhole) {
     EXPECT_TRUE(same);
 }
 
+/// A thread that makes one blocking call, and sleeps in it.
+class Blocked {
+public:
+    explicit Blocked(std::function<Transfer()> call)
+        : m_thread([this, call = std::move(call)] {
+              m_id = platform_test::OwnThreadId();
+              m_result = call();
+          }) {
+        while (m_id == 0)
+            std::this_thread::yield();
+        EXPECT_TRUE(platform_test::WaitUntilAsleep(m_id));
+    }
+    Transfer Result() {
+        m_thread.join();
+        return m_result;
+    }
+
+private:
+    std::atomic<std::uint32_t> m_id = 0;
+    Transfer m_result;
+    std::thread m_thread;
+};
+
 TEST(Pipe, CloseWakesABlockedRead) {
-    const OwnPipe pipe;
-    std::atomic<bool> reading = false;
-    Transfer result;
-    std::thread reader([&] {
+    for (int round = 0; round < cnRounds; ++round) {
+        const OwnPipe pipe;
         char byte = 0;
-        reading = true;
-        result = pipe.reader->Read(&byte, 1);
-    });
-    while (!reading)
-        std::this_thread::yield();
-    pipe.reader->Close();
-    reader.join();
-    EXPECT_TRUE(result.Failed());
-    char byte = 0;
-    EXPECT_TRUE(pipe.reader->Read(&byte, 1).Failed());
-    EXPECT_TRUE(pipe.reader->Peek().Failed());
+        Blocked reader([&] { return pipe.reader->Read(&byte, 1); });
+        pipe.reader->Close();
+        EXPECT_TRUE(reader.Result().Failed());
+        EXPECT_TRUE(pipe.reader->Read(&byte, 1).Failed());
+        EXPECT_TRUE(pipe.reader->Peek().Failed());
+    }
 }
 
 TEST(Pipe, CloseWakesABlockedWrite) {
-    const OwnPipe pipe;
-    std::atomic<std::int64_t> written = 0;
-    std::thread writer([&] {
-        // Small enough for any pipe: on Windows a write comes back once all of it fits.
-        const std::string block(512, 'x');
-        while (true) {
-            const Transfer result = pipe.writer->Write(block.data(), block.size());
-            if (result.Failed()) return;
-            written += result.count;
-        }
-    });
-    while (written == 0)
-        std::this_thread::yield();
-    pipe.writer->Close();
-    writer.join();
-    EXPECT_TRUE(pipe.writer->Write("x", 1).Failed());
+    for (int round = 0; round < cnRounds; ++round) {
+        const OwnPipe pipe;
+        Blocked writer([&] {
+            // Small enough for any pipe: on Windows a write comes back once all of it fits.
+            const std::string block(512, 'x');
+            while (true) {
+                const Transfer result = pipe.writer->Write(block.data(), block.size());
+                if (result.Failed()) return result;
+            }
+        });
+        pipe.writer->Close();
+        EXPECT_TRUE(writer.Result().Failed());
+        EXPECT_TRUE(pipe.writer->Write("x", 1).Failed());
+    }
 }
 
 TEST(Pipe, ClosingBetweenReadsAndWritesNeverHangsNorLosesAHandle) {

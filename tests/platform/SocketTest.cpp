@@ -43,6 +43,15 @@ struct Connection {
     std::unique_ptr<Socket> socket;
 };
 
+// How often a call is caught in its sleep.
+constexpr int cnRounds = 20;
+
+void WaitUntilAsleep(const std::atomic<std::uint32_t>& thread) {
+    while (thread == 0)
+        std::this_thread::yield();
+    EXPECT_TRUE(platform_test::WaitUntilAsleep(thread));
+}
+
 TEST_F(SocketTest, ListensAtLocalhostOnAPortOfTheSystemsChoice) {
     const Listening one = vapp_platform::ListenAtLocalhost();
     const Listening two = vapp_platform::ListenAtLocalhost();
@@ -95,22 +104,41 @@ TEST_F(SocketTest, SendingToAPeerThatHasGoneIsACodeAndNoSignal) {
 }
 
 TEST_F(SocketTest, CloseWakesABlockedReceiveWithACode) {
+    for (int round = 0; round < cnRounds; ++round) {
+        Connection connection;
+        std::atomic<std::uint32_t> thread = 0;
+        Transfer result;
+        std::thread receiver([&] {
+            char byte = 0;
+            thread = platform_test::OwnThreadId();
+            result = connection.socket->Receive(&byte, 1);
+        });
+        WaitUntilAsleep(thread);
+        connection.socket->Close();
+        receiver.join();
+        EXPECT_EQ(result.count, 0);
+        EXPECT_TRUE(result.Failed());
+        EXPECT_FALSE(vapp_platform::IsWouldBlock(result.code));
+        EXPECT_FALSE(connection.socket->IsOpen());
+    }
+}
+
+// Close shuts down both directions, which a thread in Receive needs; the peer sees the plain end all the
+// same, behind everything that was sent.
+TEST_F(SocketTest, ThePeerSeesACleanEndBehindAllBytes) {
     Connection connection;
-    std::atomic<bool> receiving = false;
-    Transfer result;
-    std::thread receiver([&] {
-        char byte = 0;
-        receiving = true;
-        result = connection.socket->Receive(&byte, 1);
+    const std::string sent(200000, 's');
+    std::thread closing([&] {
+        for (std::size_t done = 0; done < sent.size();) {
+            const Transfer result = connection.socket->Send(sent.data() + done, sent.size() - done);
+            ASSERT_FALSE(result.Failed());
+            done += static_cast<std::size_t>(result.count);
+        }
+        connection.socket->Close();
     });
-    while (!receiving)
-        std::this_thread::yield();
-    connection.socket->Close();
-    receiver.join();
-    EXPECT_EQ(result.count, 0);
-    EXPECT_TRUE(result.Failed());
-    EXPECT_FALSE(vapp_platform::IsWouldBlock(result.code));
-    EXPECT_FALSE(connection.socket->IsOpen());
+    EXPECT_EQ(connection.peer.Receive(sent.size()).size(), sent.size());
+    EXPECT_TRUE(connection.peer.SeesTheEnd());
+    closing.join();
 }
 
 TEST_F(SocketTest, CloseWakesABlockedSend) {
@@ -133,16 +161,21 @@ TEST_F(SocketTest, CloseWakesABlockedSend) {
 }
 
 TEST_F(SocketTest, CloseWakesAWaitForAPeer) {
-    const Listening listening = vapp_platform::ListenAtLocalhost();
-    std::thread waiter([&] {
-        int code = 0;
-        const auto wait = listening.socket->WaitReadable(milliseconds(600000));
-        EXPECT_NE(wait.answer, WaitAnswer::TimedOut);
-        EXPECT_EQ(listening.socket->Accept(code), nullptr);
-        EXPECT_NE(code, 0);
-    });
-    listening.socket->Close();
-    waiter.join();
+    for (int round = 0; round < cnRounds; ++round) {
+        const Listening listening = vapp_platform::ListenAtLocalhost();
+        std::atomic<std::uint32_t> thread = 0;
+        std::thread waiter([&] {
+            int code = 0;
+            thread = platform_test::OwnThreadId();
+            const auto wait = listening.socket->WaitReadable(milliseconds(600000));
+            EXPECT_NE(wait.answer, WaitAnswer::TimedOut);
+            EXPECT_EQ(listening.socket->Accept(code), nullptr);
+            EXPECT_NE(code, 0);
+        });
+        WaitUntilAsleep(thread);
+        listening.socket->Close();
+        waiter.join();
+    }
 }
 
 TEST_F(SocketTest, ClosingAtAnyMomentNeverHangsNorLosesAHandle) {

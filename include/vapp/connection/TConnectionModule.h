@@ -25,8 +25,11 @@ class ChildProcess;
 
 /// The order of calls: construct, InitConnection, any number of Send and Recv from any thread, Close (or
 /// destroy). InitConnection, AcceptConnection and Close belong to one thread at a time, the one that owns the
-/// connection's lifetime; so does the end of the object, when no other thread is inside any more. No
-/// operation throws; `message` is assigned only where there is something to say.
+/// connection's lifetime; so does the end of the object, when no other thread is inside any more.
+/// Disconnect from another thread ends nothing before the connection is up: an InitConnection that waits for
+/// its worker can't be cut short. Failures come as results, not as exceptions; what comes through is a lack
+/// of memory, a lock that the system refuses, and whatever the host's own log callback throws. `message` is
+/// assigned only where there is something to say.
 class VAPP_EXPORT TConnectionModule {
 public:
     TConnectionModule(ConnectionInfo&& info);

@@ -18,11 +18,12 @@ class Socket;
 class SocketLibrary;
 }  // namespace vapp_platform
 
-/// The TCP transport. A default keyword rule: what comes first must begin with the keyword; an empty keyword
-/// is matched by anything, also by nothing.
+/// The TCP transport. What comes first must begin with the keyword, byte by byte; an empty keyword is matched
+/// by anything, also by nothing.
 ///
 /// The constructors set CONNECTION_TYPE_TCP (to nothing) and VORNEX_HOST_NAME in the environment of this
-/// process, for its children from then on.
+/// process, for its children from then on. On Linux that moves what `getenv` has found: construct one while
+/// no other thread of the host is reading the environment by itself.
 class VAPP_EXPORT TTCPModule : public TConnectionModule {
 public:
     TTCPModule(ConnectionInfo&& info);
@@ -36,8 +37,9 @@ public:
     bool InitConnection(std::vector<wchar_t>& environment, CStringU& message) override;
     /// Waits for one worker for 30 seconds, then for its keyword, 30 seconds for each piece.
     bool AcceptConnection(CStringU& message) override;
-    /// `size` counts as a signed number of 32 bits. False without a message where the worker takes nothing
-    /// for 30 seconds; another failure also disconnects.
+    /// `size` counts as a signed number of 32 bits. False without a message where for 30 seconds there is no
+    /// room for a first byte; then all is handed to the system at once, which waits without a limit where the
+    /// worker takes only a part: send large data in pieces if that matters. Another failure also disconnects.
     bool Send(const char* data, std::uint64_t size, CStringU& message) override;
     int Recv(char* buffer, int capacity, CStringU& message) override;
     void Disconnect() override;

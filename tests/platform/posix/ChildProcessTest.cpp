@@ -4,17 +4,25 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <signal.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "tests/platform/ChildRoles.h"
 #include "tests/platform/SystemHelpers.h"
@@ -45,6 +53,47 @@ TEST(PosixChildProcess, TheChildHasItsThreeStreamsAndNothingElse) {
     const PipedChild piped = StartRole("about-self", {"descriptors"});
     ASSERT_NE(piped.child, nullptr);
     EXPECT_EQ(ReadAll(*piped.output), "0 1 2 ");
+    close(careless);
+    close(high);
+}
+
+// The kernel of this thread and of its children doesn't know close_range.
+void ForgetCloseRange() {
+    const sock_filter lines[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_close_range, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program = {std::size(lines), const_cast<sock_filter*>(lines)};
+    ASSERT_EQ(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), 0);
+    ASSERT_EQ(prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program), 0);
+    ASSERT_EQ(syscall(SYS_close_range, ~0U, ~0U, 0), -1);
+}
+
+TEST(PosixChildProcess, OnAKernelThatClosesNoRangesTheChildHasNoMoreThanElsewhere) {
+    const int careless = open("/dev/null", O_RDONLY);
+    const int high = fcntl(careless, F_DUPFD, 1000);
+    std::vector<int> many;
+    for (int number = 0; number < 300; ++number)
+        many.push_back(dup(careless));
+    // What is open stays open above a limit that is lowered behind it.
+    rlimit before{};
+    getrlimit(RLIMIT_NOFILE, &before);
+    rlimit lowered = before;
+    lowered.rlim_cur = 900;
+    setrlimit(RLIMIT_NOFILE, &lowered);
+    std::string descriptors;
+    std::thread old([&] {
+        ForgetCloseRange();
+        const PipedChild piped = StartRole("about-self", {"descriptors"});
+        if (piped.child != nullptr) descriptors = ReadAll(*piped.output);
+    });
+    old.join();
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(descriptors, "0 1 2 ");
+    for (const int number : many)
+        close(number);
     close(careless);
     close(high);
 }

@@ -1,5 +1,6 @@
 #include "tests/platform/LocalPeer.h"
 
+#include <fcntl.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -47,8 +48,33 @@ std::string LocalPeer::ReceiveSome(std::size_t size) const {
     return bytes;
 }
 
+bool LocalPeer::SeesTheEnd() const {
+    char byte = 0;
+    return recv(static_cast<int>(m_handle), &byte, 1, 0) == 0;
+}
+
 void LocalPeer::Close() {
     if (IsConnected()) close(static_cast<int>(std::exchange(m_handle, vapp_platform::cnNoHandle)));
+}
+
+std::vector<vapp_platform::NativeHandle> OwnSocketsAt(std::uint16_t port) {
+    constexpr int cnBehindLast = 1024;
+    std::vector<vapp_platform::NativeHandle> sockets;
+    for (int handle = 0; handle < cnBehindLast; ++handle) {
+        sockaddr_in name{};
+        socklen_t length = sizeof name;
+        if (getsockname(handle, reinterpret_cast<sockaddr*>(&name), &length) != 0) continue;
+        if (name.sin_family == AF_INET && ntohs(name.sin_port) == port) sockets.push_back(handle);
+    }
+    return sockets;
+}
+
+void StopBlocking(vapp_platform::NativeHandle socket) {
+    fcntl(static_cast<int>(socket), F_SETFL, O_NONBLOCK);
+}
+
+bool IsInheritable(vapp_platform::NativeHandle socket) {
+    return (fcntl(static_cast<int>(socket), F_GETFD) & FD_CLOEXEC) == 0;
 }
 
 }  // namespace platform_test

@@ -6,14 +6,17 @@
 #include <gtest/gtest.h>
 #include <pthread.h>
 #include <signal.h>
+#include <sys/resource.h>
 
 #include <atomic>
+#include <cerrno>
 #include <memory>
 #include <string>
 #include <thread>
 #include <utility>
 
 #include "tests/platform/ChildRoles.h"
+#include "tests/platform/SystemHelpers.h"
 
 namespace {
 
@@ -77,6 +80,56 @@ TEST(PosixPipe, BothEndsAreClosedOnExecFromTheirBirth) {
     ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
     EXPECT_EQ(fcntl(static_cast<int>(readEnd.Get()), F_GETFD), FD_CLOEXEC);
     EXPECT_EQ(fcntl(static_cast<int>(writeEnd.Get()), F_GETFD), FD_CLOEXEC);
+}
+
+// The limit on descriptors lets nothing more be opened as long as this lives.
+class NoDescriptorLeft {
+public:
+    NoDescriptorLeft() {
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        rlimit none = m_before;
+        none.rlim_cur = 0;
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoDescriptorLeft() { setrlimit(RLIMIT_NOFILE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+TEST(PosixPipe, CloseEndsABlockedCallAlsoWhereNothingWasLeftToWakeItWith) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    OwnedHandle otherRead, otherWrite;
+    ASSERT_EQ(CreatePipe(otherRead, otherWrite), 0);
+    std::unique_ptr<PipeReader> reader;
+    std::unique_ptr<PipeWriter> writer;
+    {
+        const NoDescriptorLeft none;
+        reader = std::make_unique<PipeReader>(std::move(readEnd));
+        writer = std::make_unique<PipeWriter>(std::move(otherWrite));
+    }
+    std::atomic<std::uint32_t> readingThread = 0;
+    std::atomic<std::uint32_t> writingThread = 0;
+    std::thread reading([&] {
+        char byte = 0;
+        readingThread = platform_test::OwnThreadId();
+        EXPECT_EQ(reader->Read(&byte, 1).code, ECANCELED);
+    });
+    std::thread writing([&] {
+        const std::string much(1 << 20, 'x');
+        writingThread = platform_test::OwnThreadId();
+        EXPECT_FALSE(platform_test::WriteAll(*writer, much));
+    });
+    for (const auto* thread : {&readingThread, &writingThread}) {
+        while (*thread == 0)
+            std::this_thread::yield();
+        EXPECT_TRUE(platform_test::WaitUntilAsleep(*thread));
+    }
+    reader->Close();
+    writer->Close();
+    reading.join();
+    writing.join();
 }
 
 TEST(PosixPipe, AStormOfSignalsCostsNoByte) {

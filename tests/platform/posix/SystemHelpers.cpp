@@ -66,9 +66,26 @@ std::uint32_t OwnThreadId() {
     return static_cast<std::uint32_t>(gettid());
 }
 
-void WaitUntilAsleep(std::uint32_t thread) {
-    while (StateIn("/proc/self/task/" + std::to_string(thread) + "/stat") != 'S')
+bool WaitUntilAsleep(std::uint32_t thread) {
+    const std::string path = "/proc/self/task/" + std::to_string(thread) + "/stat";
+    char state = StateIn(path);
+    for (; state != 'S' && state != '\0'; state = StateIn(path))
         std::this_thread::yield();
+    return state == 'S';
+}
+
+bool TellsSleep() {
+    return true;
+}
+
+std::optional<std::int64_t> CountReadCalls() {
+    std::ifstream file("/proc/thread-self/io");
+    std::string name;
+    std::int64_t value = 0;
+    while (file >> name >> value) {
+        if (name == "syscr:") return value;
+    }
+    return std::nullopt;
 }
 
 void IgnoreRequestsToEnd() {

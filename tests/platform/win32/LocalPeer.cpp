@@ -2,6 +2,8 @@
 
 #include <winsock2.h>
 
+#include <windows.h>
+
 #include <utility>
 
 namespace platform_test {
@@ -55,10 +57,39 @@ std::string LocalPeer::ReceiveSome(std::size_t size) const {
     return bytes;
 }
 
+bool LocalPeer::SeesTheEnd() const {
+    char byte = 0;
+    return recv(AsSocket(m_handle), &byte, 1, 0) == 0;
+}
+
 void LocalPeer::Close() {
     if (!IsConnected()) return;
     closesocket(AsSocket(std::exchange(m_handle, vapp_platform::cnNoHandle)));
     WSACleanup();
+}
+
+std::vector<vapp_platform::NativeHandle> OwnSocketsAt(std::uint16_t port) {
+    constexpr std::intptr_t cnStep = 4;
+    constexpr std::intptr_t cnBehindLast = 0x4000;
+    std::vector<vapp_platform::NativeHandle> sockets;
+    for (std::intptr_t handle = cnStep; handle < cnBehindLast; handle += cnStep) {
+        sockaddr_in name{};
+        int length = sizeof name;
+        if (getsockname(AsSocket(handle), reinterpret_cast<sockaddr*>(&name), &length) != 0) continue;
+        if (name.sin_family == AF_INET && ntohs(name.sin_port) == port) sockets.push_back(handle);
+    }
+    return sockets;
+}
+
+void StopBlocking(vapp_platform::NativeHandle socket) {
+    u_long yes = 1;
+    ioctlsocket(AsSocket(socket), FIONBIO, &yes);
+}
+
+bool IsInheritable(vapp_platform::NativeHandle socket) {
+    DWORD flags = 0;
+    return GetHandleInformation(reinterpret_cast<HANDLE>(socket), &flags) == 0 ||
+           (flags & HANDLE_FLAG_INHERIT) != 0;
 }
 
 }  // namespace platform_test

@@ -35,10 +35,19 @@ std::uint32_t OwnThreadId() {
     return GetCurrentThreadId();
 }
 
-void WaitUntilAsleep(std::uint32_t /*thread*/) {
+bool WaitUntilAsleep(std::uint32_t /*thread*/) {
     constexpr int cnTurns = 2000;
     for (int turn = 0; turn < cnTurns; ++turn)
         SwitchToThread();
+    return true;
+}
+
+bool TellsSleep() {
+    return false;
+}
+
+std::optional<std::int64_t> CountReadCalls() {
+    return std::nullopt;
 }
 
 void IgnoreRequestsToEnd() {
