@@ -30,6 +30,14 @@ std::vector<CRect> PeerFactory::MonitorAreas() const {
     return {};
 }
 
+std::unique_ptr<Peer> PeerFactory::CreateDialogWindow(CDialog& /*dialog*/) {
+    return nullptr;
+}
+
+bool PeerFactory::WaitFor(CDialog& /*dialog*/) {
+    return false;
+}
+
 PeerFactory* PeerFactory::Installed() {
     return s_installed;
 }

@@ -10,6 +10,7 @@
 #include "toolkit/qt/QtButtonPeer.h"
 #include "toolkit/qt/QtClipboard.h"
 #include "toolkit/qt/QtComboPeer.h"
+#include "toolkit/qt/QtDialogPeer.h"
 #include "toolkit/qt/QtEditPeer.h"
 #include "toolkit/qt/QtFormPeer.h"
 #include "toolkit/qt/QtFramePeer.h"
@@ -21,8 +22,10 @@
 #include "toolkit/qt/QtSplitterPeer.h"
 #include "toolkit/qt/QtStaticPeer.h"
 #include "toolkit/qt/QtTabPeer.h"
+#include "toolkit/qt/QtTextPeer.h"
 #include "vapp/toolkit/CButton.h"
 #include "vapp/toolkit/CComboBox.h"
+#include "vapp/toolkit/CDialog.h"
 #include "vapp/toolkit/CEdit.h"
 #include "vapp/toolkit/CFrameWnd.h"
 #include "vapp/toolkit/CListCtrl.h"
@@ -66,6 +69,7 @@ std::unique_ptr<Peer> QtPeerFactory::CreateStatic(CStatic& text) {
 }
 
 std::unique_ptr<Peer> QtPeerFactory::CreateEdit(CEdit& edit) {
+    if (edit.IsMultiLine()) return std::make_unique<QtTextPeer>(edit);
     return std::make_unique<QtEditPeer>(edit);
 }
 
@@ -106,6 +110,17 @@ std::vector<CRect> QtPeerFactory::MonitorAreas() const {
         areas.emplace_back(area.x(), area.y(), area.x() + area.width(), area.y() + area.height());
     }
     return areas;
+}
+
+std::unique_ptr<Peer> QtPeerFactory::CreateDialogWindow(CDialog& dialog) {
+    return std::make_unique<QtDialogPeer>(dialog);
+}
+
+bool QtPeerFactory::WaitFor(CDialog& dialog) {
+    auto* peer = dynamic_cast<QtDialogPeer*>(dialog.GetPeer());
+    if (peer == nullptr) return false;
+    peer->Wait();
+    return true;
 }
 
 CPoint QtPeerFactory::CursorPosition() const {

@@ -125,6 +125,31 @@ public:
     [[nodiscard]] CStringU GetShownCellViewList() const;
     [[nodiscard]] CStringU GetExcludeViews() const;
 
+    // --- Menus -----------------------------------------------------------------------------------------
+    //
+    // For the host to call while it answers WM_LN_BUILDCELLMENU, WM_LN_BUILDLIBRARYMENU or
+    // WM_LN_BUILDTABMENU, when a list builds its menu. At any other time they do nothing. No list builds a
+    // menu yet, so that for now they never do anything.
+
+    /// Adds an item that runs a host command, with the next free number.
+    void AddCellListMenuCommand(const CString& text, const CStringU& command,
+                                TLibraryBrowserTclInterfaceStyle style, bool disabled, bool checked,
+                                bool isDefault);
+    void AddCellListMenuSeparator();
+    /// Items go into a sub-menu from now on, until it is ended.
+    void BeginCellListSubmenu(const CString& title);
+    void EndCellListSubmenu();
+    /// The host command that a double click on a cell runs; empty for none.
+    void SetCellListDefaultMenuCommand(const CStringU& command, TLibraryBrowserTclInterfaceStyle style);
+    void AddCellTabsMenuItem(const CString& text, bool checked);
+    void AddCellTabsMenuSeparator();
+    /// As AddCellListMenuCommand, for the library list.
+    void AddLibraryListMenuCommand(const CString& text, const CStringU& command,
+                                   TLibraryBrowserTclInterfaceStyle style, bool disabled, bool checked,
+                                   bool isDefault);
+    void BeginLibraryListSubmenu(const CString& title);
+    void EndLibraryListSubmenu();
+
     // --- The preview -----------------------------------------------------------------------------------
 
     /// The host's answer to a preview line; see TSymbolPreview::SetPreview.

@@ -2,23 +2,8 @@
 /// A view made of controls that stand as a dialog template says.
 #pragma once
 
-#include <span>
-
 #include "vapp/toolkit/CView.h"
-
-/// One control of a dialog template: where it stands at first.
-struct DialogItem {
-    UINT id = 0;
-    CRect rect;
-    const char* text = "";  ///< initial window text, or a translatable key
-};
-
-/// A dialog as data: resource number, its natural size, its controls.
-struct DialogTemplate {
-    UINT resource = 0;
-    CSize size;
-    std::span<const DialogItem> items;
-};
+#include "vapp/toolkit/DialogTemplate.h"
 
 /// A view with controls. The deriving class owns the controls as members and creates them in `OnCreate`.
 class VAPP_EXPORT CFormView : public CView {

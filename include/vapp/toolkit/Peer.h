@@ -24,6 +24,7 @@ class CEdit;
 class CButton;
 class CTabCtrl;
 class CComboBox;
+class CDialog;
 class CListCtrl;
 class CXTPReportControl;
 class TMessageBox;
@@ -85,6 +86,11 @@ public:
     virtual std::unique_ptr<Peer> CreateCombo(CComboBox& combo) = 0;
     virtual std::unique_ptr<Peer> CreateList(CListCtrl& list) = 0;
     virtual std::unique_ptr<Peer> CreateReport(CXTPReportControl& report) = 0;
+    /// An adapter that shows no dialogs leaves this and the next one as they are.
+    virtual std::unique_ptr<Peer> CreateDialogWindow(CDialog& dialog);
+    /// Handles events, with the dialog in front of its owner, until it isn't visible any more. It may be
+    /// destroyed meanwhile. False, at once, if it can't be shown.
+    virtual bool WaitFor(CDialog& dialog);
 
     /// An adapter that shows no splash leaves this as it is.
     virtual std::unique_ptr<Peer> CreateSplash(TSplashScreen& splash);

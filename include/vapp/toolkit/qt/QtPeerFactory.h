@@ -28,6 +28,8 @@ public:
     std::unique_ptr<Peer> CreateCombo(CComboBox& combo) override;
     std::unique_ptr<Peer> CreateList(CListCtrl& list) override;
     std::unique_ptr<Peer> CreateReport(CXTPReportControl& report) override;
+    std::unique_ptr<Peer> CreateDialogWindow(CDialog& dialog) override;
+    bool WaitFor(CDialog& dialog) override;
 
     std::unique_ptr<Peer> CreateSplash(TSplashScreen& splash) override;
     std::optional<int> ShowMessageBox(const TMessageBox& box) override;

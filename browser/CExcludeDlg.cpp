@@ -1,0 +1,95 @@
+/// @file
+/// The dialog of the excluded views.
+///
+/// NATIVE: the setting is UTF-8, the control's text is in the active code page.
+#include "vapp/browser/CExcludeDlg.h"
+
+#include <array>
+
+#include "vapp/browser/ExcludeViewNames.h"
+#include "vapp/browser/TProfileSection.h"
+#include "vapp/text/Translate.h"
+
+namespace vapp_library_browser {
+
+namespace {
+
+// In the order in which the keyboard walks.
+constexpr std::array<DialogItem, 5> cnItems = {{
+    {CExcludeDlg::cnEditId, {12, 36, 388, 168}},
+    {CExcludeDlg::cnResetId, {12, 180, 152, 208}, "__$$Translatable$$_Reset to default"},
+    {IDOK, {212, 180, 294, 208}, "__$$Translatable$$_OK"},
+    {IDCANCEL, {306, 180, 388, 208}, "__$$Translatable$$_Cancel"},
+    {CExcludeDlg::cnLabelId,
+     {12, 10, 388, 32},
+     "__$$Translatable$$_View names to filter out of cell view list:"},
+}};
+constexpr DialogTemplate cnTemplate = {CExcludeDlg::cnDialog, {400, 220}, cnItems};
+
+CString WindowText(const char* key) {
+    return CStringU(vlang::gTranslate(key), TextEncoding::Utf8Auto).ToAnsi();
+}
+
+}  // namespace
+
+CExcludeDlg::CExcludeDlg(CWnd* owner) : CDialog(cnTemplate, owner) {
+    SetWindowText(WindowText("__$$Translatable$$_Exclude These View Names"));
+    m_edit.SetMultiLine(true);
+}
+
+CExcludeDlg::~CExcludeDlg() {
+    // While the controls are still there to be told.
+    DestroyWindow();
+}
+
+void CExcludeDlg::OnCreate() {
+    CDialog::OnCreate();
+    const std::array<CWnd*, cnItems.size()> controls = {&m_edit, &m_reset, &m_ok, &m_cancel, &m_label};
+    for (std::size_t i = 0; i < controls.size(); ++i)
+        CreateItem(*controls[i], cnItems[i].id);
+    m_edit.SetAccessibleName(m_label.GetWindowText());
+}
+
+int CExcludeDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    CStringU names;
+    TProfileSection(false).ExchangeText(csExcludeViewNamesKey, names, csDefaultExcludeViewNames);
+    m_excludeViews = names.ToAnsi();
+    m_edit.SetWindowText(m_excludeViews);
+    return 1;
+}
+
+void CExcludeDlg::OnOK() {
+    m_excludeViews = m_edit.GetWindowText();
+    CStringU names(m_excludeViews);
+    TProfileSection(true).ExchangeText(csExcludeViewNamesKey, names, CStringU());
+    CDialog::OnOK();
+}
+
+void CExcludeDlg::OnResetToDefault() {
+    m_excludeViews = csDefaultExcludeViewNames;
+    m_edit.SetWindowText(m_excludeViews);
+}
+
+bool CExcludeDlg::OnNotify(Notification& notification, LRESULT& result) {
+    if (notification.code == cnButtonClicked && notification.id == cnResetId) {
+        OnResetToDefault();
+        return true;
+    }
+    return CDialog::OnNotify(notification, result);
+}
+
+// The text takes the room that a larger window gives, the buttons stay below it.
+void CExcludeDlg::OnSize(UINT type, int cx, int cy) {
+    CDialog::OnSize(type, cx, cy);
+    if (type == cnSizeMinimized || !m_label.IsWindow()) return;
+    const int wider = cx - cnTemplate.size.cx;
+    const int higher = cy - cnTemplate.size.cy;
+    const CRect edit = cnItems[0].rect;
+    m_edit.MoveWindow({edit.left, edit.top, edit.right + wider, edit.bottom + higher});
+    m_reset.MoveWindow(cnItems[1].rect.Offset({0, higher}));
+    m_ok.MoveWindow(cnItems[2].rect.Offset({wider, higher}));
+    m_cancel.MoveWindow(cnItems[3].rect.Offset({wider, higher}));
+}
+
+}  // namespace vapp_library_browser
