@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <memory>
+#include <vector>
 
 #include "host/CommandHelp.h"
 #include "host/Navigator.h"
@@ -14,6 +16,7 @@
 #include "host/QtShell.h"
 #include "vapp/Version.h"
 #include "vapp/text/ActiveCodePage.h"
+#include "vapp/toolkit/qt/QtProfileStore.h"
 
 namespace {
 
@@ -65,6 +68,14 @@ int Dump(const Options& options) {
     return std::cout.good() ? EXIT_SUCCESS : Fail("The list can't be written.", cnFailureStatus);
 }
 
+/// The user's settings. Trouble with them is printed, and noted for the window.
+std::unique_ptr<ProfileStore> OpenSettings(std::vector<CString>& troubles) {
+    return QtProfileStore::ForUser("Vornex_EDA", "navigator", [&troubles](const CString& sentence) {
+        std::cerr << "navigator: " << sentence.GetString() << '\n';
+        troubles.push_back(sentence);
+    });
+}
+
 int RunWindow(const Options& options, int argc, char** argv) {
     const bool hasDisplay = std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
     if (options.screenshot) {
@@ -76,7 +87,10 @@ int RunWindow(const Options& options, int argc, char** argv) {
                     cnFailureStatus);
     }
     const QApplication application(argc, argv);
+    std::vector<CString> troubles;
     Navigator navigator;
+    // A picture must not depend on the settings of whoever takes it either.
+    if (!options.screenshot) navigator.KeepSettingsIn(OpenSettings(troubles));
     if (const int status = OpenFolders(navigator, options)) return status;
     QtShell shell(navigator);
     if (const int status = Start(navigator, options)) return status;
@@ -85,6 +99,8 @@ int RunWindow(const Options& options, int argc, char** argv) {
         return failure ? Fail(*failure, cnFailureStatus) : EXIT_SUCCESS;
     }
     shell.Show();
+    for (const CString& trouble : troubles)
+        shell.Tell(trouble);
     return QApplication::exec();
 }
 

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "host/DatabaseCommand.h"
 #include "host/DesignStore.h"
@@ -28,6 +29,10 @@ public:
     ~Navigator();
     Navigator(const Navigator&) = delete;
     Navigator& operator=(const Navigator&) = delete;
+
+    /// Where settings are kept over the end of the program; without it they go with this object. Call before
+    /// the window is made.
+    void KeepSettingsIn(std::unique_ptr<ProfileStore> store) { m_app.SetProfileStore(std::move(store)); }
 
     /// Opens a folder as a design. Gives nothing on success, or else a sentence that says what failed.
     [[nodiscard]] std::optional<std::string> OpenFolder(const std::filesystem::path& folder);

@@ -6,7 +6,8 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFile>
-#include <QWidget>
+#include <QMainWindow>
+#include <QStatusBar>
 #include <utility>
 
 #include "host/SymbolPainter.h"
@@ -52,6 +53,11 @@ void QtShell::Show() {
     m_idle = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                               qApp, [this] { m_navigator.Populate(); });
     m_navigator.Frame().ShowWindow(true);
+}
+
+void QtShell::Tell(const CString& sentence) {
+    auto* const window = qobject_cast<QMainWindow*>(gWidgetOf(m_navigator.Frame()));
+    if (window != nullptr) window->statusBar()->showMessage(QString::fromUtf8(sentence.GetString()));
 }
 
 std::optional<std::string> QtShell::Screenshot(const std::string& file) {

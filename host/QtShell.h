@@ -24,6 +24,9 @@ public:
 
     /// Shows the window, and follows the folders from then on.
     void Show();
+    /// A sentence for the user in the window's status line, without a question that stops the work. The
+    /// window must exist.
+    void Tell(const CString& sentence);
     /// Refreshes and paints until nothing is left to do, then writes the window as a picture in the format of
     /// the file's ending. Gives nothing on success, or else a sentence.
     [[nodiscard]] std::optional<std::string> Screenshot(const std::string& file);
