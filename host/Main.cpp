@@ -98,6 +98,8 @@ int RunWindow(const Options& options, int argc, char** argv) {
         const auto failure = shell.Screenshot(*options.screenshot);
         return failure ? Fail(*failure, cnFailureStatus) : EXIT_SUCCESS;
     }
+    // A size that the user asks for counts more than that of the last run.
+    if (!options.isSizeGiven) shell.RestorePlace();
     shell.Show();
     for (const CString& trouble : troubles)
         shell.Tell(trouble);

@@ -53,6 +53,7 @@ bool ParseSize(std::string_view text, Options& options) {
     if (!width || !height || std::min(*width, *height) < cnSmallestSide ||
         std::max(*width, *height) > cnLargestSide)
         return false;
+    options.isSizeGiven = true;
     options.width = *width;
     options.height = *height;
     return true;

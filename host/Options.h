@@ -16,6 +16,7 @@ struct Options {
     bool isDark = false;
     bool isVersion = false;
     bool isHelp = false;
+    bool isSizeGiven = false;
     int width = 900;  ///< Of the window, in logical pixels.
     int height = 700;
     double scale = 1;  ///< Device pixels for a logical pixel, 0.5 to 8.

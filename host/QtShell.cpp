@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "host/SymbolPainter.h"
+#include "vapp/toolkit/WindowPlacement.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 #include "vapp/toolkit/qt/QtTheme.h"
 
@@ -21,6 +22,9 @@ namespace {
 /// A refresh may ask for another one (a pending highlight, a change noted by a script), and painting may ask
 /// for a preview; more rounds than this means that a script asks for a refresh at each refresh.
 constexpr int cnSettlingRounds = 10;
+
+/// Under this name the placement of the main window is kept.
+constexpr char csWindowPlace[] = "WindowPos";
 
 CStringU TextOf(const std::string& utf8) {
     return {utf8.c_str(), TextEncoding::Utf8Auto};
@@ -42,6 +46,7 @@ QtShell::QtShell(Navigator& navigator)
 }
 
 QtShell::~QtShell() {
+    if (m_wasShown) KeepPlace();
     QObject::disconnect(m_idle);
     m_navigator.Commands().SetPreviewHandler(nullptr);
     m_navigator.Browser().SetPreview(true, CStringU(), nullptr);
@@ -53,6 +58,29 @@ void QtShell::Show() {
     m_idle = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                               qApp, [this] { m_navigator.Populate(); });
     m_navigator.Frame().ShowWindow(true);
+    m_wasShown = true;
+}
+
+// The widget's own place and size, and not the control's: those are of the client area, without the title
+// bar, and the window would wander by the bar's height from run to run.
+void QtShell::RestorePlace() {
+    QWidget* const window = gWidgetOf(m_navigator.Frame());
+    TWindowPlacement placement;
+    if (window == nullptr || !gReadWindowPlacement(&placement, csWindowPlace)) return;
+    ClipOrCenterRectToMonitor(&placement.normal, cnMonitorClip);
+    window->move(placement.normal.left, placement.normal.top);
+    window->resize(placement.normal.Width(), placement.normal.Height());
+    if (placement.isMaximized) window->setWindowState(window->windowState() | Qt::WindowMaximized);
+}
+
+void QtShell::KeepPlace() {
+    const QWidget* const window = gWidgetOf(m_navigator.Frame());
+    if (window == nullptr) return;
+    const bool isNormal = (window->windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) == 0;
+    const QRect place = isNormal ? QRect(window->pos(), window->size()) : window->normalGeometry();
+    gWriteWindowPlacement({{place.x(), place.y(), place.x() + place.width(), place.y() + place.height()},
+                           window->isMaximized()},
+                          csWindowPlace);
 }
 
 void QtShell::Tell(const CString& sentence) {

@@ -22,7 +22,10 @@ public:
     QtShell(const QtShell&) = delete;
     QtShell& operator=(const QtShell&) = delete;
 
-    /// Shows the window, and follows the folders from then on.
+    /// Puts the window where the last run left it, as far as the monitors of today have that place. Call
+    /// before Show.
+    void RestorePlace();
+    /// Shows the window, and follows the folders from then on. Its place is kept at the end.
     void Show();
     /// A sentence for the user in the window's status line, without a question that stops the work. The
     /// window must exist.
@@ -32,12 +35,14 @@ public:
     [[nodiscard]] std::optional<std::string> Screenshot(const std::string& file);
 
 private:
+    void KeepPlace();
     void ShowPreview(const PreviewRequest& request);
 
     Navigator& m_navigator;
     FolderWatcher m_watcher;
     QtBitmap m_picture;
     QMetaObject::Connection m_idle;
+    bool m_wasShown = false;
 };
 
 }  // namespace navigator

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <QMainWindow>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTest>
 #include <fstream>
@@ -33,6 +34,7 @@ protected:
             EXPECT_FALSE(navigator.OpenFolder(test.m_folder.Path()));
             navigator.CreateWindow(600, 940, false);
             navigator.LoadSetup();
+            shell.RestorePlace();
             shell.Show();
             QApplication::processEvents();
         }
@@ -85,6 +87,50 @@ TEST_F(QtShellTest, PaneHeightsSurviveARestart) {
     EXPECT_EQ(140, second.navigator.Browser().GetRowHeight(0));
     EXPECT_EQ(460, second.navigator.Browser().GetRowHeight(1));
     EXPECT_EQ(140, gWidgetOf(*second.navigator.Browser().GetPane(0, 0))->height());
+}
+
+TEST_F(QtShellTest, ThePlaceOfTheWindowSurvivesARestart) {
+    {
+        Run first(*this);
+        EXPECT_EQ(QSize(600, 940), first.Window()->size());
+        first.Window()->move(40, 30);
+        first.Window()->resize(500, 620);
+        QApplication::processEvents();
+        first.Window()->close();
+    }
+    for (int run = 0; run < 3; ++run) {
+        Run next(*this);
+        EXPECT_EQ(QPoint(40, 30), next.Window()->pos()) << "and it does not wander";
+        EXPECT_EQ(QSize(500, 620), next.Window()->size());
+        EXPECT_EQ(500, next.navigator.Browser().GetRect().Width());
+    }
+}
+
+TEST_F(QtShellTest, AMaximizedWindowComesBackMaximizedAndKnowsItsFormerPlace) {
+    {
+        Run first(*this);
+        first.Window()->move(40, 30);
+        first.Window()->resize(500, 620);
+        first.Window()->showMaximized();
+        QApplication::processEvents();
+    }
+    Run next(*this);
+    EXPECT_TRUE(next.Window()->isMaximized());
+    next.Window()->showNormal();
+    QApplication::processEvents();
+    EXPECT_EQ(QSize(500, 620), next.Window()->size());
+}
+
+TEST_F(QtShellTest, APlaceOutsideOfAllMonitorsIsBroughtBack) {
+    {
+        QtProfileStore::InFile(m_settings.c_str(), nullptr)
+            ->WriteText("WindowPlacement", "WindowPos", "normal 9000 -5000 9500 -4400");
+    }
+    Run run(*this);
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    EXPECT_EQ(screen.right() + 1 - 500, run.Window()->x()) << "no farther than needed";
+    EXPECT_EQ(screen.top(), run.Window()->y());
+    EXPECT_EQ(QSize(500, 600), run.Window()->size());
 }
 
 TEST_F(QtShellTest, ASentenceForTheUserStandsInTheStatusLine) {
