@@ -10,6 +10,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
@@ -42,6 +43,13 @@ void Wake(const OwnedHandle& wake) {
 void StopBlocking(const OwnedHandle& end) {
     const int flags = fcntl(Descriptor(end), F_GETFL);
     if (flags >= 0) fcntl(Descriptor(end), F_SETFL, flags | O_NONBLOCK);
+}
+
+// Four times the system's size. Waiting for room takes two calls here where a blocking write takes none: a
+// fourth of the waits makes up for it. Where the system refuses, the pipe stays as it is.
+void Widen(const OwnedHandle& end) {
+    constexpr int cnBytes = 256 * 1024;
+    if (fcntl(Descriptor(end), F_GETPIPE_SZ) < cnBytes) fcntl(Descriptor(end), F_SETPIPE_SZ, cnBytes);
 }
 
 // How long a wait can go on after a Close that could not wake it.
@@ -79,10 +87,11 @@ int KeepFromChildren(const OwnedHandle& end) {
 }
 
 Transfer WriteOnce(const OwnedHandle& end, const void* data, std::size_t size) {
+    QuietWriter quiet;
     std::size_t done = 0;
     while (done < size) {
-        const ssize_t written = Retry(
-            [&] { return QuietWrite(Descriptor(end), static_cast<const char*>(data) + done, size - done); });
+        const ssize_t written =
+            quiet.Write(Descriptor(end), static_cast<const char*>(data) + done, size - done);
         if (written < 0) return done > 0 ? Done(static_cast<ssize_t>(done)) : Transfer{0, errno};
         done += static_cast<std::size_t>(written);
     }
@@ -149,23 +158,31 @@ void PipeReader::Leave() noexcept {
 
 PipeWriter::PipeWriter(OwnedHandle end) : m_end(std::move(end)), m_wake(MakeWake(m_end)) {
     StopBlocking(m_end);
+    Widen(m_end);
 }
 
+// As much as goes in before a close or a failure, so that a large block costs one visit; the next call tells
+// the reason.
 Transfer PipeWriter::Write(const void* data, std::size_t size) {
     if (size == 0) return {};
-    Transfer result{0, ECANCELED};
-    if (!m_gate.Enter()) return result;
+    if (!m_gate.Enter()) return {0, ECANCELED};
+    QuietWriter quiet;
+    std::size_t done = 0;
+    int code = ECANCELED;
     while (!m_gate.IsClosed()) {
-        const ssize_t count = Retry([&] { return QuietWrite(Descriptor(m_end), data, size); });
-        if (count < 0 && WouldBlock()) {
-            WaitFor(m_end, POLLOUT, m_wake);
-            continue;
+        const ssize_t count =
+            quiet.Write(Descriptor(m_end), static_cast<const char*>(data) + done, size - done);
+        if (count < 0 && !WouldBlock()) {
+            code = errno;
+            break;
         }
-        result = count >= 0 ? Done(count) : Transfer{0, errno};
-        break;
+        done += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+        if (done == size) break;
+        // The pipe is full, also where a part went in.
+        WaitFor(m_end, POLLOUT, m_wake);
     }
     Leave();
-    return result;
+    return done > 0 ? Done(static_cast<ssize_t>(done)) : Transfer{0, code};
 }
 
 void PipeWriter::Close() noexcept {

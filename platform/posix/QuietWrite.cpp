@@ -4,7 +4,6 @@
 #include "platform/posix/QuietWrite.h"
 
 #include <pthread.h>
-#include <signal.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -14,45 +13,30 @@
 
 namespace vapp_platform {
 
-namespace {
-
-class PipeSignalBlock {
-public:
-    PipeSignalBlock() noexcept {
-        sigemptyset(&m_pipe);
-        sigaddset(&m_pipe, SIGPIPE);
-        pthread_sigmask(SIG_BLOCK, &m_pipe, &m_before);
-        // Only a thread that has it blocked already can have one pending.
-        if (sigismember(&m_before, SIGPIPE) == 1) {
-            sigset_t pending;
-            sigemptyset(&pending);
-            sigpending(&pending);
-            m_wasPending = sigismember(&pending, SIGPIPE) == 1;
-        }
+QuietWriter::QuietWriter() noexcept {
+    sigemptyset(&m_pipe);
+    sigaddset(&m_pipe, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &m_pipe, &m_before);
+    // Only a thread that has it blocked already can have one pending.
+    if (sigismember(&m_before, SIGPIPE) == 1) {
+        sigset_t pending;
+        sigemptyset(&pending);
+        sigpending(&pending);
+        m_wasPending = sigismember(&pending, SIGPIPE) == 1;
     }
-    PipeSignalBlock(const PipeSignalBlock&) = delete;
-    PipeSignalBlock& operator=(const PipeSignalBlock&) = delete;
-    ~PipeSignalBlock() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+}
 
-    void TakeBack() noexcept {
-        if (m_wasPending) return;
+QuietWriter::~QuietWriter() {
+    pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+}
+
+ssize_t QuietWriter::Write(int descriptor, const void* data, std::size_t size) noexcept {
+    const ssize_t written = Retry([&] { return write(descriptor, data, size); });
+    const int code = errno;
+    if (written < 0 && code == EPIPE && !m_wasPending) {
         const timespec atOnce{};
         Retry([&] { return sigtimedwait(&m_pipe, nullptr, &atOnce); });
     }
-
-private:
-    sigset_t m_pipe{};
-    sigset_t m_before{};
-    bool m_wasPending = false;
-};
-
-}  // namespace
-
-ssize_t QuietWrite(int descriptor, const void* data, std::size_t size) {
-    PipeSignalBlock block;
-    const ssize_t written = write(descriptor, data, size);
-    const int code = errno;
-    if (written < 0 && code == EPIPE) block.TakeBack();
     errno = code;
     return written;
 }

@@ -132,6 +132,57 @@ TEST(PosixPipe, CloseEndsABlockedCallAlsoWhereNothingWasLeftToWakeItWith) {
     writing.join();
 }
 
+TEST(PosixPipe, AWriterWidensItsPipeSoThatItWaitsLessOften) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    const int before = fcntl(static_cast<int>(readEnd.Get()), F_GETPIPE_SZ);
+    const PipeWriter writer(std::move(writeEnd));
+    const int wide = fcntl(static_cast<int>(readEnd.Get()), F_GETPIPE_SZ);
+    // A user without privileges who has very many pipes keeps the narrow one.
+    if (wide == before) GTEST_SKIP() << "the system refuses wider pipes";
+    EXPECT_EQ(wide, 256 * 1024);
+}
+
+TEST(PosixPipe, ABlockThatFillsThePipeIsOneWrite) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    PipeReader reader(std::move(readEnd));
+    PipeWriter writer(std::move(writeEnd));
+    const std::string block(3 << 20, 'b');
+    std::string all;
+    std::thread drain([&] {
+        std::string buffer(65536, '\0');
+        while (all.size() < block.size()) {
+            const auto got = reader.Read(buffer.data(), buffer.size());
+            if (got.Failed()) break;
+            all.append(buffer, 0, static_cast<std::size_t>(got.count));
+        }
+    });
+    EXPECT_EQ(writer.Write(block.data(), block.size()).count, 3 << 20);
+    drain.join();
+    EXPECT_EQ(all, block);
+}
+
+TEST(PosixPipe, AReaderWhoGoesInTheMiddleOfABlockLeavesAPartAndThenACode) {
+    OwnedHandle readEnd, writeEnd;
+    ASSERT_EQ(CreatePipe(readEnd, writeEnd), 0);
+    auto reader = std::make_unique<PipeReader>(std::move(readEnd));
+    PipeWriter writer(std::move(writeEnd));
+    const std::string block(3 << 20, 'b');
+    std::thread leave([&] {
+        char byte = ' ';
+        EXPECT_EQ(reader->Read(&byte, 1).count, 1);
+        reader.reset();
+    });
+    const auto part = writer.Write(block.data(), block.size());
+    leave.join();
+    EXPECT_GT(part.count, 0);
+    EXPECT_LT(part.count, 3 << 20);
+    EXPECT_EQ(part.code, 0);
+    EXPECT_EQ(writer.Write("x", 1).code, EPIPE);
+    EXPECT_FALSE(IsPipeSignalPending());
+}
+
 TEST(PosixPipe, AStormOfSignalsCostsNoByte) {
     struct sigaction quiet {};
     quiet.sa_handler = [](int) {};
