@@ -395,7 +395,7 @@ struct LsRow {
 
 constexpr LsRow cnLists[] = {
     {".vornex/v1/evi_worker", "ls .vornex/v1\n"},
-    {"/opt/work/x", "ls /opt/work\n"},
+    {"/opt/tools/x", "ls /opt/tools\n"},
     // No folder part, and the root's, which has no name of its own: the login folder.
     {"evi_worker", "ls \n"},
     {"/x", "ls \n"},
