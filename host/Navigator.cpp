@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "host/CellsQuery.h"
+#include "host/WindowLayout.h"
 #include "vapp/browser/Messages.h"
+#include "vapp/browser/TProfileSection.h"
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
@@ -40,8 +42,8 @@ Tcl_Interp* CreateInterp() {
 
 }  // namespace
 
-Navigator::Navigator()
-    : m_app("navigator"),
+Navigator::Navigator(CWinAppEx& app)
+    : m_app(app),
       m_interp(CreateInterp()),
       m_database(m_interp.get(), m_store),
       m_commands(m_interp.get()),
@@ -63,6 +65,9 @@ void Navigator::CreateWindow(int width, int height, bool dark) {
     m_frame.SetDark(dark);
     m_frame.CreateFrame("Library Navigator", CRect(0, 0, width, height));
     m_app.SetMainWnd(&m_frame);
+    // Each start keeps the heights at its end: if one is there, all are the user's.
+    m_hasKeptHeights = m_app.GetProfileInt(vapp_library_browser::csNavigatorSection,
+                                           m_app.GetAppName() + "CellsPaneHeight", -1) >= 0;
     m_browser->Initialize(&m_frame, m_interp.get(), nullptr);
     m_browser->AddViewsToDoc(&m_document);
     for (const FilterType& type : gFilterTypes())
@@ -70,6 +75,17 @@ void Navigator::CreateWindow(int width, int height, bool dark) {
     static constexpr std::array<const char*, 3> csTabs{"Compact", "Details", "Names"};
     for (int tab = 0; tab < static_cast<int>(csTabs.size()); ++tab)
         m_browser->GetCellListView()->SetCellTabsText(tab, csTabs[static_cast<std::size_t>(tab)]);
+}
+
+void Navigator::FitPanes() {
+    if (m_hasKeptHeights) return;
+    PaneHeights heights{};
+    for (std::size_t row = 0; row < heights.size(); ++row)
+        heights[row] = m_browser->GetRowHeight(static_cast<int>(row));
+    const PaneHeights fitted =
+        gFitPaneHeights(heights, m_browser->GetClientRect().bottom, CSplitterWnd::cnBarHeight);
+    for (std::size_t row = 0; row < fitted.size(); ++row)
+        m_browser->SetRowHeight(static_cast<int>(row), fitted[row]);
 }
 
 std::optional<std::string> Navigator::SourceScript(const std::string& file) {

@@ -10,7 +10,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "host/DatabaseCommand.h"
 #include "host/DesignStore.h"
@@ -25,23 +24,24 @@ namespace navigator {
 
 class Navigator {
 public:
-    Navigator();
+    /// @param app  the application object; must outlive this one
+    explicit Navigator(CWinAppEx& app);
     ~Navigator();
     Navigator(const Navigator&) = delete;
     Navigator& operator=(const Navigator&) = delete;
 
-    /// Where settings are kept over the end of the program; without it they go with this object. Call before
-    /// the window is made.
-    void KeepSettingsIn(std::unique_ptr<ProfileStore> store) { m_app.SetProfileStore(std::move(store)); }
-
     /// Opens a folder as a design. Gives nothing on success, or else a sentence that says what failed.
     [[nodiscard]] std::optional<std::string> OpenFolder(const std::filesystem::path& folder);
-    /// Makes frame and panes. Call once; afterwards scripts may add columns and filter types.
+    /// Makes frame and panes. Call once, when the application has its settings; afterwards scripts may add
+    /// columns and filter types.
     void CreateWindow(int width, int height, bool dark);
     /// Sources a script at global level. Gives nothing on success, or else the script's error with its place.
     [[nodiscard]] std::optional<std::string> SourceScript(const std::string& file);
     /// Reads the stored layout; to be called when all columns are there.
     void LoadSetup() { m_browser->SerializeSetup(false); }
+    /// Gives each pane a part of a window that is too small for their first heights. Does nothing where the
+    /// user has left other heights; to be called when the window has its size.
+    void FitPanes();
 
     /// Refreshes what is dirty; to be called when idle.
     void Populate();
@@ -52,6 +52,7 @@ public:
     /// lines.
     [[nodiscard]] std::string Dump();
 
+    [[nodiscard]] CWinAppEx& App() { return m_app; }
     [[nodiscard]] NavigatorFrame& Frame() { return m_frame; }
     [[nodiscard]] vapp_library_browser::TLibraryBrowser& Browser() { return *m_browser; }
     [[nodiscard]] DesignStore& Store() { return m_store; }
@@ -66,7 +67,7 @@ private:
     void OnDatabaseChange(DatabaseChange change);
 
     // Order matters: windows go before the commands that they may still call, those before the interpreter.
-    CWinAppEx m_app;
+    CWinAppEx& m_app;
     DesignStore m_store;
     std::unique_ptr<Tcl_Interp, InterpDeleter> m_interp;
     DatabaseCommand m_database;
@@ -76,6 +77,7 @@ private:
     std::unique_ptr<vapp_library_browser::TLibraryBrowser> m_browser;
     NavigatorCommand m_script;
     bool m_previewDue = false;
+    bool m_hasKeptHeights = false;
 };
 
 }  // namespace navigator

@@ -11,7 +11,7 @@ namespace navigator {
 
 namespace {
 
-enum class OptionId { Script, Dump, Screenshot, Size, Scale, Dark, Version, Help };
+enum class OptionId { Script, Dump, Screenshot, Size, Scale, Dark, Instances, NoSplash, Version, Help };
 
 struct OptionRow {
     OptionId id;
@@ -20,7 +20,7 @@ struct OptionRow {
     std::string_view help;
 };
 
-constexpr std::array<OptionRow, 8> csOptions{{
+constexpr std::array<OptionRow, 10> csOptions{{
     {OptionId::Script, "--script", "FILE",
      "Source a Tcl script after the start; it may add menus, columns, filters."},
     {OptionId::Dump, "--dump", "", "Print the cell list of the first design and exit; no window."},
@@ -28,6 +28,9 @@ constexpr std::array<OptionRow, 8> csOptions{{
     {OptionId::Size, "--size", "WxH", "Size of the window in pixels, for example 900x700."},
     {OptionId::Scale, "--scale", "N", "Device pixels for each pixel of the screenshot, 0.5 to 8."},
     {OptionId::Dark, "--dark", "", "Dark theme."},
+    {OptionId::Instances, "--instances", "N",
+     "Start unless N windows of yours run already; 1 without it, 0 is no limit."},
+    {OptionId::NoSplash, "--no-splash", "", "Start without the picture."},
     {OptionId::Version, "--version", "", "Print the version and exit."},
     {OptionId::Help, "--help", "", "Print this text and exit."},
 }};
@@ -90,6 +93,16 @@ std::optional<std::string> Apply(const OptionRow& row, const std::string& value,
             break;
         case OptionId::Dark:
             options.isDark = true;
+            break;
+        case OptionId::Instances:
+            if (const auto limit = WholeNumber<unsigned>(value)) {
+                options.instances = *limit;
+            } else {
+                return "The number of instances \"" + value + "\" is not a whole number from 0 on.";
+            }
+            break;
+        case OptionId::NoSplash:
+            options.isWithoutSplash = true;
             break;
         case OptionId::Version:
             options.isVersion = true;

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "host/WindowLayout.h"
+
 namespace navigator {
 
 struct Options {
@@ -16,9 +18,11 @@ struct Options {
     bool isDark = false;
     bool isVersion = false;
     bool isHelp = false;
+    bool isWithoutSplash = false;
+    unsigned long instances = 1;  ///< How many windows of one user may run; 0 for any number.
     bool isSizeGiven = false;
-    int width = 900;  ///< Of the window, in logical pixels.
-    int height = 700;
+    int width = cnWantedWindow.width;  ///< Of the window, in logical pixels.
+    int height = cnWantedWindow.height;
     double scale = 1;  ///< Device pixels for a logical pixel, 0.5 to 8.
 };
 
@@ -29,6 +33,9 @@ struct Options {
 
 /// Exit status for a command line that is wrong and for a folder that cannot be read.
 inline constexpr int cnUsageStatus = 2;
+
+/// Exit status of a start that is refused because as many instances run as may.
+inline constexpr int cnBusyStatus = 3;
 
 /// The text of --help.
 std::string gUsageText();

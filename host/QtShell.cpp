@@ -58,6 +58,7 @@ void QtShell::Show() {
     m_idle = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                               qApp, [this] { m_navigator.Populate(); });
     m_navigator.Frame().ShowWindow(true);
+    m_navigator.FitPanes();
     m_wasShown = true;
 }
 
@@ -91,6 +92,7 @@ void QtShell::Tell(const CString& sentence) {
 std::optional<std::string> QtShell::Screenshot(const std::string& file) {
     gApplyTheme(m_navigator.Frame().IsDark());
     m_navigator.Frame().ShowWindow(true);
+    m_navigator.FitPanes();
     for (int round = 0; round < cnSettlingRounds; ++round) {
         QApplication::processEvents();
         m_navigator.Populate();

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "host/NavigatorApp.h"
 #include "tests/host/TempFolder.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/celllist/TCellListView.h"
@@ -49,7 +50,8 @@ protected:
     }
 
     TempFolder m_folder;
-    Navigator m_navigator;
+    navigator::NavigatorApp m_app;
+    Navigator m_navigator{m_app};
 };
 
 TEST_F(NavigatorTest, ShowsFilesAndFoldersAsCellViews) {

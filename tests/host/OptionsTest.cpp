@@ -13,10 +13,11 @@ std::optional<std::string> Parse(std::vector<std::string> words, Options& option
 
 TEST(Options, ReadsFoldersAndEveryOption) {
     Options options;
-    EXPECT_EQ(Parse({"one", "--script", "s.tcl", "--dump", "--screenshot=p.png", "--size", "640x480",
-                     "--scale", "2", "--dark", "two words", "--", "--three"},
-                    options),
-              std::nullopt);
+    EXPECT_EQ(
+        Parse({"one", "--script", "s.tcl", "--dump", "--screenshot=p.png", "--size", "640x480", "--scale",
+               "2", "--dark", "--instances", "3", "--no-splash", "two words", "--", "--three"},
+              options),
+        std::nullopt);
     EXPECT_EQ(options.folders, (std::vector<std::string>{"one", "two words", "--three"}));
     EXPECT_EQ(options.script, "s.tcl");
     EXPECT_EQ(options.screenshot, "p.png");
@@ -25,6 +26,8 @@ TEST(Options, ReadsFoldersAndEveryOption) {
     EXPECT_EQ(options.width, 640);
     EXPECT_EQ(options.height, 480);
     EXPECT_EQ(options.scale, 2);
+    EXPECT_EQ(options.instances, 3u);
+    EXPECT_TRUE(options.isWithoutSplash);
     EXPECT_EQ(Parse({"--version", "--help"}, options), std::nullopt);
     EXPECT_TRUE(options.isVersion);
     EXPECT_TRUE(options.isHelp);
@@ -42,6 +45,8 @@ TEST(Options, SaysInASentenceWhatIsWrong) {
         {{"--size", "10x99999999999"},
          "The size \"10x99999999999\" is not WIDTHxHEIGHT with sides from 50 to 16384, as in 900x700."},
         {{"--scale", "nan"}, "The scale \"nan\" is not a number from 0.5 to 8."},
+        {{"--instances", "-1"}, "The number of instances \"-1\" is not a whole number from 0 on."},
+        {{"--instances", "two"}, "The number of instances \"two\" is not a whole number from 0 on."},
         {{"--scale", "2x"}, "The scale \"2x\" is not a number from 0.5 to 8."},
     };
     for (const auto& [words, sentence] : rows) {
@@ -53,7 +58,7 @@ TEST(Options, SaysInASentenceWhatIsWrong) {
 TEST(Options, TheHelpNamesEveryOptionThatIsUnderstood) {
     const std::string usage = gUsageText();
     for (const char* name : {"--script FILE", "--dump", "--screenshot FILE", "--size WxH", "--scale N",
-                             "--dark", "--version", "--help"})
+                             "--dark", "--instances N", "--no-splash", "--version", "--help"})
         EXPECT_NE(usage.find(name), std::string::npos) << name;
 }
 

@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "host/Navigator.h"
+#include "host/NavigatorApp.h"
 #include "tests/host/TempFolder.h"
 #include "vapp/text/ActiveCodePage.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
@@ -29,10 +30,10 @@ class QtShellTest : public testing::Test {
 protected:
     /// The objects of one run of the program.
     struct Run {
-        explicit Run(const QtShellTest& test) {
-            navigator.KeepSettingsIn(QtProfileStore::InFile(test.m_settings.c_str(), nullptr));
+        explicit Run(const QtShellTest& test, int height = 940) {
+            app.SetProfileStore(QtProfileStore::InFile(test.m_settings.c_str(), nullptr));
             EXPECT_FALSE(navigator.OpenFolder(test.m_folder.Path()));
-            navigator.CreateWindow(600, 940, false);
+            navigator.CreateWindow(600, height, false);
             navigator.LoadSetup();
             shell.RestorePlace();
             shell.Show();
@@ -52,7 +53,8 @@ protected:
         }
         [[nodiscard]] QWidget* Window() { return gWidgetOf(navigator.Frame()); }
 
-        Navigator navigator;
+        navigator::NavigatorApp app;
+        Navigator navigator{app};
         QtShell shell{navigator};
     };
 
@@ -87,6 +89,21 @@ TEST_F(QtShellTest, PaneHeightsSurviveARestart) {
     EXPECT_EQ(140, second.navigator.Browser().GetRowHeight(0));
     EXPECT_EQ(460, second.navigator.Browser().GetRowHeight(1));
     EXPECT_EQ(140, gWidgetOf(*second.navigator.Browser().GetPane(0, 0))->height());
+}
+
+TEST_F(QtShellTest, AFirstStartInASmallWindowShowsAllPanesAndALaterOneTheUsersHeights) {
+    {
+        Run first(*this, 640);
+        auto& browser = first.navigator.Browser();
+        EXPECT_EQ(200, browser.GetRowHeight(0));
+        EXPECT_LT(browser.GetRowHeight(1), 300) << "the cells give first";
+        EXPECT_GE(browser.GetPane(2, 0)->GetRect().Height(), 80) << "the preview is seen";
+        first.Drag(0, -150);
+        first.Drag(1, 100);
+        EXPECT_EQ(50, browser.GetRowHeight(0));
+    }
+    Run second(*this, 300);
+    EXPECT_EQ(50, second.navigator.Browser().GetRowHeight(0)) << "what the user chose stays";
 }
 
 TEST_F(QtShellTest, ThePlaceOfTheWindowSurvivesARestart) {
