@@ -100,6 +100,13 @@ void TLibraryBrowser::OnDestroy() {
     CSplitterWnd::OnDestroy();
 }
 
+bool TLibraryBrowser::OnKey(CWnd& from, TKey key, TModifiers modifiers) {
+    TCellListView* cells = GetCellListView();
+    if (key != TKey::Find || cells == nullptr) return CSplitterWnd::OnKey(from, key, modifiers);
+    cells->FocusFilter();
+    return true;
+}
+
 // A line's sender goes on when the line has ended, whatever the line did to the window.
 bool TLibraryBrowser::MayFreePanes() const {
     return !IsLineRunning();

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "celllist/FilterHistory.h"
+#include "celllist/FilterImages.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TSymbolPreview.h"
@@ -19,9 +21,6 @@ namespace {
 constexpr UINT cnDialog = 388;
 constexpr int cnTabCount = 3;
 constexpr int cnMargin = 4;
-// The button shows a list while there is nothing to clear, and a cross while there is.
-constexpr UINT cnImageEmpty = 562;
-constexpr UINT cnImageFilled = 564;
 constexpr WPARAM cnSelectionChanged = 1;
 // The answer of `database filter` is read as a byte, and hosts rely on it.
 constexpr int cnFilterAnswerMask = 0xFF;
@@ -56,7 +55,8 @@ CString WindowText(const char* key) {
 
 }  // namespace
 
-TCellListView::TCellListView() : CFormView(cnTemplate), m_report(*this) {}
+TCellListView::TCellListView()
+    : CFormView(cnTemplate), m_report(*this), m_filterHistory(std::make_unique<FilterHistory>()) {}
 
 TCellListView::~TCellListView() {
     // While the controls are still there to be told.
@@ -71,7 +71,8 @@ void TCellListView::OnCreate() {
     CreateItem(m_report, cnReport);
     CreateItem(m_tabs, cnTabs);
     CreateItem(m_status, cnStatus);
-    m_filterButton.SetImageResource(cnImageEmpty);
+    m_filterButton.SetImageResource(cnFilterImageEmpty);
+    m_tabs.SetMinWidthText("WWW");
     while (m_tabs.GetItemCount() < cnTabCount)
         m_tabs.InsertItem(m_tabs.GetItemCount(), "");
     SetAccessibleName(WindowText("__$$Translatable$$_Cell list"));
@@ -83,6 +84,7 @@ void TCellListView::OnCreate() {
 void TCellListView::OnInitialUpdate() {
     CFormView::OnInitialUpdate();
     m_report.Init();
+    LoadFilterHistory();
 }
 
 // --- Refresh -------------------------------------------------------------------------------------------
@@ -114,29 +116,7 @@ void TCellListView::SetStatusText(const CStringU& text) {
     m_status.SetWindowText(text.ToAnsi());
 }
 
-// --- Filter --------------------------------------------------------------------------------------------
-
-void TCellListView::AddFilterType(const CStringU& name) {
-    m_filterCombo.AddString(name);
-    if (m_filterCombo.GetCount() == 1) m_filterCombo.SetCurSel(0);
-}
-
-CStringU TCellListView::GetDropDownFilter() const {
-    return m_filterCombo.GetLBText(m_filterCombo.GetCurSel());
-}
-
-void TCellListView::ResetFilter() {
-    m_filterCombo.SetCurSel(0);
-    m_filterEdit.SetWindowText("");
-    OnEditFilterChange();
-}
-
 // --- What the controls report --------------------------------------------------------------------------
-
-void TCellListView::OnEditFilterChange() {
-    m_filterButton.SetImageResource(GetFilterText().IsEmpty() ? cnImageEmpty : cnImageFilled);
-    SetNeedsPopulate(true);
-}
 
 void TCellListView::OnCbnCloseupFilterCombo() {
     SetNeedsPopulate(true);
@@ -158,6 +138,10 @@ void TCellListView::OnReportSortOrderChanged() {
 bool TCellListView::OnNotify(Notification& notification, LRESULT& result) {
     if (notification.from == &m_filterEdit && notification.code == cnEditChanged) {
         OnEditFilterChange();
+    } else if (notification.from == &m_filterButton && notification.code == cnButtonClicked) {
+        OnFilterBtnClicked();
+    } else if (notification.from == &m_filterCombo && notification.code == cnComboSelectionChanged) {
+        OnCbnSelchangeFilterCombo();
     } else if (notification.from == &m_filterCombo && notification.code == cnComboClosedUp) {
         OnCbnCloseupFilterCombo();
     } else if (notification.from == &m_report && notification.code == cnReportSelectionChanged) {

@@ -8,6 +8,7 @@
 #include "celllist/CellRows.h"
 #include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/TProfileSection.h"
+#include "vapp/celllist/TCellListView.h"
 
 namespace vapp_library_browser {
 
@@ -73,6 +74,11 @@ TCellNamesReportCtrl::TColumn* TCellNamesReportCtrl::HeaderHitTest(CPoint point)
 
 CStringU TCellNamesReportCtrl::GetTypeAheadText(int row) const {
     return GetCell(row).cell;
+}
+
+void TCellNamesReportCtrl::OnDoubleClick(CPoint point) {
+    CXTPReportControl::OnDoubleClick(point);
+    if (!HitTestRow(point) && HeaderHitTest(point) == nullptr) m_pane.EmptyFilterText();
 }
 
 TCellNamesReportCtrl::TColCellName* TCellNamesReportCtrl::FindCellColumn() const {

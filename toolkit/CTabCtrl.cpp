@@ -31,6 +31,12 @@ void CTabCtrl::SetItemText(int index, const CString& text) {
     TellPeer(cnChangeItems);
 }
 
+void CTabCtrl::SetMinWidthText(const CString& text) {
+    if (m_minWidthText == text) return;
+    m_minWidthText = text;
+    TellPeer(cnChangeLook | cnChangeItems);
+}
+
 void CTabCtrl::SetCurSel(int index) {
     const int current = index >= 0 && index < GetItemCount() ? index : -1;
     if (m_current == current) return;

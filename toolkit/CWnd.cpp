@@ -245,6 +245,22 @@ void CWnd::OnMove(int /*x*/, int /*y*/) {}
 
 void CWnd::OnSetFocus() {}
 
+void CWnd::ContextMenuByPeer(CPoint screen) {
+    if (m_created) OnContextMenu(*this, screen);
+}
+
+bool CWnd::KeyByPeer(TKey key, TModifiers modifiers) {
+    return m_created && OnKey(*this, key, modifiers);
+}
+
+void CWnd::OnContextMenu(CWnd& from, CPoint screen) {
+    if (m_parent != nullptr) m_parent->OnContextMenu(from, screen);
+}
+
+bool CWnd::OnKey(CWnd& from, TKey key, TModifiers modifiers) {
+    return m_parent != nullptr && m_parent->OnKey(from, key, modifiers);
+}
+
 std::unique_ptr<Peer> CWnd::CreatePeer(PeerFactory& /*factory*/) {
     return nullptr;
 }

@@ -152,6 +152,12 @@ void CXTPReportControl::ContextClickedByUser(int row) {
     if (m_cursor.ContextClick(row < m_rowCount ? row : -1)) CursorChanged(focusBefore);
 }
 
+void CXTPReportControl::DoubleClickedByUser(CPoint point) {
+    if (IsWindow()) OnDoubleClick(point);
+}
+
+void CXTPReportControl::OnDoubleClick(CPoint /*point*/) {}
+
 void CXTPReportControl::KeyPressedByUser(TKey key, TModifiers modifiers) {
     const int focusBefore = m_cursor.GetFocus();
     if (m_cursor.Key(key, modifiers, m_rowCount, GetCountPerPage())) CursorChanged(focusBefore);

@@ -26,6 +26,10 @@ std::optional<int> PeerFactory::ShowMessageBox(const TMessageBox& /*box*/) {
     return std::nullopt;
 }
 
+UINT PeerFactory::TrackMenu(const CMenu& /*menu*/, CWnd& /*owner*/, CPoint /*screen*/, TMenuAlign /*align*/) {
+    return 0;
+}
+
 std::vector<CRect> PeerFactory::MonitorAreas() const {
     return {};
 }

@@ -40,3 +40,15 @@ TEST(CTabCtrl, OnlyTheUsersPickIsToldToTheParent) {
     tabs.SetCurSel(3);
     EXPECT_EQ(tabs.GetCurSel(), -1);
 }
+
+TEST(CTabCtrl, TellsItsPeerOfTheTextThatLimitsTheWidth) {
+    RecordingPeers peers;
+    CTabCtrl tabs;
+    EXPECT_TRUE(tabs.GetMinWidthText().IsEmpty());
+    ASSERT_TRUE(tabs.Create(nullptr, 7));
+    peers.ForgetAll();
+    tabs.SetMinWidthText("WWW");
+    tabs.SetMinWidthText("WWW");
+    EXPECT_EQ(tabs.GetMinWidthText(), "WWW");
+    EXPECT_EQ(peers.Of(tabs).changes.size(), 1u);
+}

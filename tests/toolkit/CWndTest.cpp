@@ -382,3 +382,45 @@ TEST(CWnd, ClientAreaLeavesOutWhatThePeerReserves) {
     window.MovedByPeer({0, 0, -3, -4});
     EXPECT_EQ(window.GetClientRect(), CRect(0, 0, -3, -4)) << "a reversed rectangle stays as it is";
 }
+
+namespace {
+
+// Notes which window a key or a menu was meant for, and answers keys if told so.
+class AnsweringWindow : public CWnd {
+public:
+    ~AnsweringWindow() override { DestroyWindow(); }
+    const CWnd* menuFrom = nullptr;
+    const CWnd* keyFrom = nullptr;
+    bool answersKeys = false;
+
+protected:
+    void OnContextMenu(CWnd& from, CPoint /*screen*/) override { menuFrom = &from; }
+    bool OnKey(CWnd& from, TKey /*key*/, TModifiers /*modifiers*/) override {
+        keyFrom = &from;
+        return answersKeys;
+    }
+};
+
+}  // namespace
+
+TEST(CWnd, MenusAndKeysGoUpUntilAWindowAnswers) {
+    AnsweringWindow top;
+    ASSERT_TRUE(top.Create(nullptr, 1));
+    CWnd middle;
+    ASSERT_TRUE(middle.Create(&top, 2));
+    CWnd child;
+    child.ContextMenuByPeer({});
+    EXPECT_FALSE(child.KeyByPeer(TKey::Find, {})) << "without a window there are no keys";
+    ASSERT_TRUE(child.Create(&middle, 3));
+    child.ContextMenuByPeer({});
+    EXPECT_EQ(top.menuFrom, &child);
+    EXPECT_FALSE(child.KeyByPeer(TKey::Find, {}));
+    EXPECT_EQ(top.keyFrom, &child);
+    top.answersKeys = true;
+    EXPECT_TRUE(middle.KeyByPeer(TKey::Down, {}));
+    EXPECT_EQ(top.keyFrom, &middle);
+    CWnd alone;
+    ASSERT_TRUE(alone.Create(nullptr, 4));
+    alone.ContextMenuByPeer({});
+    EXPECT_FALSE(alone.KeyByPeer(TKey::Down, {}));
+}

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,9 +15,11 @@
 
 #include "vapp/toolkit/CButton.h"
 #include "vapp/toolkit/CComboBox.h"
+#include "vapp/toolkit/CDialog.h"
 #include "vapp/toolkit/CEdit.h"
 #include "vapp/toolkit/CFrameWnd.h"
 #include "vapp/toolkit/CListCtrl.h"
+#include "vapp/toolkit/CMenu.h"
 #include "vapp/toolkit/CSplitterWnd.h"
 #include "vapp/toolkit/CStatic.h"
 #include "vapp/toolkit/CTabCtrl.h"
@@ -90,6 +93,12 @@ public:
     std::vector<CRect> monitors;       ///< what MonitorAreas answers
     std::vector<TMessageBox> boxes;    ///< those that were shown
     std::optional<int> answer = IDOK;  ///< to every box; nothing: boxes can't be shown
+    /// The user of menus: sees one and gives the command that is picked.
+    std::function<UINT(const CMenu& menu)> pick;
+    /// The user of dialogs.
+    std::function<void(CDialog& dialog)> answerDialog;
+    CPoint menuPoint;                         ///< where the last menu was asked for
+    TMenuAlign menuAlign = TMenuAlign::Left;  ///< and on which side
 
     std::unique_ptr<Peer> CreateFrame(CFrameWnd& window) override { return Make(window, "frame"); }
     std::unique_ptr<Peer> CreateSplitter(CSplitterWnd& window) override { return Make(window, "splitter"); }
@@ -105,6 +114,16 @@ public:
     std::optional<int> ShowMessageBox(const TMessageBox& box) override {
         if (answer) boxes.push_back(box);
         return answer;
+    }
+    UINT TrackMenu(const CMenu& menu, CWnd& /*owner*/, CPoint screen, TMenuAlign align) override {
+        menuPoint = screen;
+        menuAlign = align;
+        return pick ? pick(menu) : 0;
+    }
+    bool WaitFor(CDialog& dialog) override {
+        if (!answerDialog) return false;
+        answerDialog(dialog);
+        return true;
     }
     [[nodiscard]] std::vector<CRect> MonitorAreas() const override { return monitors; }
     [[nodiscard]] CPoint CursorPosition() const override { return cursor; }

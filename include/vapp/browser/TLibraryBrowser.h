@@ -164,6 +164,8 @@ public:
 protected:
     /// Saves the heights of the panes.
     void OnDestroy() override;
+    /// From any pane, the key to look for something goes to the filter of the cell list.
+    bool OnKey(CWnd& from, TKey key, TModifiers modifiers) override;
     /// Not while a line is running, whose sender may be one of the panes.
     [[nodiscard]] bool MayFreePanes() const override;
 

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 
 #include "vapp/Export.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
@@ -22,6 +23,7 @@
 
 namespace vapp_library_browser {
 
+class FilterHistory;
 class TLibraryView;
 class TSymbolPreview;
 
@@ -75,6 +77,14 @@ public:
     [[nodiscard]] CString GetFilterText() const { return m_filterEdit.GetWindowText(); }
     /// Selects the first type and empties the sub-string.
     void ResetFilter();
+    /// Empties the sub-string.
+    void EmptyFilterText();
+    /// Gives the keyboard to the edit of the sub-string.
+    void FocusFilter();
+    /// The setting with the sub-strings of the past, the newest first, each followed by a line feed; UTF-8.
+    [[nodiscard]] CString GetCellFilterHistory() const;
+    /// Stores that setting, nothing else: the history of this pane goes on as it is.
+    void SetCellFilterHistory(CString& history);
     /// The views that hosts are asked to leave out, divided by semicolons and blanks.
     [[nodiscard]] const CStringU& GetExcludeViews() const { return m_report.GetExcludeViews(); }
 
@@ -96,8 +106,12 @@ public:
 
     // --- Handlers --------------------------------------------------------------------------------------
 
-    /// The sub-string has changed: takes effect with the next refresh.
+    /// The sub-string has changed: notes and stores it in the history, and marks the list.
     void OnEditFilterChange();
+    /// The button beside the sub-string: empties it, or, where it is empty, offers those of the past.
+    void OnFilterBtnClicked();
+    /// Another type was picked: nothing until the drop-down closes.
+    void OnCbnSelchangeFilterCombo() {}
     /// The drop-down closed: marks the list and gives the keyboard to the main window.
     void OnCbnCloseupFilterCombo();
     /// Selection or focus changed: tells the main window, unless a refresh is due, and the preview.
@@ -110,8 +124,15 @@ protected:
     void OnSize(UINT type, int cx, int cy) override;
     void OnSetFocus() override;
     bool OnNotify(Notification& notification, LRESULT& result) override;
+    /// In the edit, Down goes on to the rows, and Escape empties the edit or, once it is empty, goes back to
+    /// the rows.
+    bool OnKey(CWnd& from, TKey key, TModifiers modifiers) override;
 
 private:
+    void LoadFilterHistory();
+    void OfferFilterHistory();
+    void FocusRows();
+
     TComboBoxCtrl m_filterCombo;
     CXTPEdit m_filterEdit;
     CXTPButton m_filterButton;
@@ -120,6 +141,7 @@ private:
     CStatic m_status;
     TLibraryView* m_libraryView = nullptr;
     TSymbolPreview* m_previewView = nullptr;
+    std::unique_ptr<FilterHistory> m_filterHistory;
     bool m_needsPopulate = true;
 };
 

@@ -290,6 +290,10 @@ public:
     void OnColumnsChanged(int change, CXTPReportColumn* column) override;
     [[nodiscard]] CStringU GetTypeAheadText(int row) const override;
 
+protected:
+    /// On neither a row nor a header: empties the pane's sub-string.
+    void OnDoubleClick(CPoint point) override;
+
 private:
     class SavedView;
 

@@ -18,6 +18,9 @@ public:
     [[nodiscard]] int GetItemCount() const { return static_cast<int>(m_items.size()); }
     [[nodiscard]] CString GetItemText(int index) const;
     void SetItemText(int index, const CString& text);
+    /// No tab is narrower than this text is in the strip's font; empty, as at first, for no such limit.
+    [[nodiscard]] const CString& GetMinWidthText() const { return m_minWidthText; }
+    void SetMinWidthText(const CString& text);
     /// Current tab, -1 for none.
     [[nodiscard]] int GetCurSel() const { return m_current; }
     /// Selects without notification; out of range selects none, and GetCurSel then gives -1.
@@ -30,5 +33,6 @@ protected:
 
 private:
     std::vector<CString> m_items;
+    CString m_minWidthText;
     int m_current = -1;
 };

@@ -11,6 +11,7 @@
 #include "vapp/toolkit/BasicTypes.h"
 #include "vapp/toolkit/CObject.h"
 #include "vapp/toolkit/CRect.h"
+#include "vapp/toolkit/InputTypes.h"
 #include "vapp/toolkit/Notification.h"
 #include "vapp/toolkit/Peer.h"
 
@@ -101,6 +102,12 @@ public:
     /// Tells the parent; 0 if nobody handles it.
     LRESULT NotifyParent(Notification& notification);
 
+    /// The user asked, at a point of the screen, for the menu of what is there: `OnContextMenu` follows.
+    void ContextMenuByPeer(CPoint screen);
+    /// The user pressed a key that the widget may have an own use for: `OnKey` follows. True if the key has
+    /// done its work, and the widget shall leave it alone.
+    bool KeyByPeer(TKey key, TModifiers modifiers);
+
     [[nodiscard]] Peer* GetPeer() const { return m_peer.get(); }
 
 protected:
@@ -118,6 +125,11 @@ protected:
     virtual void OnMove(int x, int y);
     /// The keyboard came here.
     virtual void OnSetFocus();
+    /// Shows the menu of a point in `from`, this window or one in it. The base leaves it to the parent.
+    virtual void OnContextMenu(CWnd& from, CPoint screen);
+    /// A key in `from`, this window or one in it; true if it has done its work. The base leaves it to the
+    /// parent.
+    virtual bool OnKey(CWnd& from, TKey key, TModifiers modifiers);
     /// Makes the peer of this kind of window; the base makes none.
     virtual std::unique_ptr<Peer> CreatePeer(PeerFactory& factory);
 

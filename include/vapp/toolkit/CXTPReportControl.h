@@ -116,6 +116,8 @@ public:
     // What the user does, as peers report it
     void ClickedByUser(int row, TModifiers modifiers);
     void ContextClickedByUser(int row);
+    /// A double click at a client point: `OnDoubleClick` follows. The row has got its click before.
+    void DoubleClickedByUser(CPoint point);
     void KeyPressedByUser(TKey key, TModifiers modifiers);
     /// Type-ahead, as for lists, over `GetTypeAheadText`.
     void TypedByUser(const CStringU& text, std::int64_t milliseconds);
@@ -138,6 +140,8 @@ public:
     [[nodiscard]] const RowCursor& GetCursor() const { return m_cursor; }
 
 protected:
+    /// A double click at a client point; the base does nothing.
+    virtual void OnDoubleClick(CPoint point);
     std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;
     void OnSize(UINT type, int cx, int cy) override;
 

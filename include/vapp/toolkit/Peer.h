@@ -25,10 +25,12 @@ class CButton;
 class CTabCtrl;
 class CComboBox;
 class CDialog;
+class CMenu;
 class CListCtrl;
 class CXTPReportControl;
 class TMessageBox;
 class TSplashScreen;
+enum class TMenuAlign;
 
 /// What changed in a control; several may be told at once.
 enum PeerChange : UINT {
@@ -98,6 +100,10 @@ public:
     /// Shows a box and waits for the user: the answer of one of its buttons, or of its closing. Nothing, as
     /// here, if it can't be shown.
     virtual std::optional<int> ShowMessageBox(const TMessageBox& box);
+
+    /// Shows a menu at a point of the screen and waits: the identifier of the command that was picked, 0 for
+    /// none. 0, at once, as here, if it can't be shown.
+    virtual UINT TrackMenu(const CMenu& menu, CWnd& owner, CPoint screen, TMenuAlign align);
 
     /// The monitors' areas on the screen, the primary one first. None, as here, where they aren't known.
     [[nodiscard]] virtual std::vector<CRect> MonitorAreas() const;

@@ -1,0 +1,126 @@
+#include "vapp/toolkit/CMenu.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/toolkit/RecordingPeers.h"
+
+namespace {
+
+// first, -, More > (second, Deeper > (third))
+std::unique_ptr<CMenu> NestedMenu() {
+    auto menu = std::make_unique<CMenu>();
+    menu->Append(1, "first");
+    menu->AppendSeparator();
+    CMenu& more = menu->AppendPopup("More");
+    more.Append(2, "second");
+    more.AppendPopup("Deeper").Append(3, "third");
+    return menu;
+}
+
+TEST(CMenuTest, HoldsItsItemsInOrder) {
+    const auto menu = NestedMenu();
+    ASSERT_EQ(menu->GetItemCount(), 3);
+    EXPECT_EQ(menu->GetItem(0)->text, "first");
+    EXPECT_EQ(menu->GetItem(1)->kind, CMenu::TItem::TKind::Separator);
+    EXPECT_EQ(menu->GetItem(2)->kind, CMenu::TItem::TKind::Popup);
+    EXPECT_EQ(menu->GetSubMenu(2)->GetItem(0)->id, 2u);
+    EXPECT_EQ(menu->GetSubMenu(0), nullptr);
+    EXPECT_EQ(menu->GetItem(3), nullptr);
+    EXPECT_EQ(menu->GetItem(-1), nullptr);
+}
+
+TEST(CMenuTest, FindsCommandsAtAnyDepth) {
+    const auto menu = NestedMenu();
+    EXPECT_EQ(menu->FindItem(3)->text, "third");
+    EXPECT_EQ(menu->FindOwner(1), menu.get());
+    EXPECT_EQ(menu->FindOwner(3), menu->GetSubMenu(2)->GetSubMenu(1));
+    EXPECT_EQ(menu->FindItem(9), nullptr);
+    EXPECT_EQ(menu->FindOwner(9), nullptr);
+    EXPECT_EQ(menu->FindItem(0), nullptr) << "separators and sub-menus are no commands";
+}
+
+TEST(CMenuTest, InsertsWhereItIsToldOrAtTheNearerEnd) {
+    CMenu menu;
+    menu.Insert(5, 1, "a");
+    menu.Insert(-5, 2, "b");
+    menu.Insert(1, 3, "c");
+    menu.InsertSeparator(1);
+    menu.InsertPopup(0, "none", nullptr);
+    menu.InsertPopup(0, "sub", std::make_unique<CMenu>());
+    ASSERT_EQ(menu.GetItemCount(), 5);
+    EXPECT_NE(menu.GetSubMenu(0), nullptr);
+    EXPECT_EQ(menu.GetItem(1)->id, 2u);
+    EXPECT_EQ(menu.GetItem(3)->id, 3u);
+    EXPECT_EQ(menu.GetItem(4)->id, 1u);
+}
+
+TEST(CMenuTest, ChecksAndEnablesByIdentifier) {
+    const auto menu = NestedMenu();
+    EXPECT_FALSE(menu->IsChecked(3));
+    EXPECT_TRUE(menu->IsEnabled(3));
+    menu->Check(3, true);
+    menu->Enable(3, false);
+    menu->Check(9, true);
+    menu->Enable(9, true);
+    EXPECT_TRUE(menu->IsChecked(3));
+    EXPECT_FALSE(menu->IsEnabled(3));
+    EXPECT_FALSE(menu->IsChecked(9));
+    EXPECT_FALSE(menu->IsEnabled(9));
+}
+
+TEST(CMenuTest, HasOneDefaultInEachMenu) {
+    CMenu menu;
+    menu.Append(1, "a");
+    menu.Append(2, "b");
+    menu.SetDefault(1);
+    menu.SetDefault(2);
+    menu.SetDefault(3);
+    EXPECT_FALSE(menu.FindItem(1)->isDefault);
+    EXPECT_TRUE(menu.FindItem(2)->isDefault);
+}
+
+TEST(CMenuTest, DeletesByIdentifierAndByPosition) {
+    const auto menu = NestedMenu();
+    menu->Delete(3);
+    menu->Delete(3);
+    EXPECT_EQ(menu->FindItem(3), nullptr);
+    EXPECT_EQ(menu->GetSubMenu(2)->GetItemCount(), 2) << "the sub-menu stays, empty";
+    menu->RemoveAt(2);
+    menu->RemoveAt(7);
+    menu->RemoveAt(-1);
+    EXPECT_EQ(menu->GetItemCount(), 2);
+}
+
+TEST(CMenuTest, NothingIsPickedWhereNobodyShowsMenus) {
+    CWnd owner;
+    EXPECT_EQ(NestedMenu()->Track(owner, {}), 0u);
+}
+
+TEST(CMenuTest, GivesWhatTheUserPickedIfItCouldBePicked) {
+    RecordingPeers peers;
+    CWnd owner;
+    const auto menu = NestedMenu();
+    UINT answer = 3;
+    peers.pick = [&answer](const CMenu& /*shown*/) { return answer; };
+    EXPECT_EQ(menu->Track(owner, {7, 8}, TMenuAlign::Right), 3u);
+    EXPECT_EQ(peers.menuPoint, CPoint(7, 8));
+    EXPECT_EQ(peers.menuAlign, TMenuAlign::Right);
+    menu->Enable(3, false);
+    EXPECT_EQ(menu->Track(owner, {}), 0u);
+    answer = 77;
+    EXPECT_EQ(menu->Track(owner, {}), 0u);
+    answer = 0;
+    EXPECT_EQ(menu->Track(owner, {}), 0u);
+    peers.pick = [](const CMenu& /*shown*/) -> UINT { throw "an empty menu is not shown"; };
+    EXPECT_EQ(CMenu().Track(owner, {}), 0u);
+}
+
+TEST(CMenuTest, TextsOfNamesHaveNoKeys) {
+    EXPECT_EQ(gMenuTextOf("plain"), "plain");
+    EXPECT_EQ(gMenuTextOf("a&b&&c"), "a&&b&&&&c");
+    EXPECT_EQ(gMenuTextOf(CStringU("\xC3\xA4&", TextEncoding::Utf8Auto)),
+              CStringU("\xC3\xA4&&", TextEncoding::Utf8Auto));
+    EXPECT_EQ(gMenuTextOf(""), "");
+}
+
+}  // namespace

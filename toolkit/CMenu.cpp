@@ -1,0 +1,129 @@
+/// @file
+/// The menu as data. Showing it is the installed peer factory's business; what that answers is checked
+/// against the menu, so that nobody acts on a command that was not offered.
+#include "vapp/toolkit/CMenu.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "vapp/toolkit/Peer.h"
+
+CMenu::CMenu() = default;
+
+CMenu::~CMenu() = default;
+
+const CMenu::TItem* CMenu::GetItem(int position) const {
+    return position >= 0 && position < GetItemCount() ? &m_items[static_cast<std::size_t>(position)]
+                                                      : nullptr;
+}
+
+const CMenu::TItem* CMenu::FindItem(UINT id) const {
+    for (const TItem& item : m_items) {
+        if (item.kind == TItem::TKind::Command && item.id == id) return &item;
+        if (!item.subMenu) continue;
+        if (const TItem* below = item.subMenu->FindItem(id)) return below;
+    }
+    return nullptr;
+}
+
+CMenu::TItem* CMenu::Find(UINT id) {
+    CMenu* const owner = FindOwner(id);
+    if (owner == nullptr) return nullptr;
+    return &*std::find_if(owner->m_items.begin(), owner->m_items.end(), [id](const TItem& item) {
+        return item.kind == TItem::TKind::Command && item.id == id;
+    });
+}
+
+CMenu* CMenu::FindOwner(UINT id) {
+    for (TItem& item : m_items) {
+        if (item.kind == TItem::TKind::Command && item.id == id) return this;
+        if (!item.subMenu) continue;
+        if (CMenu* below = item.subMenu->FindOwner(id)) return below;
+    }
+    return nullptr;
+}
+
+CMenu* CMenu::GetSubMenu(int position) const {
+    const TItem* item = GetItem(position);
+    return item != nullptr ? item->subMenu.get() : nullptr;
+}
+
+CMenu::TItem& CMenu::Place(int position, TItem item) {
+    return *m_items.insert(m_items.begin() + std::clamp(position, 0, GetItemCount()), std::move(item));
+}
+
+CMenu& CMenu::AppendPopup(const CStringU& text) {
+    InsertPopup(GetItemCount(), text, std::make_unique<CMenu>());
+    return *m_items.back().subMenu;
+}
+
+void CMenu::Insert(int position, UINT id, const CStringU& text) {
+    TItem item;
+    item.id = id;
+    item.text = text;
+    Place(position, std::move(item));
+}
+
+void CMenu::InsertSeparator(int position) {
+    TItem item;
+    item.kind = TItem::TKind::Separator;
+    Place(position, std::move(item));
+}
+
+void CMenu::InsertPopup(int position, const CStringU& text, std::unique_ptr<CMenu> subMenu) {
+    if (!subMenu) return;
+    TItem item;
+    item.kind = TItem::TKind::Popup;
+    item.text = text;
+    item.subMenu = std::move(subMenu);
+    Place(position, std::move(item));
+}
+
+void CMenu::RemoveAt(int position) {
+    if (GetItem(position) != nullptr) m_items.erase(m_items.begin() + position);
+}
+
+void CMenu::Delete(UINT id) {
+    CMenu* const owner = FindOwner(id);
+    if (owner == nullptr) return;
+    const TItem* item = owner->Find(id);
+    owner->RemoveAt(static_cast<int>(item - owner->m_items.data()));
+}
+
+void CMenu::Check(UINT id, bool checked) {
+    if (TItem* item = Find(id)) item->isChecked = checked;
+}
+
+bool CMenu::IsChecked(UINT id) const {
+    const TItem* item = FindItem(id);
+    return item != nullptr && item->isChecked;
+}
+
+void CMenu::Enable(UINT id, bool enabled) {
+    if (TItem* item = Find(id)) item->isEnabled = enabled;
+}
+
+bool CMenu::IsEnabled(UINT id) const {
+    const TItem* item = FindItem(id);
+    return item != nullptr && item->isEnabled;
+}
+
+void CMenu::SetDefault(UINT id) {
+    CMenu* const owner = FindOwner(id);
+    if (owner == nullptr) return;
+    for (TItem& item : owner->m_items)
+        item.isDefault = item.kind == TItem::TKind::Command && item.id == id;
+}
+
+UINT CMenu::Track(CWnd& owner, CPoint screen, TMenuAlign align) const {
+    PeerFactory* factory = PeerFactory::Installed();
+    if (factory == nullptr || m_items.empty()) return 0;
+    const UINT picked = factory->TrackMenu(*this, owner, screen, align);
+    return IsEnabled(picked) ? picked : 0;
+}
+
+CStringU gMenuTextOf(const CStringU& name) {
+    CStringU text(name);
+    text.Replace(CStringU("&"), CStringU("&&"));
+    return text;
+}
