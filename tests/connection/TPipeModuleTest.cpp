@@ -25,14 +25,14 @@ using vapp_platform::SystemCall;
 using Words = std::vector<std::string>;
 
 std::string gLogged;
-int gCalls = 0;
+int gPipeCalls = 0;
 
 struct TPipeModuleTest : ConnectionTest {
     // Without the agent, which no test machine runs; where the system itself asks for none, as it is.
     TPipeModuleTest() {
         if (!gIsWine()) vapp_platform::SetWineAnswer(true);
         gLogged.clear();
-        gCalls = 0;
+        gPipeCalls = 0;
     }
     bool Connect(TPipeModule& module) { return module.InitConnection(environment, message); }
     static void WaitUntilAsleep(const std::atomic<std::uint32_t>& thread) {
@@ -89,12 +89,12 @@ TEST_F(TPipeModuleTest, TheCommandLineGoesToTheCallbackAloneIfThereIsOne) {
     TPipeModule module(info);
     module.SetLogCallback([](const CStringU& line) {
         gLogged = Text(line);
-        ++gCalls;
+        ++gPipeCalls;
     });
     CStringU none;
     EXPECT_FALSE(module.InitConnection(environment, none));
     EXPECT_EQ(gLogged, "vapp-no-such-worker\n");
-    EXPECT_EQ(gCalls, 1);
+    EXPECT_EQ(gPipeCalls, 1);
     EXPECT_TRUE(none.IsEmpty());
     EXPECT_THAT(s_boxes, testing::ElementsAre("Create Process Failed/Create Process Failed"));
 }

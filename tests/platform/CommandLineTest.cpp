@@ -12,13 +12,13 @@ using vapp_platform::QuoteArgument;
 using vapp_platform::SplitCommandLine;
 using Arguments = std::vector<std::string>;
 
-struct Row {
+struct LineRow {
     const char* line;
     Arguments arguments;
 };
 
 TEST(CommandLine, SplitsByTheQuotingRules) {
-    const Row rows[] = {
+    const LineRow rows[] = {
         {"", {}},
         {" \t ", {}},
         {"prog", {"prog"}},
@@ -39,7 +39,7 @@ TEST(CommandLine, SplitsByTheQuotingRules) {
         {"p a\nb", {"p", "a\nb"}},
         {"\"\" x", {"", "x"}},
     };
-    for (const Row& row : rows)
+    for (const LineRow& row : rows)
         EXPECT_EQ(SplitCommandLine(row.line), row.arguments) << row.line;
 }
 

@@ -13,12 +13,12 @@ using vapp_platform::CpuName;
 using vapp_platform::TCpuidRegisters;
 using vapp_platform::TCpuModel;
 
-struct TRow {
+struct TModelRow {
     TCpuModel model;
     const char* name;
 };
 
-const std::vector<TRow> cnIntel{
+const std::vector<TModelRow> cnIntel{
     {{6, 0, 10, 2}, "Core i7 (32nm)"},        {{6, 0, 5, 2}, "Core i3/i5M/i7M (32nm)"},
     {{6, 0, 12, 2}, "Core i7/Xeon (32nm)"},   {{6, 0, 15, 2}, "Xeon MP (32nm)"},
     {{6, 0, 14, 2}, "Xeon MP (45nm)"},        {{6, 0, 14, 1}, "Core i5/i7 (45nm)"},
@@ -27,22 +27,22 @@ const std::vector<TRow> cnIntel{
     {{6, 0, 15, 0}, "Core 2 Duo (65nm)"},     {{6, 0, 14, 0}, "Core (65nm)"},
     {{15, 0, 6, 0}, "P4/Xeon/Celeron (65nm)"}};
 
-const std::vector<TRow> cnOthers{{{5, 0, 0, 0}, "AMD-K5 Model 0"},
-                                 {{5, 0, 1, 0}, "AMD-K5 Model 1"},
-                                 {{5, 0, 2, 0}, "AMD-K5 Model 2"},
-                                 {{5, 0, 3, 0}, "AMD-K5 Model 3"},
-                                 {{5, 0, 6, 0}, "AMD-K6 Model 6"},
-                                 {{5, 0, 7, 0}, "AMD-K6 Model 7"},
-                                 {{5, 0, 8, 0}, "AMD-K6-2 Model 8"},
-                                 {{5, 0, 9, 0}, "AMD-K6-III Model 9"},
-                                 {{6, 0, 1, 0}, "AMD Athlon Model 1"},
-                                 {{6, 0, 2, 0}, "AMD Athlon Model 2"},
-                                 {{6, 0, 3, 0}, "AMD Duron Model 3 / Mobile AMD Duron Model 3"},
-                                 {{6, 0, 4, 0}, "AMD Athlon Model 4"},
-                                 {{6, 0, 6, 0}, "AMD Athlon MP / XP / Mobile / Duron Model 6"},
-                                 {{6, 0, 7, 0}, "AMD Duron Model 7 / Mobile Duron 7"},
-                                 {{6, 0, 8, 0}, "AMD Athlon MP / XP / Sempron Model 8"},
-                                 {{6, 0, 10, 0}, "AMD Athlon MP / XP / Mobile / Sempron Model 10"}};
+const std::vector<TModelRow> cnOthers{{{5, 0, 0, 0}, "AMD-K5 Model 0"},
+                                      {{5, 0, 1, 0}, "AMD-K5 Model 1"},
+                                      {{5, 0, 2, 0}, "AMD-K5 Model 2"},
+                                      {{5, 0, 3, 0}, "AMD-K5 Model 3"},
+                                      {{5, 0, 6, 0}, "AMD-K6 Model 6"},
+                                      {{5, 0, 7, 0}, "AMD-K6 Model 7"},
+                                      {{5, 0, 8, 0}, "AMD-K6-2 Model 8"},
+                                      {{5, 0, 9, 0}, "AMD-K6-III Model 9"},
+                                      {{6, 0, 1, 0}, "AMD Athlon Model 1"},
+                                      {{6, 0, 2, 0}, "AMD Athlon Model 2"},
+                                      {{6, 0, 3, 0}, "AMD Duron Model 3 / Mobile AMD Duron Model 3"},
+                                      {{6, 0, 4, 0}, "AMD Athlon Model 4"},
+                                      {{6, 0, 6, 0}, "AMD Athlon MP / XP / Mobile / Duron Model 6"},
+                                      {{6, 0, 7, 0}, "AMD Duron Model 7 / Mobile Duron 7"},
+                                      {{6, 0, 8, 0}, "AMD Athlon MP / XP / Sempron Model 8"},
+                                      {{6, 0, 10, 0}, "AMD Athlon MP / XP / Mobile / Sempron Model 10"}};
 
 CStringU Numbers(const TCpuModel& model) {
     return CStringU::Formatted("Family %u, Extendedfamily %u, Model %u, Extendedmodel %u", model.family,
@@ -51,11 +51,11 @@ CStringU Numbers(const TCpuModel& model) {
 
 // Every family and model that four bits can tell, with small extensions: the rows have their names, all
 // others their numbers.
-void ExpectTable(const char* vendor, const std::vector<TRow>& rows) {
+void ExpectTable(const char* vendor, const std::vector<TModelRow>& rows) {
     for (std::uint32_t bits = 0; bits < 1u << 12; ++bits) {
         const TCpuModel model{bits & 15, bits >> 11 & 1, bits >> 4 & 15, bits >> 8 & 7};
         CStringU expected = Numbers(model);
-        for (const TRow& row : rows) {
+        for (const TModelRow& row : rows) {
             if (row.model == model) expected = row.name;
         }
         ASSERT_EQ(CpuModelName(vendor, model), expected) << vendor << " " << bits;

@@ -29,7 +29,7 @@ TEST_P(PathCompactTest, ShortensAsTold) {
     EXPECT_EQ(Bytes(CompactPath(Utf8(GetParam().path), GetParam().maximum, true)), GetParam().expected);
 }
 
-constexpr CompactCase cnCases[] = {
+constexpr CompactCase cnCompactCases[] = {
     {"ThatFitsStays", "C:\\dir\\sub\\file", 15, "C:\\dir\\sub\\file"},
     {"OneTooLongLosesFolders", "C:\\dir\\folder\\file", 17, "C:\\dir\\...\\file"},
     {"AsManyLastPartsAsFit", "C:\\dir\\folder\\a\\b\\file", 19, "C:\\dir\\...\\a\\b\\file"},
@@ -64,7 +64,7 @@ constexpr CompactCase cnCases[] = {
     {"DriveBeyondAscii", "\xC3\xA9:\\dir\\folder\\file", 15, "\xC3\xA9:\\dir\\...\\file"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Cases, PathCompactTest, testing::ValuesIn(cnCases),
+INSTANTIATE_TEST_SUITE_P(Cases, PathCompactTest, testing::ValuesIn(cnCompactCases),
                          [](const auto& row) { return row.param.name; });
 
 TEST(PathCompactNameTest, ANameThatDoesNotFitIsKeptOnlyIfAsked) {

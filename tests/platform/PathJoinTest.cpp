@@ -11,7 +11,7 @@ using vapp_platform::JoinPath;
 using vapp_platform::MakeRelativePath;
 using vapp_platform::ResolvePath;
 
-const FakeEnvironment& Environment() {
+const FakeEnvironment& JoinEnvironment() {
     static const FakeEnvironment environment{{u"HOME", u"/home/me"}, {u"DRIVE", u"D:\\x"}, {u"NAME", u"n"}};
     return environment;
 }
@@ -37,10 +37,10 @@ class PathJoinTest : public testing::TestWithParam<PathPairCase> {};
 TEST_P(PathJoinTest, JoinsInEachWorld) {
     const CStringU base = Utf8(GetParam().base);
     const CStringU path = Utf8(GetParam().path);
-    EXPECT_EQ(Bytes(JoinPath(base, path, Environment().RulesOf(World::Windows))), GetParam().windows);
-    EXPECT_EQ(Bytes(JoinPath(base, path, Environment().RulesOf(World::Wine))), GetParam().wine);
-    EXPECT_EQ(Bytes(ResolvePath(base, path, Environment().RulesOf(World::Windows))), GetParam().windows);
-    EXPECT_EQ(Bytes(ResolvePath(base, path, Environment().RulesOf(World::Wine))), GetParam().wine);
+    EXPECT_EQ(Bytes(JoinPath(base, path, JoinEnvironment().RulesOf(World::Windows))), GetParam().windows);
+    EXPECT_EQ(Bytes(JoinPath(base, path, JoinEnvironment().RulesOf(World::Wine))), GetParam().wine);
+    EXPECT_EQ(Bytes(ResolvePath(base, path, JoinEnvironment().RulesOf(World::Windows))), GetParam().windows);
+    EXPECT_EQ(Bytes(ResolvePath(base, path, JoinEnvironment().RulesOf(World::Wine))), GetParam().wine);
 }
 
 constexpr PathPairCase cnJoins[] = {
@@ -83,8 +83,9 @@ class PathRelativeTest : public testing::TestWithParam<PathPairCase> {};
 TEST_P(PathRelativeTest, TellsTheWayInEachWorld) {
     const CStringU base = Utf8(GetParam().base);
     const CStringU path = Utf8(GetParam().path);
-    EXPECT_EQ(Bytes(MakeRelativePath(base, path, Environment().RulesOf(World::Windows))), GetParam().windows);
-    EXPECT_EQ(Bytes(MakeRelativePath(base, path, Environment().RulesOf(World::Wine))), GetParam().wine);
+    EXPECT_EQ(Bytes(MakeRelativePath(base, path, JoinEnvironment().RulesOf(World::Windows))),
+              GetParam().windows);
+    EXPECT_EQ(Bytes(MakeRelativePath(base, path, JoinEnvironment().RulesOf(World::Wine))), GetParam().wine);
 }
 
 constexpr PathPairCase cnWays[] = {

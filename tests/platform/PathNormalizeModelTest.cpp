@@ -87,7 +87,7 @@ std::u16string RandomPathWithReferences(std::mt19937& random) {
     return RandomPathOf(random, parts);
 }
 
-const FakeEnvironment& Environment() {
+const FakeEnvironment& ModelEnvironment() {
     static const FakeEnvironment environment{{u"HOME", u"/home/me"},
                                              {u"DRIVE", u"D:\\x"},
                                              {u"NAME", u"n/../m"},
@@ -101,7 +101,7 @@ TEST(PathNormalizeModelTest, AgreesWithTheModelStepByStep) {
     for (int round = 0; round < 10000; ++round) {
         const std::u16string path = round % 2 == 0 ? RandomPath(random) : RandomPathWithReferences(random);
         for (const World world : cnWorlds) {
-            const PathRules rules = Environment().RulesOf(world);
+            const PathRules rules = ModelEnvironment().RulesOf(world);
             const CStringU text{std::u16string_view(path)};
             ASSERT_EQ(Bytes(NormalizePath(text, rules)), text_test::Bytes(ModelNormalize(path, rules)))
                 << NameOf(world) << ' ' << Bytes(text);
@@ -124,7 +124,7 @@ TEST(PathNormalizeModelTest, NormalisingTwiceIsNormalisingOnce) {
     for (int round = 0; round < 10000; ++round) {
         const CStringU path{std::u16string_view(RandomPath(random))};
         for (const World world : cnWorlds) {
-            const PathRules rules = Environment().RulesOf(world);
+            const PathRules rules = ModelEnvironment().RulesOf(world);
             const CStringU once = NormalizePath(path, rules);
             const CStringU twice = NormalizePath(once, rules);
             ASSERT_TRUE(text_test::HoldsMarkerInvariant(once));
@@ -138,13 +138,13 @@ TEST(PathNormalizeModelTest, NormalisingTwiceIsNormalisingOnce) {
 }
 
 TEST(PathNormalizeModelTest, ADriveThatIsUncoveredChangesTheSecondTime) {
-    const PathRules rules = Environment().RulesOf(World::Windows);
+    const PathRules rules = ModelEnvironment().RulesOf(World::Windows);
     EXPECT_EQ(Bytes(NormalizePath("./D:.", rules)), "D:.");
     EXPECT_EQ(Bytes(NormalizePath("D:.", rules)), "D:");
 }
 
 TEST(PathNormalizeModelTest, AValueIsNormalisedTheSecondTime) {
-    const PathRules rules = Environment().RulesOf(World::Windows);
+    const PathRules rules = ModelEnvironment().RulesOf(World::Windows);
     EXPECT_EQ(Bytes(NormalizePath("$NAME/x", rules)), "n/../m\\x");
     EXPECT_EQ(Bytes(NormalizePath("n/../m\\x", rules)), "m\\x");
 }
@@ -154,7 +154,7 @@ TEST(PathNormalizeModelTest, TheNormalFormIsAbsoluteWhereThePathIs) {
     for (int round = 0; round < 6000; ++round) {
         const CStringU path{std::u16string_view(RandomPath(random))};
         for (const World world : cnWorlds) {
-            const PathRules rules = Environment().RulesOf(world);
+            const PathRules rules = ModelEnvironment().RulesOf(world);
             const CStringU normal = NormalizePath(path, rules);
             if (UncoversADrive(path, normal)) continue;
             ASSERT_EQ(IsAbsolutePath(normal, rules), IsAbsolutePath(path, rules)) << Bytes(path);

@@ -41,7 +41,7 @@ TEST_P(PathNormalizeTest, GivesTheNormalFormOfEachWorld) {
     EXPECT_EQ(Normal(Utf8(GetParam().path), World::Wine), GetParam().wine);
 }
 
-constexpr NormalCase cnCases[] = {
+constexpr NormalCase cnNormalCases[] = {
     {"EmptyStaysEmpty", "", "", ""},
     {"OneName", "a", "a", "a"},
     {"SeparatorsBecomeThoseOfTheWorld", "a/b\\c", "a\\b\\c", "a/b/c"},
@@ -95,7 +95,7 @@ constexpr NormalCase cnCases[] = {
     {"ValueThatNamesItselfEnds", "$SELF", "$SELF/x", "$SELF/x"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Cases, PathNormalizeTest, testing::ValuesIn(cnCases),
+INSTANTIATE_TEST_SUITE_P(Cases, PathNormalizeTest, testing::ValuesIn(cnNormalCases),
                          [](const auto& row) { return row.param.name; });
 
 struct AbsoluteCase {

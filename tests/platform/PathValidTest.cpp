@@ -27,7 +27,7 @@ TEST_P(PathValidTest, JudgesInEachWorld) {
     EXPECT_EQ(IsValidPath(Utf8(GetParam().path), World::Wine), GetParam().wine);
 }
 
-constexpr ValidCase cnCases[] = {
+constexpr ValidCase cnValidCases[] = {
     {"Empty", "", false, false},
     {"OnlyASeparator", "\\", false, false},
     {"OnlyAUnixRoot", "/", false, false},
@@ -68,7 +68,7 @@ constexpr ValidCase cnCases[] = {
     {"BeyondAscii", "a/\xC3\xA9\xE4\xB8\xAD", true, true},
 };
 
-INSTANTIATE_TEST_SUITE_P(Cases, PathValidTest, testing::ValuesIn(cnCases),
+INSTANTIATE_TEST_SUITE_P(Cases, PathValidTest, testing::ValuesIn(cnValidCases),
                          [](const auto& row) { return row.param.name; });
 
 /// The rule step by step, over lists.

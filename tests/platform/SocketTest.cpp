@@ -44,7 +44,7 @@ struct Connection {
 };
 
 // How often a call is caught in its sleep.
-constexpr int cnRounds = 20;
+constexpr int cnExchanges = 20;
 
 void WaitUntilAsleep(const std::atomic<std::uint32_t>& thread) {
     while (thread == 0)
@@ -104,7 +104,7 @@ TEST_F(SocketTest, SendingToAPeerThatHasGoneIsACodeAndNoSignal) {
 }
 
 TEST_F(SocketTest, CloseWakesABlockedReceiveWithACode) {
-    for (int round = 0; round < cnRounds; ++round) {
+    for (int round = 0; round < cnExchanges; ++round) {
         Connection connection;
         std::atomic<std::uint32_t> thread = 0;
         Transfer result;
@@ -161,7 +161,7 @@ TEST_F(SocketTest, CloseWakesABlockedSend) {
 }
 
 TEST_F(SocketTest, CloseWakesAWaitForAPeer) {
-    for (int round = 0; round < cnRounds; ++round) {
+    for (int round = 0; round < cnExchanges; ++round) {
         const Listening listening = vapp_platform::ListenAtLocalhost();
         std::atomic<std::uint32_t> thread = 0;
         std::thread waiter([&] {

@@ -10,7 +10,7 @@
 
 namespace {
 
-class QtComboPeer : public testing::Test {
+class QtComboPeerTest : public testing::Test {
 protected:
     void SetUp() override {
         combo.AddString(CStringU("chip"));
@@ -29,7 +29,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QtComboPeer, ShowsTheItemsOfTheControl) {
+TEST_F(QtComboPeerTest, ShowsTheItemsOfTheControl) {
     ASSERT_EQ(box->count(), 3);
     EXPECT_EQ(box->itemText(1), QStringLiteral("Verst\u00E4rker \u4E2D")) << "whatever the code page";
     EXPECT_EQ(box->currentText(), "chip");
@@ -42,7 +42,7 @@ TEST_F(QtComboPeer, ShowsTheItemsOfTheControl) {
     EXPECT_TRUE(shown.form.heard.empty()) << "only what the user picks is told";
 }
 
-TEST_F(QtComboPeer, FirstItemIsNotPickedByItsComing) {
+TEST_F(QtComboPeerTest, FirstItemIsNotPickedByItsComing) {
     CComboBox fresh;
     ASSERT_TRUE(fresh.Create(&shown.form, 6, {0, 30, 200, 54}));
     fresh.AddString(CStringU("only"));
@@ -50,14 +50,14 @@ TEST_F(QtComboPeer, FirstItemIsNotPickedByItsComing) {
     EXPECT_EQ(gWidgetAs<QComboBox>(fresh)->currentIndex(), -1);
 }
 
-TEST_F(QtComboPeer, KeyPicksTheNextItem) {
+TEST_F(QtComboPeerTest, KeyPicksTheNextItem) {
     QTest::keyClick(box, Qt::Key_Down);
     EXPECT_EQ(combo.GetCurSel(), 1);
     EXPECT_EQ(shown.form.Count(cnComboSelectionChanged), 1);
     EXPECT_EQ(shown.form.Count(cnComboClosedUp), 0);
 }
 
-TEST_F(QtComboPeer, PickingInTheListTellsThePickThenTheClosing) {
+TEST_F(QtComboPeerTest, PickingInTheListTellsThePickThenTheClosing) {
     box->showPopup();
     QApplication::processEvents();
     QAbstractItemView* list = box->view();
@@ -69,7 +69,7 @@ TEST_F(QtComboPeer, PickingInTheListTellsThePickThenTheClosing) {
     EXPECT_EQ(shown.form.heard, (std::vector<UINT>{cnComboSelectionChanged, cnComboClosedUp}));
 }
 
-TEST_F(QtComboPeer, EscapeTellsTheClosingOnly) {
+TEST_F(QtComboPeerTest, EscapeTellsTheClosingOnly) {
     box->showPopup();
     QApplication::processEvents();
     QTest::keyClick(box->view(), Qt::Key_Escape);
@@ -78,7 +78,7 @@ TEST_F(QtComboPeer, EscapeTellsTheClosingOnly) {
     EXPECT_EQ(shown.form.heard, std::vector<UINT>{cnComboClosedUp});
 }
 
-TEST_F(QtComboPeer, PickMayEndTheCombo) {
+TEST_F(QtComboPeerTest, PickMayEndTheCombo) {
     const QPointer<QWidget> widget = box;
     shown.form.answer = [&](const Notification&) {
         combo.DestroyWindow();
@@ -94,7 +94,7 @@ TEST_F(QtComboPeer, PickMayEndTheCombo) {
     EXPECT_TRUE(widget.isNull());
 }
 
-TEST_F(QtComboPeer, ComboMayEndWhileItsListIsOpen) {
+TEST_F(QtComboPeerTest, ComboMayEndWhileItsListIsOpen) {
     box->showPopup();
     QApplication::processEvents();
     combo.DestroyWindow();

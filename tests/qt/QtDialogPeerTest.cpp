@@ -19,7 +19,7 @@ using vapp_library_browser::csDefaultExcludeViewNames;
 
 namespace {
 
-class QtDialogPeer : public testing::Test {
+class QtDialogPeerTest : public testing::Test {
 protected:
     void SetUp() override { app.SetMainWnd(&shown.frame); }
 
@@ -57,7 +57,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QtDialogPeer, StandsInFrontOfItsOwner) {
+TEST_F(QtDialogPeerTest, StandsInFrontOfItsOwner) {
     EXPECT_EQ(Ask([this] {
                   EXPECT_TRUE(widget->isModal());
                   EXPECT_EQ(widget->parentWidget(), gWidgetOf(shown.frame));
@@ -71,7 +71,7 @@ TEST_F(QtDialogPeer, StandsInFrontOfItsOwner) {
     EXPECT_TRUE(gWidgetOf(shown.frame)->isVisible());
 }
 
-TEST_F(QtDialogPeer, TypedNamesAreKeptByOk) {
+TEST_F(QtDialogPeerTest, TypedNamesAreKeptByOk) {
     EXPECT_EQ(Ask([this] {
                   Type("layout; LVS");
                   Click(IDOK);
@@ -81,7 +81,7 @@ TEST_F(QtDialogPeer, TypedNamesAreKeptByOk) {
     EXPECT_EQ(dialog.GetExcludeViews(), CString("layout; LVS"));
 }
 
-TEST_F(QtDialogPeer, AnEmptiedFieldIsKeptAsNothing) {
+TEST_F(QtDialogPeerTest, AnEmptiedFieldIsKeptAsNothing) {
     EXPECT_EQ(Ask([this] {
                   auto* field = Control<QPlainTextEdit>(CExcludeDlg::cnEditId);
                   field->selectAll();
@@ -92,7 +92,7 @@ TEST_F(QtDialogPeer, AnEmptiedFieldIsKeptAsNothing) {
     EXPECT_EQ(Setting(), CString(""));
 }
 
-TEST_F(QtDialogPeer, ResetShowsTheDefaultAndCancelForgetsIt) {
+TEST_F(QtDialogPeerTest, ResetShowsTheDefaultAndCancelForgetsIt) {
     app.WriteProfileString("LibraryNavigator", "ExcludeViewNames", "mine");
     EXPECT_EQ(Ask([this] {
                   EXPECT_EQ(Control<QPlainTextEdit>(CExcludeDlg::cnEditId)->toPlainText(), "mine");
@@ -106,7 +106,7 @@ TEST_F(QtDialogPeer, ResetShowsTheDefaultAndCancelForgetsIt) {
     EXPECT_EQ(Setting(), CString("mine"));
 }
 
-TEST_F(QtDialogPeer, EscapeAndTheCloseButtonCancel) {
+TEST_F(QtDialogPeerTest, EscapeAndTheCloseButtonCancel) {
     EXPECT_EQ(Ask([this] {
                   Type("other");
                   QTest::keyClick(widget, Qt::Key_Escape);
@@ -116,7 +116,7 @@ TEST_F(QtDialogPeer, EscapeAndTheCloseButtonCancel) {
     EXPECT_EQ(Setting(), CString("none"));
 }
 
-TEST_F(QtDialogPeer, EnterOutsideOfTheTextIsOk) {
+TEST_F(QtDialogPeerTest, EnterOutsideOfTheTextIsOk) {
     EXPECT_EQ(Ask([this] {
                   Type("other");
                   QTest::keyClick(widget, Qt::Key_Return);
@@ -125,7 +125,7 @@ TEST_F(QtDialogPeer, EnterOutsideOfTheTextIsOk) {
     EXPECT_EQ(Setting(), CString("other"));
 }
 
-TEST_F(QtDialogPeer, TheKeyboardWalksThroughItsControls) {
+TEST_F(QtDialogPeerTest, TheKeyboardWalksThroughItsControls) {
     EXPECT_EQ(Ask([this] {
                   for (const UINT id : {CExcludeDlg::cnResetId, static_cast<UINT>(IDOK),
                                         static_cast<UINT>(IDCANCEL), CExcludeDlg::cnEditId}) {
@@ -138,7 +138,7 @@ TEST_F(QtDialogPeer, TheKeyboardWalksThroughItsControls) {
               IDCANCEL);
 }
 
-TEST_F(QtDialogPeer, LargerWindowsGiveTheirRoomToTheText) {
+TEST_F(QtDialogPeerTest, LargerWindowsGiveTheirRoomToTheText) {
     EXPECT_EQ(Ask([this] {
                   widget->resize(500, 300);
                   QApplication::processEvents();
@@ -151,17 +151,17 @@ TEST_F(QtDialogPeer, LargerWindowsGiveTheirRoomToTheText) {
               IDCANCEL);
 }
 
-TEST_F(QtDialogPeer, TheEndOfItsWindowEndsTheWaiting) {
+TEST_F(QtDialogPeerTest, TheEndOfItsWindowEndsTheWaiting) {
     EXPECT_EQ(Ask([this] { dialog.DestroyWindow(); }), IDCANCEL);
     EXPECT_FALSE(dialog.IsWindow());
 }
 
-TEST_F(QtDialogPeer, TheEndOfItsOwnerEndsTheWaiting) {
+TEST_F(QtDialogPeerTest, TheEndOfItsOwnerEndsTheWaiting) {
     EXPECT_EQ(Ask([this] { shown.frame.DestroyWindow(); }), IDCANCEL);
     EXPECT_FALSE(dialog.IsWindow());
 }
 
-TEST_F(QtDialogPeer, WorksWithoutAnOwner) {
+TEST_F(QtDialogPeerTest, WorksWithoutAnOwner) {
     app.SetMainWnd(nullptr);
     EXPECT_EQ(Ask([this] {
                   EXPECT_EQ(widget->parentWidget(), nullptr);
@@ -170,7 +170,7 @@ TEST_F(QtDialogPeer, WorksWithoutAnOwner) {
               IDOK);
 }
 
-TEST_F(QtDialogPeer, IsPaintedWithAllItsParts) {
+TEST_F(QtDialogPeerTest, IsPaintedWithAllItsParts) {
     EXPECT_EQ(Ask([this] {
                   const QImage picture = gPictureOf(*widget);
                   const QString file = qEnvironmentVariable("VAPP_TEST_PICTURES");

@@ -17,7 +17,7 @@ public:
 constexpr int cnBar = CSplitterWnd::cnBarHeight;
 
 // Three rows of 60, 80 and what is left of 300.
-class QtSplitterPeer : public testing::Test {
+class QtSplitterPeerTest : public testing::Test {
 protected:
     void SetUp() override {
         frame.CreateFrame("frame", {0, 0, 200, 300});
@@ -48,7 +48,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QtSplitterPeer, PanesAndBarsCoverTheClientArea) {
+TEST_F(QtSplitterPeerTest, PanesAndBarsCoverTheClientArea) {
     EXPECT_EQ(gWidgetOf(splitter)->geometry(), QRect(0, 0, 200, 300));
     EXPECT_EQ(gWidgetOf(*splitter.GetPane(0, 0))->geometry(), QRect(0, 0, 200, 60));
     ASSERT_NE(Bar(0), nullptr);
@@ -61,7 +61,7 @@ TEST_F(QtSplitterPeer, PanesAndBarsCoverTheClientArea) {
     EXPECT_EQ(Bar(0)->cursor().shape(), Qt::SplitVCursor);
 }
 
-TEST_F(QtSplitterPeer, DraggedBarGivesItsRowTheHeight) {
+TEST_F(QtSplitterPeerTest, DraggedBarGivesItsRowTheHeight) {
     Drag(Bar(0), 15);
     EXPECT_EQ(splitter.GetRowHeight(0), 75);
     EXPECT_EQ(Bar(0)->y(), 75);
@@ -70,7 +70,7 @@ TEST_F(QtSplitterPeer, DraggedBarGivesItsRowTheHeight) {
     EXPECT_EQ(splitter.GetRowHeight(0), 50);
 }
 
-TEST_F(QtSplitterPeer, BarCanAlwaysBeCaughtAgain) {
+TEST_F(QtSplitterPeerTest, BarCanAlwaysBeCaughtAgain) {
     Drag(Bar(1), 5000);
     EXPECT_LE(Bar(1)->geometry().bottom(), 300);
     EXPECT_GT(Bar(1)->geometry().bottom(), 290);
@@ -79,13 +79,13 @@ TEST_F(QtSplitterPeer, BarCanAlwaysBeCaughtAgain) {
     EXPECT_EQ(splitter.GetRowHeight(0), 0);
 }
 
-TEST_F(QtSplitterPeer, HeightSetByTheProgramMovesTheBars) {
+TEST_F(QtSplitterPeerTest, HeightSetByTheProgramMovesTheBars) {
     splitter.SetRowHeight(0, 100);
     EXPECT_EQ(Bar(0)->y(), 100);
     EXPECT_EQ(Bar(1)->y(), 180 + cnBar);
 }
 
-TEST_F(QtSplitterPeer, GrowingWindowGivesTheRoomToTheLastRow) {
+TEST_F(QtSplitterPeerTest, GrowingWindowGivesTheRoomToTheLastRow) {
     gWidgetOf(frame)->resize(260, 400);
     QApplication::processEvents();
     EXPECT_EQ(splitter.GetRect(), CRect(0, 0, 260, 400));

@@ -26,7 +26,7 @@ QRect BoundsOf(const QImage& image, QRgb color) {
     return bounds;
 }
 
-constexpr QRgb cnRed = 0xFFFF0000;
+constexpr QRgb cnRedPixel = 0xFFFF0000;
 
 class QtPicture : public testing::Test {
 protected:
@@ -41,23 +41,23 @@ protected:
 TEST_F(QtPicture, StandsInTheMiddlePixelForPixel) {
     const QtBitmap bitmap(Filled(40, 20, Qt::red));
     picture.SetImage(bitmap.Get());
-    EXPECT_EQ(BoundsOf(gPictureOf(*gWidgetOf(picture)), cnRed), QRect(30, 30, 40, 20));
+    EXPECT_EQ(BoundsOf(gPictureOf(*gWidgetOf(picture)), cnRedPixel), QRect(30, 30, 40, 20));
 }
 
 TEST_F(QtPicture, PictureOfAFineScreenKeepsItsPixelsThere) {
     const QtBitmap bitmap(Filled(80, 40, Qt::red, 2));
     picture.SetImage(bitmap.Get());
-    EXPECT_EQ(BoundsOf(gPictureOf(*gWidgetOf(picture), 2), cnRed), QRect(60, 60, 80, 40));
-    EXPECT_EQ(BoundsOf(gPictureOf(*gWidgetOf(picture), 1), cnRed), QRect(30, 30, 40, 20));
+    EXPECT_EQ(BoundsOf(gPictureOf(*gWidgetOf(picture), 2), cnRedPixel), QRect(60, 60, 80, 40));
+    EXPECT_EQ(BoundsOf(gPictureOf(*gWidgetOf(picture), 1), cnRedPixel), QRect(30, 30, 40, 20));
 }
 
 TEST_F(QtPicture, TooLargeOneIsMadeSmallerWithinTheControl) {
     const QtBitmap bitmap(Filled(400, 100, Qt::red));
     picture.SetImage(bitmap.Get());
     const QImage painted = gPictureOf(*gWidgetOf(picture));
-    EXPECT_EQ(painted.pixel(50, 40), cnRed);
-    EXPECT_NE(painted.pixel(50, 20), cnRed) << "its shape is kept";
-    EXPECT_NE(painted.pixel(50, 60), cnRed);
+    EXPECT_EQ(painted.pixel(50, 40), cnRedPixel);
+    EXPECT_NE(painted.pixel(50, 20), cnRedPixel) << "its shape is kept";
+    EXPECT_NE(painted.pixel(50, 60), cnRedPixel);
 }
 
 TEST_F(QtPicture, OtherPicturesAndNoneReplaceIt) {
@@ -76,7 +76,7 @@ TEST_F(QtPicture, PictureThatIsGoneShowsNothing) {
         const QtBitmap bitmap(Filled(20, 20, Qt::red));
         picture.SetImage(bitmap.Get());
     }
-    EXPECT_TRUE(BoundsOf(gPictureOf(*gWidgetOf(picture)), cnRed).isNull());
+    EXPECT_TRUE(BoundsOf(gPictureOf(*gWidgetOf(picture)), cnRedPixel).isNull());
 }
 
 TEST_F(QtPicture, HasASunkenFrame) {
@@ -84,8 +84,8 @@ TEST_F(QtPicture, HasASunkenFrame) {
     picture.SetImage(bitmap.Get());
     const QImage painted = gPictureOf(*gWidgetOf(picture));
     for (const QPoint edge : {QPoint(50, 0), QPoint(50, 79), QPoint(0, 40), QPoint(99, 40)})
-        EXPECT_NE(painted.pixel(edge), cnRed);
-    EXPECT_EQ(painted.pixel(2, 2), cnRed);
+        EXPECT_NE(painted.pixel(edge), cnRedPixel);
+    EXPECT_EQ(painted.pixel(2, 2), cnRedPixel);
 }
 
 TEST(QtStaticText, IsPaintedAndChangesWithTheControl) {

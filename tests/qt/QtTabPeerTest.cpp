@@ -14,7 +14,7 @@ void ClickTab(QTabBar& bar, int index) {
     QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(index).center());
 }
 
-class QtTabPeer : public testing::Test {
+class QtTabPeerTest : public testing::Test {
 protected:
     void SetUp() override {
         tabs.InsertItem(0, "All");
@@ -32,7 +32,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QtTabPeer, ShowsTheTabsOfTheControl) {
+TEST_F(QtTabPeerTest, ShowsTheTabsOfTheControl) {
     ASSERT_EQ(bar->count(), 3);
     EXPECT_EQ(bar->tabText(0), "All");
     EXPECT_EQ(bar->tabText(1), "A && B") << "an ampersand is shown, not taken for a key";
@@ -44,7 +44,7 @@ TEST_F(QtTabPeer, ShowsTheTabsOfTheControl) {
     EXPECT_TRUE(shown.form.heard.empty()) << "only what the user picks is told";
 }
 
-TEST_F(QtTabPeer, PickedTabIsToldOnce) {
+TEST_F(QtTabPeerTest, PickedTabIsToldOnce) {
     ClickTab(*bar, 1);
     EXPECT_EQ(tabs.GetCurSel(), 1);
     EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
@@ -52,7 +52,7 @@ TEST_F(QtTabPeer, PickedTabIsToldOnce) {
     EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
 }
 
-TEST_F(QtTabPeer, TabInsertedInFrontLeavesTheCurrentOneCurrent) {
+TEST_F(QtTabPeerTest, TabInsertedInFrontLeavesTheCurrentOneCurrent) {
     tabs.SetCurSel(1);
     tabs.InsertItem(0, "First");
     EXPECT_EQ(bar->currentIndex(), 2);
@@ -60,14 +60,14 @@ TEST_F(QtTabPeer, TabInsertedInFrontLeavesTheCurrentOneCurrent) {
     EXPECT_TRUE(shown.form.heard.empty());
 }
 
-TEST_F(QtTabPeer, ParentMayTakeThePickBack) {
+TEST_F(QtTabPeerTest, ParentMayTakeThePickBack) {
     shown.form.answer = [this](const Notification&) { tabs.SetCurSel(0); };
     ClickTab(*bar, 2);
     EXPECT_EQ(tabs.GetCurSel(), 0);
     EXPECT_EQ(bar->currentIndex(), 0);
 }
 
-TEST_F(QtTabPeer, PickMayEndTheStrip) {
+TEST_F(QtTabPeerTest, PickMayEndTheStrip) {
     const QPointer<QWidget> widget = bar;
     shown.form.answer = [&](const Notification&) {
         tabs.DestroyWindow();

@@ -11,7 +11,7 @@
 
 namespace {
 
-class QtTextPeer : public testing::Test {
+class QtTextPeerTest : public testing::Test {
 protected:
     void SetUp() override {
         edit.SetMultiLine(true);
@@ -28,7 +28,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QtTextPeer, ShowsTextAndCue) {
+TEST_F(QtTextPeerTest, ShowsTextAndCue) {
     EXPECT_EQ(field->toPlainText(), "first\nline");
     EXPECT_EQ(field->placeholderText(), "Names");
     edit.SetWindowText("second");
@@ -36,7 +36,7 @@ TEST_F(QtTextPeer, ShowsTextAndCue) {
     EXPECT_TRUE(shown.form.heard.empty()) << "only what the user types is told";
 }
 
-TEST_F(QtTextPeer, TypedTextReachesControlAndParentKeyByKey) {
+TEST_F(QtTextPeerTest, TypedTextReachesControlAndParentKeyByKey) {
     field->moveCursor(QTextCursor::End);
     QTest::keyClick(field, Qt::Key_Return);
     QTest::keyClicks(field, "ab");
@@ -44,12 +44,12 @@ TEST_F(QtTextPeer, TypedTextReachesControlAndParentKeyByKey) {
     EXPECT_EQ(shown.form.Count(cnEditChanged), 3);
 }
 
-TEST_F(QtTextPeer, TabGoesOnToTheNextControl) {
+TEST_F(QtTextPeerTest, TabGoesOnToTheNextControl) {
     QTest::keyClick(field, Qt::Key_Tab);
     EXPECT_EQ(edit.GetWindowText(), CString("first\nline"));
 }
 
-TEST_F(QtTextPeer, FieldShowsWhatTheCodePageCouldTake) {
+TEST_F(QtTextPeerTest, FieldShowsWhatTheCodePageCouldTake) {
     gSetActiveCodePage(1252);
     field->moveCursor(QTextCursor::Start);
     QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QStringLiteral("\u4E2D"), Qt::NoModifier);
@@ -60,14 +60,14 @@ TEST_F(QtTextPeer, FieldShowsWhatTheCodePageCouldTake) {
     gSetActiveCodePage(0);
 }
 
-TEST_F(QtTextPeer, ParentMayReplaceTheTextWhileItIsTyped) {
+TEST_F(QtTextPeerTest, ParentMayReplaceTheTextWhileItIsTyped) {
     shown.form.answer = [this](const Notification&) { edit.SetWindowText("fixed"); };
     QTest::keyClicks(field, "x");
     EXPECT_EQ(field->toPlainText(), "fixed");
     EXPECT_EQ(shown.form.Count(cnEditChanged), 1);
 }
 
-TEST_F(QtTextPeer, TypingMayEndTheEdit) {
+TEST_F(QtTextPeerTest, TypingMayEndTheEdit) {
     shown.form.answer = [&](const Notification&) { edit.DestroyWindow(); };
     QTest::sendKeyEvent(QTest::Press, field, Qt::Key_X, QStringLiteral("x"), Qt::NoModifier);
     EXPECT_FALSE(edit.IsWindow());

@@ -37,7 +37,7 @@ vapp_connection::Limits LimitsOf(const BadHandshake& handshake) {
     return limits;
 }
 
-std::string ReceiveToTheEnd(TConnectionModule& connection) {
+std::string ReceivedToTheEnd(TConnectionModule& connection) {
     std::string all;
     char buffer[4097];
     CStringU message;
@@ -63,7 +63,7 @@ bool RunHandshake(const std::string& transport, std::uint32_t seed, int round, T
     tally.Expect(connected || IsKnownFailure(message.PayloadView()), what + ": an unknown text");
     if (connected && !handshake.stays) {
         const std::size_t behind = handshake.bytes.find(handshake.keyword) + handshake.keyword.size();
-        tally.Expect(ReceiveToTheEnd(*connection) == handshake.bytes.substr(behind),
+        tally.Expect(ReceivedToTheEnd(*connection) == handshake.bytes.substr(behind),
                      what + ": other bytes behind the keyword");
     }
     tally.Close(*connection, what);

@@ -13,18 +13,18 @@
 
 namespace {
 
-struct TPair {
+struct TWidePair {
     CStringU text;
     std::u16string model;
 };
 
-class TPlayer {
+class TWidePlayer {
 public:
-    explicit TPlayer(std::mt19937 random) : m_random(random), m_pairs(5) {}
+    explicit TWidePlayer(std::mt19937 random) : m_random(random), m_pairs(5) {}
 
     void Play() {
-        TPair& pair = m_pairs[Below(m_pairs.size())];
-        const TPair other = m_pairs[Below(m_pairs.size())];
+        TWidePair& pair = m_pairs[Below(m_pairs.size())];
+        const TWidePair other = m_pairs[Below(m_pairs.size())];
         const std::size_t at = Below(pair.model.size() + 1);
         const std::size_t count = Below(pair.model.size() - at + 3);
         const CStringUPos pos = pair.text.Begin() + static_cast<std::int64_t>(at);
@@ -78,7 +78,7 @@ public:
     }
 
     void Check() const {
-        for (const TPair& pair : m_pairs) {
+        for (const TWidePair& pair : m_pairs) {
             ASSERT_EQ(pair.text.ToWide(), pair.model);
             ASSERT_EQ(static_cast<std::size_t>(pair.text.GetCharCount()), pair.model.size());
             ASSERT_TRUE(text_test::HoldsMarkerInvariant(pair.text)) << text_test::Stored(pair.text);
@@ -102,7 +102,7 @@ private:
         }
     }
 
-    TPair Fresh() {
+    TWidePair Fresh() {
         std::u16string units(Below(8), u'\0');
         std::generate(units.begin(), units.end(), [this] { return Unit(); });
         return {CStringU(units.c_str()), units};
@@ -112,7 +112,7 @@ private:
         EXPECT_EQ(static_cast<std::size_t>(count), model.size());
     }
 
-    static void CheckReading(const TPair& pair, CStringUPos pos, std::size_t at) {
+    static void CheckReading(const TWidePair& pair, CStringUPos pos, std::size_t at) {
         EXPECT_EQ(*pos, at < pair.model.size() ? pair.model[at] : u'\0');
         EXPECT_EQ(pos.AtEnd(), at == pair.model.size());
         EXPECT_EQ(pair.text.LastChar(), pair.model.empty() ? u'\0' : pair.model.back());
@@ -123,11 +123,11 @@ private:
     }
 
     std::mt19937 m_random;
-    std::vector<TPair> m_pairs;
+    std::vector<TWidePair> m_pairs;
 };
 
 TEST(CStringUModel, RandomOperationsAgreeWithPlainUtf16) {
-    TPlayer player(text_test::SeededRandom("CStringUModel"));
+    TWidePlayer player(text_test::SeededRandom("CStringUModel"));
     for (int round = 0; round < 20000; ++round) {
         player.Play();
         player.Check();

@@ -192,7 +192,7 @@ std::u16string Letters(std::mt19937& random, std::size_t longest) {
     return text;
 }
 
-TReplaced Model(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
+TReplaced ReplaceModel(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
     int count = 0;
     for (std::size_t at = oldText.empty() ? text.npos : text.find(oldText); at != text.npos;
          at = text.find(oldText, at + newText.size())) {
@@ -202,7 +202,7 @@ TReplaced Model(std::u16string text, const std::u16string& oldText, const std::u
     return {count, text};
 }
 
-TReplaced Model(std::u16string text, char16_t oldUnit, char16_t newUnit) {
+TReplaced ReplaceModel(std::u16string text, char16_t oldUnit, char16_t newUnit) {
     const auto count = std::count(text.begin(), text.end(), oldUnit);
     std::replace(text.begin(), text.end(), oldUnit, newUnit);
     return {static_cast<int>(count), text};
@@ -231,7 +231,7 @@ TReplaced ModelNoCase(std::u16string text, char16_t oldUnit, char16_t newUnit) {
                                    [&](char16_t unit) { return FoldChar(unit) == FoldChar(oldUnit); });
     for (const char16_t form : forms) {
         if (!found) break;
-        const TReplaced pass = Model(result.text, form, newUnit);
+        const TReplaced pass = ReplaceModel(result.text, form, newUnit);
         result = {result.count + pass.count, pass.text};
     }
     return result;
@@ -268,8 +268,10 @@ TEST(CStringUReplace, RandomTextsAgreeWithPlainModels) {
         const std::u16string two = Letters(random, 9) + u"ab\u00c9";
         const char16_t oldUnit = two[UpTo(random, two.size() - 1)];
         const char16_t newUnit = two[UpTo(random, two.size() - 1)];
-        ASSERT_EQ(Replaced(text, oldText, newText), Model(text, oldText, newText)) << Shown(Bytes(text));
-        ASSERT_EQ(Replaced(text, oldUnit, newUnit), Model(text, oldUnit, newUnit)) << Shown(Bytes(text));
+        ASSERT_EQ(Replaced(text, oldText, newText), ReplaceModel(text, oldText, newText))
+            << Shown(Bytes(text));
+        ASSERT_EQ(Replaced(text, oldUnit, newUnit), ReplaceModel(text, oldUnit, newUnit))
+            << Shown(Bytes(text));
         ASSERT_EQ(ReplacedNoCase(text, oldUnit, newUnit), ModelNoCase(text, oldUnit, newUnit))
             << Shown(Bytes(text)) << ' ' << static_cast<int>(oldUnit) << ' ' << static_cast<int>(newUnit);
         ASSERT_EQ(ReplacedNoCase(text, oldText, newText), ModelNoCase(text, oldText, newText))

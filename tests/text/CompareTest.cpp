@@ -33,7 +33,7 @@ std::int32_t ModelCompare(std::u16string_view left, std::u16string_view right, s
 
 constexpr std::size_t cnNoLimit = std::numeric_limits<std::size_t>::max();
 
-struct Row {
+struct CompareRow {
     std::u16string_view left;
     std::u16string_view right;
     int withCase;
@@ -41,7 +41,7 @@ struct Row {
 };
 
 // The differences of characters, where they matter, are those of the folded forms in the last column.
-constexpr Row cnRows[] = {
+constexpr CompareRow cnCompareRows[] = {
     {u"", u"", 0, 0},
     {u"", u"a", -'a', -'a'},
     {u"a", u"", 'a', 'a'},
@@ -66,7 +66,7 @@ constexpr Row cnRows[] = {
 };
 
 TEST(Compare, EveryFormGivesTheDifferenceOfTheFirstCharactersThatDiffer) {
-    for (const Row& row : cnRows) {
+    for (const CompareRow& row : cnCompareRows) {
         const std::string left = Bytes(row.left);
         const std::string right = Bytes(row.right);
         const std::u16string wide(row.right);

@@ -15,20 +15,20 @@ using namespace text_test;
 using vapp_text::FindEngineeringSuffix;
 using vapp_text::TEngineeringSuffix;
 
-struct TRow {
+struct TSuffixRow {
     const char* text;
     int exponent;
     double factor;
     int length;
 };
 
-constexpr TRow cnSpiceRows[] = {
+constexpr TSuffixRow cnSpiceRows[] = {
     {"%", -2, 1, 1},        {"a", -18, 1, 1}, {"f", -15, 1, 1}, {"ft", 0, 0.305, 2}, {"g", 9, 1, 1},
     {"k", 3, 1, 1},         {"m", -3, 1, 1},  {"meg", 6, 1, 3}, {"n", -9, 1, 1},     {"p", -12, 1, 1},
     {"mi", 0, 2.54e-05, 2}, {"t", 12, 1, 1},  {"u", -6, 1, 1},  {"x", 6, 1, 1},
 };
 
-constexpr TRow cnSiRows[] = {
+constexpr TSuffixRow cnSiRows[] = {
     {"%", -2, 1, 1},  {"ft", 0, 0.305, 2}, {"meg", 6, 1, 3}, {"mi", 0, 2.54e-05, 2}, {"x", 6, 1, 1},
     {"Y", 24, 1, 1},  {"Z", 21, 1, 1},     {"E", 18, 1, 1},  {"e", 18, 1, 1},        {"P", 15, 1, 1},
     {"T", 12, 1, 1},  {"t", 12, 1, 1},     {"G", 9, 1, 1},   {"g", 9, 1, 1},         {"M", 6, 1, 1},
@@ -59,7 +59,7 @@ TEngineeringSuffix Find(const std::string& text, bool si) {
     return FindEngineeringSuffix(ExactCopy<Unit>(wide).Get(), si);
 }
 
-void ExpectRow(const std::string& text, bool si, const TRow& row) {
+void ExpectRow(const std::string& text, bool si, const TSuffixRow& row) {
     for (const TEngineeringSuffix& suffix :
          {Find<char>(text, si), Find<char16_t>(text, si), Find<wchar_t>(text, si)}) {
         EXPECT_EQ(suffix.length, row.length) << text << " si " << si;
@@ -69,7 +69,7 @@ void ExpectRow(const std::string& text, bool si, const TRow& row) {
 }
 
 TEST(EngineeringSuffix, EverySpiceRowInEveryCase) {
-    for (const TRow& row : cnSpiceRows) {
+    for (const TSuffixRow& row : cnSpiceRows) {
         for (const std::string& spelling : Spellings(row.text)) {
             ExpectRow(spelling, false, row);
             ExpectRow(spelling + "?", false, row);
@@ -78,7 +78,7 @@ TEST(EngineeringSuffix, EverySpiceRowInEveryCase) {
 }
 
 TEST(EngineeringSuffix, EverySiRowAsItStandsAndTheFirstFiveInEveryCase) {
-    for (const TRow& row : cnSiRows) {
+    for (const TSuffixRow& row : cnSiRows) {
         ExpectRow(row.text, true, row);
         ExpectRow(std::string(row.text) + "?", true, row);
     }

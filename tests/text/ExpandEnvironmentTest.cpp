@@ -31,13 +31,13 @@ private:
     VariableGuard m_self{u"VAPP_SELF", u"/$VAPP_SELF"};
 };
 
-struct TRow {
+struct TExpansionRow {
     std::u16string_view text;
     std::u16string_view onWindows;
     std::u16string_view underWine;
 };
 
-constexpr TRow cnRows[] = {
+constexpr TExpansionRow cnExpansionRows[] = {
     {u"", u"", u""},
     {u"plain", u"plain", u"plain"},
     {u"${VAPP_NAME}2.sym", u"nand2.sym", u"nand2.sym"},
@@ -55,7 +55,7 @@ constexpr TRow cnRows[] = {
 };
 
 TEST_F(ExpandEnvironmentTest, ReferencesGetTheValuesOfThisProcess) {
-    for (const TRow& row : cnRows) {
+    for (const TExpansionRow& row : cnExpansionRows) {
         for (const bool wine : {false, true}) {
             vapp_platform::SetWineAnswer(wine);
             const std::u16string_view expected = wine ? row.underWine : row.onWindows;

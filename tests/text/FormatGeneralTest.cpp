@@ -57,7 +57,7 @@ TEST(FormatGeneral, WritesWordsForWhatIsNoNumberAndOneZero) {
     EXPECT_EQ(FormatGeneral(-std::numeric_limits<double>::infinity()), "-inf");
 }
 
-std::string Model(double value) {
+std::string GeneralModel(double value) {
     int point = 0;
     std::string digits = text_test::RoundHalfEven(text_test::ExactDecimal(value), 18, point);
     const bool decimals = point >= 0 && point <= 18;
@@ -80,13 +80,13 @@ TEST(FormatGeneral, AgreesWithBigDecimals) {
         for (const char* mantissa : {"1e", "-1.5e", "9.99999999999999999e", "1.23456789012345678e"}) {
             const double value = std::strtod((mantissa + std::to_string(exponent)).c_str(), nullptr);
             if (!std::isfinite(value)) continue;
-            ASSERT_EQ(FormatGeneral(value), Model(value).c_str()) << value;
+            ASSERT_EQ(FormatGeneral(value), GeneralModel(value).c_str()) << value;
         }
     }
     for (int round = 0; round < 3000; ++round) {
         const auto value = std::bit_cast<double>(std::uint64_t{random()} << 32U | random());
         if (!std::isfinite(value)) continue;
-        ASSERT_EQ(FormatGeneral(value), Model(value).c_str()) << value;
+        ASSERT_EQ(FormatGeneral(value), GeneralModel(value).c_str()) << value;
     }
 }
 

@@ -39,7 +39,7 @@ TEST(NaturalOrder, NoOtherCharacterIsADigitAndItStays) {
     EXPECT_EQ(digits, 300U);
 }
 
-struct Row {
+struct OrderRow {
     std::u16string_view a;
     std::u16string_view b;
     int plain;      // CompareNatural
@@ -47,7 +47,7 @@ struct Row {
     int noCase;
 };
 
-constexpr Row cnRows[] = {
+constexpr OrderRow cnOrderRows[] = {
     {u"", u"", 0, 0, 0},
     {u"", u"a", -1, -1, -1},
     {u"", u"1", -1, -1, -1},
@@ -102,7 +102,7 @@ constexpr Row cnRows[] = {
 };
 
 TEST(NaturalOrder, EveryFormOrdersByItsRules) {
-    for (const Row& row : cnRows) {
+    for (const OrderRow& row : cnOrderRows) {
         const std::string a = Bytes(row.a);
         const std::string b = Bytes(row.b);
         SCOPED_TRACE(Shown(a) + " " + Shown(b));
@@ -121,7 +121,7 @@ TEST(NaturalOrder, TheFormWithoutCaseIgnoresItsFlag) {
 }
 
 TEST(NaturalOrder, TheFormsOnTextsSkipTheMarker) {
-    for (const Row& row : cnRows) {
+    for (const OrderRow& row : cnOrderRows) {
         const CStringU a(row.a);
         const CStringU b(row.b);
         SCOPED_TRACE(Shown(a.Payload()) + " " + Shown(b.Payload()));

@@ -20,7 +20,7 @@ namespace {
 using namespace text_test;
 using namespace vapp_text;
 
-constexpr double cnInfinity = std::numeric_limits<double>::infinity();
+constexpr double cnInfinite = std::numeric_limits<double>::infinity();
 // Below it the power of ten of an 18-digit number is infinite.
 constexpr double cnLeastThatReturns = 1e-290;
 
@@ -34,7 +34,7 @@ double Read(const CStringU& text, bool si) {
     return value;
 }
 
-std::int64_t Distance(double a, double b) {
+std::int64_t StepsBetween(double a, double b) {
     return std::abs(std::bit_cast<std::int64_t>(a) - std::bit_cast<std::int64_t>(b));
 }
 
@@ -59,7 +59,7 @@ TEST(NumberTextScenario, AnyDoubleReturnsWithinAFewSteps) {
     for (std::size_t i = 0; i < count; ++i) {
         const double value = AnyDouble(random);
         const CStringU text = FormatEngineeringFull(value);
-        const std::int64_t distance = Distance(Read(text, true), value);
+        const std::int64_t distance = StepsBetween(Read(text, true), value);
         ASSERT_LE(distance, 8) << text.Payload();
         farthest = std::max(farthest, distance);
         exact += static_cast<std::size_t>(distance == 0);
@@ -99,11 +99,11 @@ TEST(NumberTextScenario, TheGeneralTextAndToDoubleAreInversesToTheBit) {
             ASSERT_EQ(back, value) << FormatGeneral(value).Payload();
         }
     }
-    EXPECT_EQ(FormatGeneral(-cnInfinity).ToDouble(), -cnInfinity);
+    EXPECT_EQ(FormatGeneral(-cnInfinite).ToDouble(), -cnInfinite);
     EXPECT_FALSE(std::signbit(FormatGeneral(-0.0).ToDouble())) << "only the sign of zero is lost";
 }
 
-struct TRow {
+struct TNumberRow {
     double written;
     TeUnitScale scale;
     const char* text;
@@ -111,7 +111,7 @@ struct TRow {
     double si;
 };
 
-const TRow cnRows[] = {
+const TNumberRow cnNumberRows[] = {
     // SI letters do not mean the same to SPICE, or nothing.
     {1e-24, TeUnitScale::Si, "1y", 1, 1 / (1e8 * 1e16)},  // one step beside 1e-24
     {1e-21, TeUnitScale::Si, "1z", 1, 1e-21},
@@ -133,12 +133,12 @@ const TRow cnRows[] = {
     {1.5e-308, TeUnitScale::Scientific, "1.5e-308", 0, 0},
     {1e-310, TeUnitScale::Scientific, "1e-310", 0, 0},
     // Three digits round it up to what no double holds.
-    {1.797e308, TeUnitScale::Si, "180e306", cnInfinity, cnInfinity},
-    {1.7976931348623157e308, TeUnitScale::Scientific, "1.8e308", cnInfinity, cnInfinity},
+    {1.797e308, TeUnitScale::Si, "180e306", cnInfinite, cnInfinite},
+    {1.7976931348623157e308, TeUnitScale::Scientific, "1.8e308", cnInfinite, cnInfinite},
 };
 
 TEST(NumberTextScenario, WhereReadingIsNotTheInverse) {
-    for (const TRow& row : cnRows) {
+    for (const TNumberRow& row : cnNumberRows) {
         const CStringU text = Write(row.written, 3, row.scale);
         EXPECT_EQ(text, row.text);
         EXPECT_EQ(Read(text, false), row.spice) << row.text;
@@ -155,7 +155,7 @@ TEST(NumberTextScenario, SmallNumbersAreLostTheSoonerTheMoreDigitsTheyHave) {
 }
 
 TEST(NumberTextScenario, WhatIsNotFiniteIsNoNumber) {
-    for (const double value : {cnInfinity, -cnInfinity, std::numeric_limits<double>::quiet_NaN()}) {
+    for (const double value : {cnInfinite, -cnInfinite, std::numeric_limits<double>::quiet_NaN()}) {
         double back = 99;
         const CStringU text = FormatEngineeringFull(value);
         EXPECT_EQ(ParseEngineering(text.Payload(), &back, nullptr, true), "Not a number") << text.Payload();

@@ -18,7 +18,7 @@ using boost::logic::indeterminate;
 using vapp_text::ParseEngineering;
 using vapp_text::ParseEngineeringWithSettings;
 
-constexpr double cnInfinity = std::numeric_limits<double>::infinity();
+constexpr double cnParsedInfinity = std::numeric_limits<double>::infinity();
 
 struct TRead {
     std::string error;
@@ -39,7 +39,7 @@ TRead Read(const char* text, bool si) {
     return read;
 }
 
-struct TRow {
+struct TParseRow {
     const char* text;
     double spice;
     int spiceEnd;
@@ -48,7 +48,7 @@ struct TRow {
 };
 
 // In the SI reading a number without a suffix ends on its last character.
-constexpr TRow cnRows[] = {
+constexpr TParseRow cnParseRows[] = {
     {"1.5k", 1500, 4, 1500, 4},
     {"10MEG", 1e7, 5, 1e7, 5},
     {"10meg", 1e7, 5, 1e7, 5},
@@ -95,7 +95,7 @@ constexpr TRow cnRows[] = {
 };
 
 TEST(ParseEngineering, ReadsByTheTableInBothReadings) {
-    for (const TRow& row : cnRows) {
+    for (const TParseRow& row : cnParseRows) {
         const std::string error = row.spiceEnd < 0 ? "Not a number" : "";
         const TRead spice = Read(row.text, false);
         EXPECT_EQ(spice.value, row.spice) << row.text;
@@ -168,7 +168,7 @@ TEST(ParseEngineering, LeadingZerosAreDigitsToo) {
 TEST(ParseEngineering, AnExponentOutOfRangeShowsInErrnoOnly) {
     for (const char* text : {"1e999", "1e512", "1e511k", "1e4294967296", "1e99999999999999999999999"}) {
         const TRead read = Read(text, false);
-        EXPECT_EQ(read.value, cnInfinity) << text;
+        EXPECT_EQ(read.value, cnParsedInfinity) << text;
         EXPECT_EQ(read.error_number, ERANGE) << text;
         EXPECT_EQ(read.error, "") << text;
     }
@@ -178,12 +178,12 @@ TEST(ParseEngineering, AnExponentOutOfRangeShowsInErrnoOnly) {
         EXPECT_EQ(read.error_number, ERANGE) << text;
         EXPECT_EQ(read.error, "") << text;
     }
-    EXPECT_EQ(Read("-1e999", true).value, -cnInfinity);
+    EXPECT_EQ(Read("-1e999", true).value, -cnParsedInfinity);
     EXPECT_TRUE(std::signbit(Read("-1e-999", true).value));
 }
 
 TEST(ParseEngineering, FiveHundredAndElevenIsInRangeThoughThePowerIsNot) {
-    EXPECT_EQ(Read("1e511", false).value, cnInfinity);
+    EXPECT_EQ(Read("1e511", false).value, cnParsedInfinity);
     EXPECT_EQ(Read("1e511", false).error_number, 0);
     EXPECT_EQ(Read("1e-511", false).value, 0);
     EXPECT_EQ(Read("1e-511", false).error_number, 0);
@@ -192,7 +192,7 @@ TEST(ParseEngineering, FiveHundredAndElevenIsInRangeThoughThePowerIsNot) {
 // The power of ten itself overflows, so that numbers near the ends of the range are lost. No error is told.
 TEST(ParseEngineering, APowerBeyondTheRangeOfDoublesIsInfinite) {
     EXPECT_EQ(Read("1e308", false).value, 1e4 * 1e16 * 1e32 * 1e256);
-    EXPECT_EQ(Read("1e309", false).value, cnInfinity);
+    EXPECT_EQ(Read("1e309", false).value, cnParsedInfinity);
     EXPECT_EQ(Read("0.001e309", false).value, 1e2 * 1e16 * 1e32 * 1e256) << "only the sum counts";
     EXPECT_EQ(Read("1e-308", false).value, 1 / (1e4 * 1e16 * 1e32 * 1e256));
     EXPECT_EQ(Read("1e-309", false).value, 0);

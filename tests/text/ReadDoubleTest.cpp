@@ -19,17 +19,17 @@ namespace {
 using namespace text_test;
 using vapp_text::ReadDouble;
 
-constexpr double cnInfinity = std::numeric_limits<double>::infinity();
+constexpr double cnReadInfinity = std::numeric_limits<double>::infinity();
 constexpr double cnNan = std::numeric_limits<double>::quiet_NaN();
 
-struct TRow {
+struct TReadRow {
     const char* text;
     double value;
     std::ptrdiff_t end;
     int error = 0;
 };
 
-const TRow cnRows[] = {
+const TReadRow cnReadRows[] = {
     {"", 0, 0},
     {"abc", 0, 0},
     {" ", 0, 0},
@@ -58,9 +58,9 @@ const TRow cnRows[] = {
     {"2.2250738585072014e-308", 2.2250738585072014e-308, 23},
     {"4.9406564584124654e-324", 4.9406564584124654e-324, 23},
     {"1.7976931348623157e308", 1.7976931348623157e308, 22},
-    {"1e309", cnInfinity, 5, ERANGE},
-    {"-1e309", -cnInfinity, 6, ERANGE},
-    {"1e99999999999999999999999", cnInfinity, 25, ERANGE},
+    {"1e309", cnReadInfinity, 5, ERANGE},
+    {"-1e309", -cnReadInfinity, 6, ERANGE},
+    {"1e99999999999999999999999", cnReadInfinity, 25, ERANGE},
     {"1e-400", 0, 6, ERANGE},
     {"-1e-99999999999999999999999", -0.0, 27, ERANGE},
     {"0.000000000000000000001e-400", 0, 28, ERANGE},
@@ -78,15 +78,15 @@ const TRow cnRows[] = {
     {"0x1p", 1, 3},
     {"0x1p+", 1, 3},
     {"0x1e5", 0x1e5, 5},
-    {"0x1p1024", cnInfinity, 8, ERANGE},
-    {"-0x1p99999999999999999999", -cnInfinity, 25, ERANGE},
+    {"0x1p1024", cnReadInfinity, 8, ERANGE},
+    {"-0x1p99999999999999999999", -cnReadInfinity, 25, ERANGE},
     {"0x1p-1080", 0, 9, ERANGE},
-    {"0x0.0001p1080", cnInfinity, 13, ERANGE},
+    {"0x0.0001p1080", cnReadInfinity, 13, ERANGE},
     {"0x0p99999", 0, 9},
-    {"inf", cnInfinity, 3},
-    {"-INF", -cnInfinity, 4},
-    {"Infinity", cnInfinity, 8},
-    {"infinit", cnInfinity, 3},
+    {"inf", cnReadInfinity, 3},
+    {"-INF", -cnReadInfinity, 4},
+    {"Infinity", cnReadInfinity, 8},
+    {"infinit", cnReadInfinity, 3},
     {"in", 0, 0},
     {"nan", cnNan, 3},
     {"NaN(abc_1)", cnNan, 10},
@@ -95,7 +95,7 @@ const TRow cnRows[] = {
 };
 
 TEST(ReadDouble, ReadsByTheTable) {
-    for (const TRow& row : cnRows) {
+    for (const TReadRow& row : cnReadRows) {
         const ExactBytes text(row.text);
         const char* end = nullptr;
         errno = 0;
@@ -118,7 +118,7 @@ TEST(ReadDouble, LongNumbersAreOutOfRangeToo) {
         int error;
     };
     const TLong rows[] = {
-        {nines, cnInfinity, ERANGE},         {"-" + nines, -cnInfinity, ERANGE},
+        {nines, cnReadInfinity, ERANGE},     {"-" + nines, -cnReadInfinity, ERANGE},
         {nines + ".5e-400", 1, 0},           {zeroes, 0, ERANGE},
         {"-" + zeroes, -0.0, ERANGE},        {zeroes + "e401", 1, 0},
         {std::string(400, '0') + "7", 7, 0}, {"0." + std::string(400, '0'), 0, 0},
@@ -147,7 +147,7 @@ TEST(ReadDouble, ErrnoStaysWhereNothingIsOutOfRange) {
     EXPECT_EQ(errno, EDOM);
 }
 
-std::string NearlyNumber(std::mt19937& random) {
+std::string NearlyDouble(std::mt19937& random) {
     static constexpr std::string_view decimal = "0123456789";
     static constexpr std::string_view hexadecimal = "0123456789abcdefABCDEF";
     const bool hex = UpTo(random, 3) == 0;
@@ -175,7 +175,7 @@ std::string NearlyNumber(std::mt19937& random) {
 TEST(ReadDouble, RandomNumbersReadAsByStrtod) {
     std::mt19937 random = SeededRandom();
     for (int i = 0; i < 100000; ++i) {
-        const std::string bytes = NearlyNumber(random);
+        const std::string bytes = NearlyDouble(random);
         const ExactBytes text(bytes);
         const char* end = nullptr;
         const double value = ReadDouble(text.Get(), &end);

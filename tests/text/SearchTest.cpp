@@ -268,8 +268,8 @@ TEST(SearchBackward, TheFoldedFormDoesNotFoldTheSet) {
 }
 
 /// A text as the model sees it: its characters, and the byte at which each begins (the end included).
-struct Model {
-    explicit Model(std::u16string_view units) : m_units(units) {
+struct SearchModel {
+    explicit SearchModel(std::u16string_view units) : m_units(units) {
         for (const char16_t unit : units)
             m_bytes.push_back(m_bytes.back() + EncodedSize(unit));
     }
@@ -280,20 +280,21 @@ struct Model {
         return fold ? FoldChar(unit) : unit;
     }
     /// True if `count` characters from `index` are those of the needle; both ends count as 0, once.
-    [[nodiscard]] bool Matches(std::size_t index, const Model& needle, std::size_t count, bool fold) const {
+    [[nodiscard]] bool Matches(std::size_t index, const SearchModel& needle, std::size_t count,
+                               bool fold) const {
         for (std::size_t step = 0; step < count; ++step) {
             if (At(index + step, fold) != needle.At(step, fold)) return false;
             if (At(index + step, fold) == 0) return true;
         }
         return true;
     }
-    [[nodiscard]] std::int64_t FirstMatch(const Model& needle, std::size_t count, bool fold) const {
+    [[nodiscard]] std::int64_t FirstMatch(const SearchModel& needle, std::size_t count, bool fold) const {
         for (std::size_t index = 0; index == 0 || index < m_units.size(); ++index) {
             if (Matches(index, needle, count, fold)) return static_cast<std::int64_t>(index);
         }
         return -1;
     }
-    [[nodiscard]] std::int64_t LastMatch(std::size_t from, const Model& needle, bool fold) const {
+    [[nodiscard]] std::int64_t LastMatch(std::size_t from, const SearchModel& needle, bool fold) const {
         for (std::size_t index = from + 1; index-- > 0;) {
             if (Matches(index, needle, needle.m_units.size(), fold)) return static_cast<std::int64_t>(index);
         }
@@ -305,14 +306,14 @@ struct Model {
         }
         return false;
     }
-    [[nodiscard]] std::int64_t FirstOf(const Model& set, bool fold) const {
+    [[nodiscard]] std::int64_t FirstOf(const SearchModel& set, bool fold) const {
         for (std::size_t index = 0; index < m_units.size(); ++index) {
             if (set.Holds(At(index, fold), fold)) return static_cast<std::int64_t>(index);
         }
         return -1;
     }
     /// The set is taken as it stands.
-    [[nodiscard]] std::int64_t LastOf(std::size_t from, const Model& set, bool fold) const {
+    [[nodiscard]] std::int64_t LastOf(std::size_t from, const SearchModel& set, bool fold) const {
         for (std::size_t index = std::min(from + 1, m_units.size()); index-- > 0;) {
             if (set.Holds(At(index, fold), false)) return static_cast<std::int64_t>(index);
         }
@@ -340,8 +341,8 @@ std::u16string LikelyNeedle(std::mt19937& random, const std::u16string& text) {
 TEST(SearchForward, RandomSearchesAgreeWithTheModel) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 30'000; ++round) {
-        const Model text(HostileName(random, 14));
-        const Model needle(LikelyNeedle(random, text.m_units));
+        const SearchModel text(HostileName(random, 14));
+        const SearchModel needle(LikelyNeedle(random, text.m_units));
         const ExactBytes t(Bytes(text.m_units));
         const ExactBytes n(Bytes(needle.m_units));
         const ExactUnits w(needle.m_units);
@@ -373,7 +374,7 @@ TEST(SearchForward, RandomSearchesAgreeWithTheModel) {
         ASSERT_EQ(FindOneOfNoCaseU(t.Get(), w.Get()), text.Byte(text.FirstOf(needle, true)));
         ASSERT_EQ(FindOneOfIndexNoCaseU(t.Get(), w.Get()), text.FirstOf(needle, true));
 
-        const Model one(needle.m_units.substr(0, 1));
+        const SearchModel one(needle.m_units.substr(0, 1));
         if (one.m_units.empty()) continue;
         const char16_t c = one.m_units.front();
         ASSERT_EQ(FindCharU(t.Get(), c), text.Byte(text.FirstOf(one, false)));
@@ -386,8 +387,8 @@ TEST(SearchForward, RandomSearchesAgreeWithTheModel) {
 TEST(SearchBackward, RandomSearchesAgreeWithTheModel) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 30'000; ++round) {
-        const Model text(HostileName(random, 14));
-        const Model needle(LikelyNeedle(random, text.m_units));
+        const SearchModel text(HostileName(random, 14));
+        const SearchModel needle(LikelyNeedle(random, text.m_units));
         const std::size_t start = UpTo(random, text.m_units.size());
         const std::int64_t from = text.m_bytes[start];
         const ExactBytes t(Bytes(text.m_units));
@@ -408,7 +409,7 @@ TEST(SearchBackward, RandomSearchesAgreeWithTheModel) {
         ASSERT_EQ(ReverseFindOneOfNoCaseU(t.Get(), w.Get(), from),
                   text.Byte(text.LastOf(start, needle, true)));
 
-        const Model one(needle.m_units.substr(0, 1));
+        const SearchModel one(needle.m_units.substr(0, 1));
         if (one.m_units.empty()) continue;
         const char16_t c = one.m_units.front();
         ASSERT_EQ(ReverseFindCharU(t.Get(), c, from), text.Byte(text.LastMatch(start, one, false)));

@@ -9,11 +9,11 @@
 
 namespace {
 
-constexpr DialogItem cnItems[] = {
+constexpr DialogItem cnFormItems[] = {
     {10, {1, 2, 30, 40}, "__$$Translatable$$_Libraries"},
     {11, {5, 6, 70, 80}, ""},
 };
-const DialogTemplate cnDialog{387, {200, 100}, cnItems};
+const DialogTemplate cnDialog{387, {200, 100}, cnFormItems};
 
 class Form : public CFormView {
 public:

@@ -10,18 +10,18 @@
 
 namespace {
 
-constexpr std::array<DialogItem, 2> cnItems = {{
+constexpr std::array<DialogItem, 2> cnTwoItems = {{
     {7, {1, 2, 30, 40}, "__$$Translatable$$_Key"},
     {8, {5, 6, 70, 80}, "plain"},
 }};
-constexpr DialogTemplate cnTemplate = {100, {90, 90}, cnItems};
+constexpr DialogTemplate cnTwoItemTemplate = {100, {90, 90}, cnTwoItems};
 
 }  // namespace
 
 TEST(DialogItems, AreFoundByTheirIdentifier) {
-    ASSERT_NE(gFindDialogItem(cnTemplate, 8), nullptr);
-    EXPECT_EQ(gFindDialogItem(cnTemplate, 8)->rect, CRect(5, 6, 70, 80));
-    EXPECT_EQ(gFindDialogItem(cnTemplate, 9), nullptr);
+    ASSERT_NE(gFindDialogItem(cnTwoItemTemplate, 8), nullptr);
+    EXPECT_EQ(gFindDialogItem(cnTwoItemTemplate, 8)->rect, CRect(5, 6, 70, 80));
+    EXPECT_EQ(gFindDialogItem(cnTwoItemTemplate, 9), nullptr);
 }
 
 TEST(DialogItems, AreMadeAtTheirPlaceWithTheirText) {
@@ -31,9 +31,9 @@ TEST(DialogItems, AreMadeAtTheirPlaceWithTheirText) {
     CWnd first;
     CWnd second;
     CWnd unknown;
-    gCreateDialogItem(parent, cnTemplate, first, 7);
-    gCreateDialogItem(parent, cnTemplate, second, 8);
-    gCreateDialogItem(parent, cnTemplate, unknown, 9);
+    gCreateDialogItem(parent, cnTwoItemTemplate, first, 7);
+    gCreateDialogItem(parent, cnTwoItemTemplate, second, 8);
+    gCreateDialogItem(parent, cnTwoItemTemplate, unknown, 9);
     EXPECT_EQ(parent.GetDlgItem(7), &first);
     EXPECT_EQ(first.GetRect(), CRect(1, 2, 30, 40));
     EXPECT_EQ(first.GetWindowText(), CString("word"));
@@ -49,7 +49,7 @@ TEST(DialogItems, AnExistingControlIsLeftAlone) {
     CWnd control;
     control.SetWindowText("own");
     ASSERT_TRUE(control.Create(&parent, 3));
-    gCreateDialogItem(parent, cnTemplate, control, 8);
+    gCreateDialogItem(parent, cnTwoItemTemplate, control, 8);
     EXPECT_EQ(control.GetDlgCtrlID(), 3u);
     EXPECT_EQ(control.GetWindowText(), CString("own"));
 }

@@ -12,12 +12,12 @@ using Ranges = std::vector<RowSelection::Range>;
 constexpr TModifiers cnPlain{};
 constexpr TModifiers cnShift{.shift = true, .control = false};
 constexpr TModifiers cnControl{.shift = false, .control = true};
-constexpr TModifiers cnBoth{.shift = true, .control = true};
-constexpr int cnRows = 100;
+constexpr TModifiers cnShiftAndControl{.shift = true, .control = true};
+constexpr int cnRowCount = 100;
 constexpr int cnPage = 10;
 
 bool Press(RowCursor& cursor, TKey key, TModifiers modifiers = cnPlain) {
-    return cursor.Key(key, modifiers, cnRows, cnPage);
+    return cursor.Key(key, modifiers, cnRowCount, cnPage);
 }
 
 Ranges Selected(const RowCursor& cursor) {
@@ -72,7 +72,7 @@ TEST(RowCursor, ControlShiftClickAddsTheRange) {
     RowCursor cursor;
     cursor.Click(1, cnPlain);
     cursor.Click(5, cnControl);
-    EXPECT_TRUE(cursor.Click(8, cnBoth));
+    EXPECT_TRUE(cursor.Click(8, cnShiftAndControl));
     EXPECT_EQ(Selected(cursor), (Ranges{{1, 1}, {5, 8}}));
     EXPECT_EQ(cursor.GetAnchor(), 5);
 }
@@ -144,7 +144,7 @@ TEST(RowCursor, ShiftArrowsGrowAndShrinkTheRange) {
     EXPECT_EQ(Selected(cursor), (Ranges{{10, 11}}));
     Press(cursor, TKey::Home, cnShift);
     EXPECT_EQ(Selected(cursor), (Ranges{{0, 10}}));
-    Press(cursor, TKey::End, cnBoth);
+    Press(cursor, TKey::End, cnShiftAndControl);
     EXPECT_EQ(Selected(cursor), (Ranges{{0, 99}}));
 }
 

@@ -40,7 +40,7 @@ using vapp_platform::ExitKind;
 using vapp_platform::StartResult;
 using vapp_platform::StartStep;
 
-StartResult StartLine(const std::string& line) {
+StartResult StartPlain(const std::string& line) {
     ChildStart start;
     start.commandLine = {line.c_str(), TextEncoding::Utf8Auto};
     return ChildProcess::Start(start);
@@ -162,12 +162,12 @@ TEST(PosixChildProcess, FailuresNameTheSystemsReason) {
     std::ofstream(noProgram) << "text";
     chmod(noProgram.c_str(), 0700);
 
-    EXPECT_EQ(StartLine("vapp-no-such-program").code, ENOENT);
-    EXPECT_EQ(StartLine(folder / "absent").code, ENOENT);
-    EXPECT_EQ(StartLine(plain).code, EACCES);
-    EXPECT_EQ(StartLine(folder).code, EACCES);
-    EXPECT_EQ(StartLine(plain + "/below").code, ENOENT);  // "not a folder" counts as not found
-    EXPECT_EQ(StartLine(noProgram).code, ENOEXEC);
+    EXPECT_EQ(StartPlain("vapp-no-such-program").code, ENOENT);
+    EXPECT_EQ(StartPlain(folder / "absent").code, ENOENT);
+    EXPECT_EQ(StartPlain(plain).code, EACCES);
+    EXPECT_EQ(StartPlain(folder).code, EACCES);
+    EXPECT_EQ(StartPlain(plain + "/below").code, ENOENT);  // "not a folder" counts as not found
+    EXPECT_EQ(StartPlain(noProgram).code, ENOEXEC);
 
     ChildStart start;
     start.commandLine = RoleCommand("exit", {"0"});
@@ -180,7 +180,7 @@ TEST(PosixChildProcess, FailuresNameTheSystemsReason) {
 
 TEST(PosixChildProcess, AFailedStartLeavesNoZombie) {
     for (int round = 0; round < 20; ++round)
-        EXPECT_EQ(StartLine("/no/such/program").child, nullptr);
+        EXPECT_EQ(StartPlain("/no/such/program").child, nullptr);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
 }
@@ -196,21 +196,21 @@ TEST(PosixChildProcess, ChildrenThatAreLetGoAreCollectedAtALaterStart) {
     // Each start collects; the last ones may still be on their way out.
     siginfo_t info{};
     while (waitid(P_ALL, 0, &info, WEXITED | WNOWAIT) == 0) {
-        const StartResult next = StartLine("/no/such/program");
+        const StartResult next = StartPlain("/no/such/program");
         EXPECT_EQ(next.child, nullptr);
     }
     EXPECT_EQ(errno, ECHILD);
 }
 
 TEST(PosixChildProcess, TheProgramMayBeWrittenWithBackslashes) {
-    const StartResult started = StartLine("\"\\bin\\true\"");
+    const StartResult started = StartPlain("\"\\bin\\true\"");
     ASSERT_NE(started.child, nullptr);
     ASSERT_TRUE(started.child->WaitFor(cnLong));
     EXPECT_EQ(started.child->GetExitStatus().code, 0);
 }
 
 TEST(PosixChildProcess, AProgramWithoutAFolderIsFoundByPath) {
-    const StartResult started = StartLine("sh -c \"exit 7\"");
+    const StartResult started = StartPlain("sh -c \"exit 7\"");
     ASSERT_NE(started.child, nullptr);
     ASSERT_TRUE(started.child->WaitFor(cnLong));
     EXPECT_EQ(started.child->GetExitStatus().code, 7);
@@ -230,18 +230,18 @@ TEST(PosixChildProcess, AChildKilledByOthersTellsTheSignal) {
 TEST(PosixChildProcess, AHostThatIgnoresItsChildrenLosesOnlyTheStatus) {
     const auto before = signal(SIGCHLD, SIG_IGN);
     for (int round = 0; round < 20; ++round) {
-        const StartResult started = StartLine(RoleCommand("exit", {"3"}).Payload());
+        const StartResult started = StartPlain(RoleCommand("exit", {"3"}).Payload());
         ASSERT_NE(started.child, nullptr);
         EXPECT_TRUE(started.child->WaitFor(cnLong));
         EXPECT_NE(started.child->GetExitStatus().kind, ExitKind::Running);
         EXPECT_TRUE(started.child->Terminate());
-        EXPECT_EQ(StartLine("/no/such/program").code, ENOENT);
+        EXPECT_EQ(StartPlain("/no/such/program").code, ENOENT);
     }
     signal(SIGCHLD, before);
 }
 
 TEST(PosixChildProcess, AHostThatCollectsEveryChildLosesOnlyTheStatus) {
-    const StartResult started = StartLine(RoleCommand("exit", {"3"}).Payload());
+    const StartResult started = StartPlain(RoleCommand("exit", {"3"}).Payload());
     ASSERT_NE(started.child, nullptr);
     EXPECT_EQ(waitpid(-1, nullptr, 0), static_cast<pid_t>(started.child->GetId()));
     EXPECT_TRUE(started.child->WaitFor(cnLong));
@@ -255,11 +255,11 @@ TEST(PosixChildProcess, TheHostsOwnChildrenAreLeftAlone) {
     siginfo_t info{};
     ASSERT_EQ(waitid(P_PID, static_cast<id_t>(own), &info, WEXITED | WNOWAIT), 0);
     {
-        const StartResult started = StartLine(RoleCommand("exit", {"0"}).Payload());
+        const StartResult started = StartPlain(RoleCommand("exit", {"0"}).Payload());
         ASSERT_NE(started.child, nullptr);
         EXPECT_TRUE(started.child->WaitFor(cnLong));
     }
-    EXPECT_EQ(StartLine("/no/such/program").child, nullptr);
+    EXPECT_EQ(StartPlain("/no/such/program").child, nullptr);
     int status = 0;
     EXPECT_EQ(waitpid(own, &status, 0), own);
     EXPECT_EQ(WEXITSTATUS(status), 42);

@@ -7,13 +7,13 @@ namespace {
 using vapp_platform::ParseKernelRelease;
 using vapp_platform::TKernelRelease;
 
-struct TRow {
+struct TReleaseRow {
     const char* text;
     std::uint32_t major, minor, patch;
     const char* rest;
 };
 
-const TRow cnRows[] = {
+const TReleaseRow cnReleaseRows[] = {
     {"6.1.0-13-amd64", 6, 1, 0, "-13-amd64"},
     {"5.15.167.4-standard", 5, 15, 167, ".4-standard"},
     {"4.4.0", 4, 4, 0, ""},
@@ -28,7 +28,7 @@ const TRow cnRows[] = {
 };
 
 TEST(KernelReleaseTest, NumbersAreTakenWhileTheyGoOn) {
-    for (const TRow& row : cnRows) {
+    for (const TReleaseRow& row : cnReleaseRows) {
         const TKernelRelease release = ParseKernelRelease(row.text);
         EXPECT_EQ(release.major, row.major) << row.text;
         EXPECT_EQ(release.minor, row.minor) << row.text;
