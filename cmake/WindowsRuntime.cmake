@@ -2,7 +2,8 @@
 # DLL looks for them, in ../lib of the program's folder.
 find_file(TCL_DLL tcl86.dll PATHS ${VAPP_WINDOWS_LIBRARIES}/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 get_filename_component(folder ${TCL_DLL} DIRECTORY)
-file(GLOB dlls ${folder}/*.dll)
-file(COPY ${dlls} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+file(GLOB VAPP_RUNTIME_DLLS ${folder}/*.dll)
+get_filename_component(VAPP_TCL_SCRIPTS ${folder}/../lib/tcl8.6 ABSOLUTE)
+file(COPY ${VAPP_RUNTIME_DLLS} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-file(CREATE_LINK ${folder}/../lib/tcl8.6 ${CMAKE_BINARY_DIR}/lib/tcl8.6 SYMBOLIC COPY_ON_ERROR)
+file(CREATE_LINK ${VAPP_TCL_SCRIPTS} ${CMAKE_BINARY_DIR}/lib/tcl8.6 SYMBOLIC COPY_ON_ERROR)

@@ -134,6 +134,20 @@ class CheckTreeTest(unittest.TestCase):
         self.expect("is not examples/minimal.cpp", {**program, "README.md": "Text.\n```cpp\nint main();\n```\n"})
         self.expect("is not examples/minimal.cpp", {**program, "README.md": "Text.\n"})
 
+    def test_passages_shown_in_the_guide(self):
+        folder = "examples/embedding/step"
+        program = {"examples/README.md": "Programs.\n", f"{folder}/main.cpp": "int g;\nint main() {\n}\n",
+                   f"{folder}/CMakeLists.txt": "add_executable(step main.cpp)\n", "docs/README.md": "Texts.\n"}
+        def guide(block):
+            return {**program, "docs/embedding.md": f"Text.\n\n{block}\n"}
+        mark = f"<!-- {folder}/main.cpp -->\n"
+        self.expect_silence(guide(mark + "```cpp\nint main() {\n}\n```"))
+        self.expect_silence(guide(mark + "```cpp\nint g;\n```\n\n```sh\nstep\n```"))
+        self.expect("is not in", guide(mark + "```cpp\nint main() { }\n```"))
+        self.expect("is not in", guide(mark + "```cpp\nmain() {\n```"))
+        self.expect("code without the name", guide(mark + "```cpp\nint g;\n```\n\n```cpp\nint h;\n```"))
+        self.expect("does not show it", guide("Nothing."))
+
     def test_finds_a_file_name_that_points_outside_the_tree(self):
         self.expect("the name points outside", {"text/p" + "art1_2.txt": "x\n"})
 

@@ -38,7 +38,8 @@ OPEN_ROOMS = {"tests", "bench", "fuzz"}
 
 # Outside libraries: name, headers, the folders that may know them.
 LIBRARIES = [
-    ("Qt", r"Q[A-Z]\w*$|Qt[A-Z]\w*/", {"toolkit/qt", "host", "examples", "tests/qt", "tests/host", "bench"}),
+    ("Qt", r"Q[A-Z]\w*$|Qt[A-Z]\w*/", {"toolkit/qt", "host", "examples", "tests/qt", "tests/host", "tests/embedding/qt",
+                                       "bench"}),
     ("ICU", r"unicode/", {"platform/posix", "bench"}),
     ("GLib", r"glib(\.h$|/)", {"bench"}),
     ("Google Benchmark", r"benchmark/", {"bench"}),

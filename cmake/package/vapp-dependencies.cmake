@@ -1,0 +1,51 @@
+# What a program needs besides the library: finds it, or says in one sentence what is missing. Included by
+# vapp-config.cmake.
+
+# vapp_check_components(MISSING COMPONENTS): MISSING becomes empty, or says which required one this package doesn't have.
+function(vapp_check_components missing components)
+  set(known Core)
+  if(EXISTS ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/vapp-qt-targets.cmake)
+    list(APPEND known Qt)
+  endif()
+  list(JOIN known ", " names)
+  set(${missing} "" PARENT_SCOPE)
+  foreach(component ${components})
+    if(vapp_FIND_REQUIRED_${component} AND NOT component IN_LIST known)
+      set(reason "There is no component ${component}")
+      if(component STREQUAL "Qt")
+        set(reason "This vapp was built without its component Qt")
+      endif()
+      set(${missing} "${reason}; it has: ${names}." PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+endfunction()
+
+# vapp_find_core_dependencies(MISSING): defines vapp::tcl and vapp::boost_headers, or says which of them is missing.
+function(vapp_find_core_dependencies missing)
+  set(${missing} "" PARENT_SCOPE)
+  if(NOT TARGET vapp::boost_headers)
+    find_path(vapp_BOOST_INCLUDE_DIR boost/logic/tribool.hpp)
+    mark_as_advanced(vapp_BOOST_INCLUDE_DIR)
+    if(NOT vapp_BOOST_INCLUDE_DIR)
+      set(${missing} "vapp needs the headers of Boost.Logic (boost/logic/tribool.hpp): install Boost's headers, or set \
+vapp_BOOST_INCLUDE_DIR." PARENT_SCOPE)
+      return()
+    endif()
+    add_library(vapp::boost_headers INTERFACE IMPORTED)
+    set_target_properties(vapp::boost_headers PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "${vapp_BOOST_INCLUDE_DIR}")
+  endif()
+  if(NOT TARGET vapp::tcl)
+    find_path(vapp_TCL_INCLUDE_DIR tcl.h PATH_SUFFIXES tcl8.6 tcl)
+    find_library(vapp_TCL_LIBRARY NAMES tcl8.6 tcl86)
+    mark_as_advanced(vapp_TCL_INCLUDE_DIR vapp_TCL_LIBRARY)
+    if(NOT vapp_TCL_INCLUDE_DIR OR NOT vapp_TCL_LIBRARY)
+      set(${missing} "vapp needs Tcl 8.6 (tcl.h and its library): install it, set vapp_TCL_INCLUDE_DIR and \
+vapp_TCL_LIBRARY, or define a target vapp::tcl of your own." PARENT_SCOPE)
+      return()
+    endif()
+    add_library(vapp::tcl INTERFACE IMPORTED)
+    set_target_properties(vapp::tcl PROPERTIES
+      INTERFACE_INCLUDE_DIRECTORIES "${vapp_TCL_INCLUDE_DIR}" INTERFACE_LINK_LIBRARIES "${vapp_TCL_LIBRARY}")
+  endif()
+endfunction()
