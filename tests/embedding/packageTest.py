@@ -106,6 +106,8 @@ class Layout(unittest.TestCase):
             facts = run(OPTIONS.objdump, "-p", PREFIX / "bin/libvapp.dll")
             self.assertRegex(facts, rf"MajorImageVersion\s+{year}\n")
             self.assertRegex(facts, rf"MinorImageVersion\s+{release}\n")
+            told = (PREFIX / "bin/libvapp.dll").read_bytes()
+            self.assertIn("FileVersion\0".encode("utf-16-le") + b"\0\0" + OPTIONS.version.encode("utf-16-le"), told)
             return
         for name in ["libvapp", "libvapp_qt"][:1 + OPTIONS.qt]:
             runtime = f"{name}.so.{year}.{release}"
@@ -178,10 +180,10 @@ class Steps(unittest.TestCase):
 class Found(unittest.TestCase):
     """What find_package answers; without a language it is asked in a moment."""
 
-    def ask(self, request, *settings, expect=0):
+    def ask(self, request, *settings, before="", expect=0):
         folder = fresh("ask")
         (folder / "CMakeLists.txt").write_text(
-            "cmake_minimum_required(VERSION 3.21)\nproject(ask LANGUAGES NONE)\nset(CMAKE_SIZEOF_VOID_P 8)\n"
+            f"cmake_minimum_required(VERSION 3.21)\nproject(ask LANGUAGES NONE)\nset(CMAKE_SIZEOF_VOID_P 8)\n{before}"
             f"find_package(vapp {request})\n" 'message("found: ${vapp_FOUND}, Qt: ${vapp_Qt_FOUND}")\n')
         return " ".join(run(OPTIONS.cmake, "-S", folder, "-B", folder / "build", f"-Dvapp_DIR={PREFIX}/lib/cmake/vapp",
                             "-Dvapp_TCL_INCLUDE_DIR=/nowhere", "-Dvapp_TCL_LIBRARY=/nowhere",
@@ -203,6 +205,12 @@ class Found(unittest.TestCase):
             self.assertIn("built without its component Qt; it has: Core.",
                           self.ask("REQUIRED COMPONENTS Qt", expect=1))
 
+    def test_a_host_may_bring_its_own_tcl(self):
+        own = "add_library(vapp::tcl INTERFACE IMPORTED)\n"
+        self.assertIn("found: 1", self.ask("REQUIRED", "-Dvapp_TCL_LIBRARY=vapp_TCL_LIBRARY-NOTFOUND",
+                                           "-DCMAKE_FIND_ROOT_PATH=/nowhere",
+                                           "-DCMAKE_FIND_ROOT_PATH_MODE_LIBRARY=ONLY", before=own))
+
     def test_what_is_missing_besides_is_named(self):
         self.assertIn("vapp needs Tcl 8.6", self.ask("REQUIRED", "-Dvapp_TCL_LIBRARY=vapp_TCL_LIBRARY-NOTFOUND",
                                                      "-DCMAKE_FIND_ROOT_PATH=/nowhere",
@@ -213,6 +221,30 @@ class Found(unittest.TestCase):
         if OPTIONS.qt:
             answer = self.ask("REQUIRED COMPONENTS Qt", "-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON", expect=1)
             self.assertIn("needs Qt 6.4 or newer", answer)
+
+
+class SystemNames(unittest.TestCase):
+    """The system's header names hundreds of calls by macros. A member of ours of such a name would be renamed in hosts
+    that include the header before ours, and not in the library: it would compile and not link."""
+
+    def test_no_exported_name_is_a_macro_of_the_system(self):
+        headers = ("winsock2", "windows", "commctrl", "commdlg", "shlobj")
+        source = fresh("names") / "system.cpp"
+        source.write_text("".join(f"#include <{name}.h>\n" for name in headers))
+        # Those that are dealt with, or are constants which we take from the system.
+        known = self.words_of(PREFIX / "include/vapp/toolkit/BasicTypes.h") | {"offsetof"}
+        for alphabet in ([], ["-DUNICODE", "-D_UNICODE"]):
+            listing = run(OPTIONS.compiler, "-dM", "-E", *alphabet, source)
+            macros = set(re.findall(r"^#define (\w+)", listing, re.MULTILINE))
+            self.assertIn("GetMessage", macros)
+            for header in (PREFIX / "include").rglob("*.h"):
+                self.assertEqual((self.words_of(header) & macros) - known, set(), header)
+
+    def words_of(self, header):
+        bare = re.sub(r'//[^\n]*|/\*.*?\*/|"[^"\n]*"', "", header.read_text(), flags=re.DOTALL)
+        if header.name != "BasicTypes.h":
+            bare = re.sub(r"^\s*#.*", "", bare, flags=re.MULTILINE)
+        return set(re.findall(r"[A-Za-z_]\w*", bare))
 
 
 class PkgConfig(unittest.TestCase):

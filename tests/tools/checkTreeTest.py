@@ -244,8 +244,12 @@ class ExportedSymbolsTest(unittest.TestCase):
             (root / "include/vapp/text/CText.h").write_text("class CText {};\n")
             (root / "a.cpp").write_text(source)
             subprocess.run(["c++", "-shared", "-fPIC", "-o", str(root / "libvapp.so"), str(root / "a.cpp")], check=True)
-            shown = sorted(finding.what for finding in symbols.check(Tree(root), root))
+            (root / "toolkit/qt").mkdir(parents=True)
+            (root / "toolkit/qt/libvapp_qt.so").write_bytes((root / "libvapp.so").read_bytes())
+            findings = symbols.check(Tree(root), root)
+            shown = sorted(finding.what for finding in findings if finding.path == "libvapp.so")
         self.assertEqual(shown, ["shows gStray()", "shows vapp_text::CText()"])
+        self.assertEqual(len([finding for finding in findings if finding.path == "libvapp_qt.so"]), 2)
 
     def test_reads_the_export_table_of_a_dll(self):
         listing = ("Export Address Table -- Ordinal Base 1\n\t[   0] +base[   1] 1320 Export RVA\n\n"

@@ -1,4 +1,4 @@
-"""Exported symbols: the shared library shows what its exported headers declare, and nothing else.
+"""Exported symbols: the shared libraries show what their exported headers declare, and nothing else.
 
 What shows is what hosts come to lean on, and what can clash with a host's own copy of the same code. Every symbol must
 belong to a class, function or constant that an exported header names, and nothing from an internal namespace shows.
@@ -23,6 +23,11 @@ def check(tree, build):
     if library is None:
         return [Finding(str(build / "libvapp.so"), 0, "not there: its symbols can't be checked", f"ninja -C {build} vapp")]
     declared = words_of_exported_headers(tree)
+    adapter = build / "toolkit/qt/libvapp_qt.so"
+    return check_library(library, declared) + (check_library(adapter, declared) if adapter.exists() else [])
+
+
+def check_library(library, declared):
     findings = []
     for name in shown_by_dll(library) if library.suffix == ".dll" else shown_by_so(library):
         owner = owner_of(name, declared["namespaces"])
