@@ -2,7 +2,9 @@
 
 #include "host/Navigator.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -59,6 +61,23 @@ Navigator::~Navigator() {
 
 std::optional<std::string> Navigator::OpenFolder(const std::filesystem::path& folder) {
     return m_store.OpenFolder(folder);
+}
+
+std::optional<std::string> Navigator::ShowFolder(const std::filesystem::path& folder) {
+    const auto& designs = m_store.Designs();
+    auto found = std::find_if(designs.begin(), designs.end(), [&](const Design& design) {
+        std::error_code error;
+        return std::filesystem::equivalent(design.folder, folder, error);
+    });
+    if (found == designs.end()) {
+        if (auto failure = OpenFolder(folder)) return failure;
+        found = std::prev(designs.end());
+    }
+    const std::string name = found->name;
+    OnDatabaseChange(DatabaseChange::Libraries);
+    Populate();
+    m_browser->SetSelectedDesign(TextOf(name));
+    return std::nullopt;
 }
 
 void Navigator::CreateWindow(int width, int height, bool dark) {

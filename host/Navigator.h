@@ -32,6 +32,9 @@ public:
 
     /// Opens a folder as a design. Gives nothing on success, or else a sentence that says what failed.
     [[nodiscard]] std::optional<std::string> OpenFolder(const std::filesystem::path& folder);
+    /// Opens a folder while the window is there, and chooses its design; a folder that is open already is
+    /// only chosen. Gives nothing on success, or else a sentence that says what failed.
+    [[nodiscard]] std::optional<std::string> ShowFolder(const std::filesystem::path& folder);
     /// Makes frame and panes. Call once, when the application has its settings; afterwards scripts may add
     /// columns and filter types.
     void CreateWindow(int width, int height, bool dark);

@@ -1,16 +1,22 @@
+/// The window's parts that are Qt's alone, and what follows from the event loop.
+///
 /// The preview's bitmap stays with the shell: the pane shows it without owning it, so the old one goes only
 /// when the new one is in its place.
 
 #include "host/QtShell.h"
 
 #include <QAbstractEventDispatcher>
+#include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QFile>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <utility>
 
 #include "host/SymbolPainter.h"
+#include "host/WindowLayout.h"
+#include "vapp/celllist/TCellListView.h"
 #include "vapp/toolkit/WindowPlacement.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 #include "vapp/toolkit/qt/QtTheme.h"
@@ -25,6 +31,9 @@ constexpr int cnSettlingRounds = 10;
 
 /// Under this name the placement of the main window is kept.
 constexpr char csWindowPlace[] = "WindowPos";
+/// What is this program's own in the settings: which of its bars are shown, and where.
+constexpr char csHostSection[] = "Window";
+constexpr char csBars[] = "Bars";
 
 CStringU TextOf(const std::string& utf8) {
     return {utf8.c_str(), TextEncoding::Utf8Auto};
@@ -37,19 +46,99 @@ std::string CaptionOf(const CellViewName& name) {
 }  // namespace
 
 QtShell::QtShell(Navigator& navigator)
-    : m_navigator(navigator), m_watcher([this] {
+    : m_navigator(navigator),
+      m_watcher([this] {
           m_navigator.Rescan();
           m_watcher.Watch(m_navigator.Store());
-      }) {
+      }),
+      m_console(navigator.Interp()),
+      m_exit(navigator.Interp(), "exit",
+             [this](Tcl_Interp* interp, TclWords words) { return Exit(interp, words); }) {
     QtPeerFactory::Install();
     m_navigator.Commands().SetPreviewHandler([this](const PreviewRequest& request) { ShowPreview(request); });
 }
 
 QtShell::~QtShell() {
     if (m_wasShown) KeepPlace();
+    // The window may live on for a moment; the console in it has nothing to talk to any more.
+    delete m_dock;
     QObject::disconnect(m_idle);
     m_navigator.Commands().SetPreviewHandler(nullptr);
     m_navigator.Browser().SetPreview(true, CStringU(), nullptr);
+}
+
+QMainWindow* QtShell::Window() const {
+    return qobject_cast<QMainWindow*>(gWidgetOf(m_navigator.Frame()));
+}
+
+void QtShell::Equip(const TOsInfo* machine) {
+    QMainWindow* const window = Window();
+    if (window == nullptr) return;
+    gApplyTheme(m_navigator.Frame().IsDark());
+    m_menu = std::make_unique<MainMenu>(*window, m_navigator);
+    if (machine != nullptr) m_menu->SetMachine(*machine);
+    m_menu->SetOpenHandler([this] { m_watcher.Watch(m_navigator.Store()); });
+    AddConsole(*window);
+}
+
+void QtShell::AddConsole(QMainWindow& window) {
+    m_dock = new QDockWidget(QObject::tr("Tcl console"), &window);
+    m_dock->setObjectName(QStringLiteral("consoleDock"));
+    m_consolePane = new ConsolePane(m_console, m_dock);
+    m_dock->setWidget(m_consolePane);
+    window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
+    auto* const action = new QAction(QObject::tr("Tcl &console"), m_dock);
+    action->setCheckable(true);
+    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    QObject::connect(action, &QAction::triggered, m_dock, [this] { ToggleConsole(); });
+    // Hidden together with a window that is minimised it is still wanted.
+    QObject::connect(m_dock->toggleViewAction(), &QAction::toggled, action, &QAction::setChecked);
+    action->setChecked(true);
+    m_menu->AddView(*action);
+    const QByteArray bars = m_navigator.App().GetProfileString(csHostSection, csBars).GetString();
+    const bool isKept = !bars.isEmpty() && window.restoreState(QByteArray::fromBase64(bars));
+    if (!isKept) m_dock->setVisible(gHasRoomForConsole(window.width()));
+}
+
+// One key brings the keyboard to the console wherever it is, and from there away again.
+void QtShell::ToggleConsole() {
+    if (m_dock->isVisible() && m_consolePane->HasInputFocus()) {
+        m_dock->hide();
+        m_navigator.Browser().GetCellListView()->GetReport().SetFocus();
+        return;
+    }
+    m_dock->show();
+    m_dock->raise();
+    m_dock->activateWindow();
+    m_consolePane->FocusInput();
+    m_dock->toggleViewAction()->setChecked(true);
+}
+
+int QtShell::Exit(Tcl_Interp* interp, TclWords words) {
+    int status = 0;
+    if (words.size() > 2) {
+        Tcl_WrongNumArgs(interp, 1, words.data(), "?returnCode?");
+        return TCL_ERROR;
+    }
+    if (words.size() == 2 && Tcl_GetIntFromObj(interp, words[1], &status) != TCL_OK) return TCL_ERROR;
+    // The line that says so ends first: its interpreter, and what is kept at the end, are still needed.
+    m_exitStatus = status;
+    if (m_isRunning) QCoreApplication::exit(status);
+    return TCL_OK;
+}
+
+int QtShell::Run() {
+    if (m_exitStatus) return *m_exitStatus;
+    m_isRunning = true;
+    const int status = QApplication::exec();
+    m_isRunning = false;
+    return status;
+}
+
+// The keyboard belongs to the list that is the heart of it all, and no splitter's bar.
+void QtShell::FirstLook() {
+    m_navigator.FitPanes();
+    m_navigator.Browser().GetCellListView()->GetReport().SetFocus();
 }
 
 void QtShell::Show() {
@@ -58,7 +147,7 @@ void QtShell::Show() {
     m_idle = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                               qApp, [this] { m_navigator.Populate(); });
     m_navigator.Frame().ShowWindow(true);
-    m_navigator.FitPanes();
+    FirstLook();
     m_wasShown = true;
 }
 
@@ -77,6 +166,7 @@ void QtShell::RestorePlace() {
 void QtShell::KeepPlace() {
     const QWidget* const window = gWidgetOf(m_navigator.Frame());
     if (window == nullptr) return;
+    m_navigator.App().WriteProfileString(csHostSection, csBars, Window()->saveState().toBase64().constData());
     const bool isNormal = (window->windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) == 0;
     const QRect place = isNormal ? QRect(window->pos(), window->size()) : window->normalGeometry();
     gWriteWindowPlacement({{place.x(), place.y(), place.x() + place.width(), place.y() + place.height()},
@@ -85,14 +175,14 @@ void QtShell::KeepPlace() {
 }
 
 void QtShell::Tell(const CString& sentence) {
-    auto* const window = qobject_cast<QMainWindow*>(gWidgetOf(m_navigator.Frame()));
-    if (window != nullptr) window->statusBar()->showMessage(QString::fromUtf8(sentence.GetString()));
+    if (QMainWindow* const window = Window())
+        window->statusBar()->showMessage(QString::fromUtf8(sentence.GetString()));
 }
 
 std::optional<std::string> QtShell::Screenshot(const std::string& file) {
     gApplyTheme(m_navigator.Frame().IsDark());
     m_navigator.Frame().ShowWindow(true);
-    m_navigator.FitPanes();
+    FirstLook();
     for (int round = 0; round < cnSettlingRounds; ++round) {
         QApplication::processEvents();
         m_navigator.Populate();

@@ -1,15 +1,23 @@
 #pragma once
 /// Shows a Navigator on a screen by Qt, or off screen: pictures for the preview pane, refreshing when idle,
-/// watching the folders, screenshots. The only part of the host that knows widgets.
+/// watching the folders, menus, the console beside the panes, screenshots.
 
 #include <QImage>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "host/ConsolePane.h"
 #include "host/FolderWatcher.h"
+#include "host/MainMenu.h"
 #include "host/Navigator.h"
+#include "host/TclCommand.h"
+#include "host/TclConsole.h"
 #include "vapp/toolkit/qt/QtBitmap.h"
+
+class QAction;
+class QDockWidget;
+class QMainWindow;
 
 namespace navigator {
 
@@ -22,6 +30,14 @@ public:
     QtShell(const QtShell&) = delete;
     QtShell& operator=(const QtShell&) = delete;
 
+    /// Gives the window its menus and the console. Call once, when the window exists and before anything else
+    /// is done with it.
+    /// @param machine  what "About" tells of; null for nothing
+    void Equip(const TOsInfo* machine);
+    /// The menus, when they are there.
+    [[nodiscard]] MainMenu& Menu() { return *m_menu; }
+    /// Handles the user's input until the window is closed or a script says `exit`. Gives the exit status.
+    int Run();
     /// Puts the window where the last run left it, as far as the monitors of today have that place. Call
     /// before Show.
     void RestorePlace();
@@ -35,12 +51,24 @@ public:
     [[nodiscard]] std::optional<std::string> Screenshot(const std::string& file);
 
 private:
+    [[nodiscard]] QMainWindow* Window() const;
+    void AddConsole(QMainWindow& window);
+    void ToggleConsole();
+    int Exit(Tcl_Interp* interp, TclWords words);
+    void FirstLook();
     void KeepPlace();
     void ShowPreview(const PreviewRequest& request);
 
     Navigator& m_navigator;
     FolderWatcher m_watcher;
     QtBitmap m_picture;
+    TclConsole m_console;
+    std::unique_ptr<MainMenu> m_menu;
+    ConsolePane* m_consolePane = nullptr;  ///< The window's.
+    QDockWidget* m_dock = nullptr;         ///< The window's.
+    TclCommand m_exit;
+    std::optional<int> m_exitStatus;
+    bool m_isRunning = false;
     QMetaObject::Connection m_idle;
     bool m_wasShown = false;
 };

@@ -72,13 +72,16 @@ int RunStarted(NavigatorApp& app, const Options& options, const std::filesystem:
     if (const int status = gOpenFolders(navigator, options, sample)) return status;
     QtShell shell(navigator);
     if (const int status = gPrepareWindow(navigator, options)) return status;
+    shell.Equip(&app);
+    for (const std::string& folder : options.folders)
+        shell.Menu().Remember(folder);
     // A size that the user asks for counts more than that of the last run.
     if (!options.isSizeGiven) shell.RestorePlace();
     shell.Show();
     app.HideStartupWaitMessage();
     for (const CString& trouble : troubles)
         shell.Tell(trouble);
-    return QApplication::exec();
+    return shell.Run();
 }
 
 }  // namespace
@@ -133,6 +136,7 @@ int gTakePicture(const Options& options, const std::filesystem::path& sample, in
     if (const int status = gOpenFolders(navigator, options, sample)) return status;
     QtShell shell(navigator);
     if (const int status = gPrepareWindow(navigator, options)) return status;
+    shell.Equip(&app);
     const auto failure = shell.Screenshot(*options.screenshot);
     return failure ? gFail(*failure, cnFailureStatus) : EXIT_SUCCESS;
 }

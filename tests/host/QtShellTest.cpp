@@ -5,16 +5,19 @@
 
 #include <gmock/gmock.h>
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 #include <sstream>
 
 #include "host/Navigator.h"
 #include "host/NavigatorApp.h"
 #include "tests/host/TempFolder.h"
+#include "vapp/celllist/TCellListView.h"
 #include "vapp/text/ActiveCodePage.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 #include "vapp/toolkit/qt/QtProfileStore.h"
@@ -35,6 +38,7 @@ protected:
             EXPECT_FALSE(navigator.OpenFolder(test.m_folder.Path()));
             navigator.CreateWindow(600, height, false);
             navigator.LoadSetup();
+            shell.Equip(&app);
             shell.RestorePlace();
             shell.Show();
             QApplication::processEvents();
@@ -51,7 +55,12 @@ protected:
             QApplication::sendEvent(bar, &move);
             QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, grab);
         }
-        [[nodiscard]] QWidget* Window() { return gWidgetOf(navigator.Frame()); }
+        [[nodiscard]] QMainWindow* Window() {
+            return qobject_cast<QMainWindow*>(gWidgetOf(navigator.Frame()));
+        }
+        [[nodiscard]] QDockWidget* Console() {
+            return Window()->findChild<QDockWidget*>(QStringLiteral("consoleDock"));
+        }
 
         navigator::NavigatorApp app;
         Navigator navigator{app};
@@ -150,6 +159,65 @@ TEST_F(QtShellTest, APlaceOutsideOfAllMonitorsIsBroughtBack) {
     EXPECT_EQ(QSize(500, 600), run.Window()->size());
 }
 
+TEST_F(QtShellTest, TheConsoleIsWhereItWasAndHiddenIfItWas) {
+    {
+        Run first(*this);
+        EXPECT_FALSE(first.Console()->isVisible()) << "a narrow window belongs to the panes at first";
+        QTest::keyClick(first.Window(), Qt::Key_T, Qt::ControlModifier);
+        EXPECT_TRUE(first.Console()->isVisible());
+        first.Window()->addDockWidget(Qt::BottomDockWidgetArea, first.Console());
+        QApplication::processEvents();
+    }
+    {
+        Run second(*this);
+        EXPECT_TRUE(second.Console()->isVisible());
+        EXPECT_EQ(Qt::BottomDockWidgetArea, second.Window()->dockWidgetArea(second.Console()));
+        second.Console()->close();
+    }
+    Run third(*this);
+    EXPECT_FALSE(third.Console()->isVisible());
+}
+
+TEST_F(QtShellTest, OneKeyGoesToTheConsoleAndBack) {
+    Run run(*this);
+    run.Window()->activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(run.Window()->isActiveWindow(), 10'000);
+    QTest::keyClick(run.Window(), Qt::Key_T, Qt::ControlModifier);
+    QWidget* const input = run.Console()->findChild<QWidget*>(QStringLiteral("consoleInput"));
+    EXPECT_EQ(input, QApplication::focusWidget());
+    QTest::keyClick(input, Qt::Key_T, Qt::ControlModifier);
+    EXPECT_FALSE(run.Console()->isVisible());
+    EXPECT_NE(input, QApplication::focusWidget());
+    EXPECT_NE(nullptr, QApplication::focusWidget());
+}
+
+TEST_F(QtShellTest, AScriptEndsTheProgramWithItsStatus) {
+    Run run(*this);
+    EXPECT_EQ(TCL_ERROR, Tcl_Eval(run.navigator.Interp(), "exit some words"));
+    EXPECT_EQ(TCL_ERROR, Tcl_Eval(run.navigator.Interp(), "exit word"));
+    QTimer::singleShot(0, run.Window(), [&] {
+        EXPECT_EQ(TCL_OK, Tcl_Eval(run.navigator.Interp(), "exit 7; set ::reached 1"));
+    });
+    EXPECT_EQ(7, run.shell.Run());
+    EXPECT_STREQ("1", Tcl_GetVar(run.navigator.Interp(), "reached", TCL_GLOBAL_ONLY))
+        << "the line comes to its end first";
+}
+
+TEST_F(QtShellTest, AScriptMayEndTheProgramBeforeItsWindowIsThere) {
+    Run run(*this);
+    EXPECT_EQ(TCL_OK, Tcl_Eval(run.navigator.Interp(), "exit"));
+    EXPECT_EQ(0, run.shell.Run());
+}
+
+TEST_F(QtShellTest, TheListHasTheKeyboardAtFirst) {
+    Run run(*this);
+    run.Window()->activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(run.Window()->isActiveWindow(), 10'000);
+    QWidget* const list = gWidgetOf(run.navigator.Browser().GetCellListView()->GetReport());
+    ASSERT_NE(nullptr, QApplication::focusWidget());
+    EXPECT_TRUE(list == QApplication::focusWidget() || list->isAncestorOf(QApplication::focusWidget()));
+}
+
 TEST_F(QtShellTest, ASentenceForTheUserStandsInTheStatusLine) {
     Run run(*this);
     run.shell.Tell(
@@ -157,7 +225,7 @@ TEST_F(QtShellTest, ASentenceForTheUserStandsInTheStatusLine) {
         "ve words.");
     EXPECT_EQ(QString::fromUtf8("Na\xC3\xAF"
                                 "ve words."),
-              qobject_cast<QMainWindow*>(run.Window())->statusBar()->currentMessage());
+              run.Window()->statusBar()->currentMessage());
 }
 
 }  // namespace

@@ -1,0 +1,92 @@
+/// The two fields of the console, and the colours of what is in the upper one.
+
+#include "host/ConsolePane.h"
+
+#include <QFontDatabase>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+#include "host/ConsoleInput.h"
+
+namespace navigator {
+
+namespace {
+
+constexpr int cnMostLinesKept = 20'000;
+constexpr int cnWantedWidth = 400;
+constexpr int cnWantedHeight = 200;
+constexpr int cnMargin = 4;
+
+QString TextOf(const std::string& utf8) {
+    QString text = QString::fromStdString(utf8);
+    // A NUL would end what is copied in many programs.
+    return text.replace(QChar(0), QChar(0x2400));
+}
+
+}  // namespace
+
+ConsolePane::ConsolePane(TclConsole& console, QWidget* parent)
+    : QWidget(parent),
+      m_console(console),
+      m_output(new QPlainTextEdit(this)),
+      m_input(new ConsoleInput(console.History(), this)) {
+    setObjectName(QStringLiteral("console"));
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    m_output->setFont(fixed);
+    m_input->setFont(fixed);
+    m_output->setObjectName(QStringLiteral("consoleOutput"));
+    m_output->setAccessibleName(tr("Answers of Tcl commands"));
+    m_output->setReadOnly(true);
+    m_output->setUndoRedoEnabled(false);
+    m_output->setMaximumBlockCount(cnMostLinesKept);
+    // A read-only text gets no caret by itself; with one it can be selected by keys as well.
+    m_output->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_output->setTabChangesFocus(true);
+    m_output->setMinimumSize(1, 1);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(cnMargin, 0, cnMargin, cnMargin);
+    layout->setSpacing(cnMargin);
+    layout->addWidget(m_output, 1);
+    layout->addWidget(m_input);
+    setFocusProxy(m_input);
+    m_input->SetSendHandler([this](const QString& text) { Run(text); });
+}
+
+void ConsolePane::Run(const QString& text) {
+    Append(QStringLiteral("% ") + text, TInk::Sent);
+    const ConsoleAnswer answer = m_console.Run(text.toStdString());
+    if (!answer.output.empty()) Append(TextOf(answer.output), TInk::Written);
+    if (!answer.result.empty()) Append(TextOf(answer.result), answer.isError ? TInk::Error : TInk::Result);
+    QScrollBar* const bar = m_output->verticalScrollBar();
+    bar->setValue(bar->maximum());
+}
+
+void ConsolePane::FocusInput() {
+    m_input->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool ConsolePane::HasInputFocus() const {
+    return m_input->hasFocus();
+}
+
+QSize ConsolePane::sizeHint() const {
+    return {cnWantedWidth, cnWantedHeight};
+}
+
+// Whatever the user has selected stays selected: the text goes in by a cursor of its own.
+void ConsolePane::Append(const QString& text, TInk ink) {
+    QTextCharFormat format;
+    QFont font = m_output->font();
+    font.setBold(ink == TInk::Sent);
+    format.setFont(font);
+    if (ink == TInk::Error) format.setForeground(palette().color(QPalette::BrightText));
+    QTextCursor end(m_output->document());
+    end.movePosition(QTextCursor::End);
+    if (!m_output->document()->isEmpty()) end.insertBlock();
+    const bool endsLine = text.endsWith(QLatin1Char('\n'));
+    end.insertText(endsLine ? text.chopped(1) : text, format);
+}
+
+}  // namespace navigator
