@@ -35,6 +35,11 @@ public:
         const std::size_t start = m_starts[number];
         return {m_bytes.data() + start, m_starts[number + 1] - start - 1};
     }
+    /// All names in the order of their numbers, a NUL behind each: for looking through all at once. Valid
+    /// until the next name is added.
+    [[nodiscard]] std::string_view AllBytes() const { return {m_bytes.data(), m_bytes.size()}; }
+    /// Where each name begins in `AllBytes`, and the size of that behind the last one.
+    [[nodiscard]] std::span<const std::size_t> Starts() const { return m_starts; }
     /// The name as a text of the system.
     [[nodiscard]] CStringU Text(std::uint32_t number) const;
     /// Gives back what only `Intern` and `Find` need; neither may be called afterwards.

@@ -46,7 +46,8 @@ bool SubstringFilter::MayAskHost() const {
 void SubstringFilter::Apply(CellRows& rows) {
     if (m_text.IsEmpty()) return;
     for (Test& test : m_tests) {
-        if (test.role) test.answer.assign(rows.Names(*test.role).Count(), -1);
+        if (test.role)
+            test.answer = SearchNames(rows.Names(*test.role), m_text.PayloadView(), m_caseSensitive);
     }
     rows.Keep([this, &rows](std::size_t row) {
         return std::any_of(m_tests.begin(), m_tests.end(),
@@ -57,12 +58,13 @@ void SubstringFilter::Apply(CellRows& rows) {
 bool SubstringFilter::Matches(Test& test, const CellRows& rows, std::size_t row) const {
     if (!test.role) return test.column->MatchesFilter(rows.At(row), m_text, m_caseSensitive);
     const std::uint32_t number = rows.NumberOf(row, *test.role);
-    signed char& answer = test.answer[number];
-    if (answer < 0) {
+    NameAnswer& answer = test.answer[number];
+    if (answer == NameAnswer::Unknown) {
         const TLibCellView cell = OneName(*test.role, rows.Names(*test.role).Text(number));
-        answer = test.column->MatchesFilter(cell, m_text, m_caseSensitive) ? 1 : 0;
+        const bool matches = test.column->MatchesFilter(cell, m_text, m_caseSensitive);
+        answer = matches ? NameAnswer::Yes : NameAnswer::No;
     }
-    return answer != 0;
+    return answer == NameAnswer::Yes;
 }
 
 }  // namespace vapp_library_browser

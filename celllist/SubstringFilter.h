@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "celllist/CellRows.h"
+#include "celllist/NameSearch.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
 
 namespace vapp_library_browser {
@@ -26,8 +27,8 @@ public:
 private:
     struct Test {
         TCellNamesReportCtrl::TColumn* column = nullptr;
-        std::optional<NameRole> role;     ///< of a built-in column
-        std::vector<signed char> answer;  ///< by number of the name: 1 yes, 0 no, -1 not tested yet
+        std::optional<NameRole> role;    ///< of a built-in column
+        std::vector<NameAnswer> answer;  ///< by number of the name
     };
 
     [[nodiscard]] bool Matches(Test& test, const CellRows& rows, std::size_t row) const;

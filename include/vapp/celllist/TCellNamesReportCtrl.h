@@ -22,6 +22,7 @@
 #include <functional>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <set>
 #include <utility>
 #include <vector>
@@ -30,6 +31,8 @@
 #include "vapp/browser/TLibCellView.h"
 #include "vapp/text/CStringIU.h"
 #include "vapp/toolkit/CXTPReportControl.h"
+
+class CMenu;
 
 namespace vapp_library_browser {
 
@@ -285,6 +288,19 @@ public:
     /// Takes effect with the next population, colours with the next painting.
     void SetOptions(TOptions options) { m_options = std::move(options); }
 
+    /// First identifier of the names in the menu of the view filter.
+    static constexpr UINT cnBaseID = 43000;
+    /// Puts the names into a menu, in the order of the set, those of the filter checked, behind an item for
+    /// all of them. The menu's first item, which stands for them until then, goes; null does nothing.
+    void CreateViewNameFilterMenu(CMenu* menu, const std::set<CStringIU>& views) const;
+    /// Acts on the identifier that such a menu, of the same names, gave: turns a view of the filter on or
+    /// off, or shows all, and populates. False, with nothing done, for an identifier below those of the
+    /// names.
+    bool ProcessViewNameFilterMenu(int id, const std::set<CStringIU>& views);
+    /// Runs one of the list's own commands (TCellListCommand); those that change what is listed populate at
+    /// once. False, with nothing done, for any other: a host's, a view's name.
+    bool OnMenuCommand(UINT command);
+
     [[nodiscard]] TCellListView& GetPane() const { return m_pane; }
 
     void OnColumnsChanged(int change, CXTPReportColumn* column) override;
@@ -293,6 +309,9 @@ public:
 protected:
     /// On neither a row nor a header: empties the pane's sub-string.
     void OnDoubleClick(CPoint point) override;
+    /// Shows the menu of the rows, or that of the view names over the header of these; over any other header
+    /// none, nor without a design or where the host doesn't answer with its triples.
+    void OnContextMenu(CWnd& from, CPoint screen) override;
 
 private:
     class SavedView;
@@ -312,6 +331,12 @@ private:
     void SerializeOptions(bool write);
     void SerializeColumns(bool write);
     void AddBuiltInColumns();
+    [[nodiscard]] std::optional<std::set<CStringIU>> AskViewNames() const;
+    void ShowViewNameMenu(CPoint screen, const std::set<CStringIU>& views);
+    void ShowCellMenu(CPoint screen, const std::set<CStringIU>& views);
+    void CheckCellMenu(CMenu& menu) const;
+    void UseSetup(TColSetup setup);
+    void EditExcludeViews();
     [[nodiscard]] TColCellName* FindCellColumn() const;
 
     TCellListView& m_pane;

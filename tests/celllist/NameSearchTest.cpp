@@ -1,0 +1,90 @@
+#include "celllist/NameSearch.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+#include <string>
+
+#include "text/Search.h"
+
+namespace {
+
+using namespace vapp_library_browser;
+using TAnswers = std::vector<NameAnswer>;
+constexpr auto cnYes = NameAnswer::Yes;
+constexpr auto cnNo = NameAnswer::No;
+constexpr auto cnUnknown = NameAnswer::Unknown;
+
+NameTable TableOf(const std::vector<std::string>& names) {
+    NameTable table;
+    for (const std::string& name : names)
+        table.Intern(name);
+    return table;
+}
+
+TEST(NameSearchTest, AnswersForEachName) {
+    const NameTable table = TableOf({"inv", "nand2", "INVx", ""});
+    EXPECT_EQ(SearchNames(table, "inv", false), (TAnswers{cnYes, cnNo, cnYes, cnNo}));
+    EXPECT_EQ(SearchNames(table, "INV", false), (TAnswers{cnYes, cnNo, cnYes, cnNo}));
+    EXPECT_EQ(SearchNames(table, "inv", true), (TAnswers{cnYes, cnNo, cnNo, cnNo}));
+    EXPECT_EQ(SearchNames(table, "n", true), (TAnswers{cnYes, cnYes, cnNo, cnNo}));
+    EXPECT_EQ(SearchNames(table, "2", false), (TAnswers{cnNo, cnYes, cnNo, cnNo}));
+}
+
+TEST(NameSearchTest, FindsNothingAcrossTheEndOfAName) {
+    const NameTable table = TableOf({"ab", "cd"});
+    EXPECT_EQ(SearchNames(table, "bc", false), (TAnswers{cnNo, cnNo}));
+}
+
+TEST(NameSearchTest, FoldsLettersAlone) {
+    const NameTable table = TableOf({"a[b", "a{b", "a@b", "a`b"});
+    EXPECT_EQ(SearchNames(table, "[", false), (TAnswers{cnYes, cnNo, cnNo, cnNo}));
+    EXPECT_EQ(SearchNames(table, "@", false), (TAnswers{cnNo, cnNo, cnYes, cnNo}));
+}
+
+TEST(NameSearchTest, LeavesWhatIsNotAsciiToOthers) {
+    const NameTable table = TableOf({"abc",
+                                     "\xC3\xA4"
+                                     "bc",
+                                     "x"});
+    EXPECT_EQ(SearchNames(table, "b", false), (TAnswers{cnYes, cnUnknown, cnNo}));
+    EXPECT_EQ(SearchNames(table, "b", true), (TAnswers{cnYes, cnUnknown, cnNo}));
+    EXPECT_EQ(SearchNames(table, "\xC3\xA4", false), (TAnswers{cnUnknown, cnUnknown, cnUnknown}));
+    EXPECT_EQ(SearchNames(table, "", false), (TAnswers{cnUnknown, cnUnknown, cnUnknown}));
+    EXPECT_EQ(SearchNames(NameTable(), "x", false), TAnswers());
+}
+
+// Beside the search of one name at a time, over names and texts of few letters, so that there are many hits.
+TEST(NameSearchTest, AgreesWithTheSearchOfEachName) {
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const auto word = [&random](std::size_t longest) {
+        static constexpr const char* csLetters[] = {"a", "A", "b", "B", "_", "0", "[", "\xC3\xA4"};
+        std::string text;
+        for (std::size_t left = random() % (longest + 1); left > 0; --left)
+            text += csLetters[random() % 40 < 39 ? random() % 7 : 7];
+        return text;
+    };
+    for (int round = 0; round < 300; ++round) {
+        std::vector<std::string> names(random() % 60);
+        for (std::string& name : names)
+            name = word(9);
+        const NameTable table = TableOf(names);
+        const std::string text = word(3);
+        for (const bool caseSensitive : {false, true}) {
+            const TAnswers answers = SearchNames(table, text, caseSensitive);
+            ASSERT_EQ(answers.size(), table.Count());
+            for (std::uint32_t number = 0; number < table.Count(); ++number) {
+                if (answers[number] == cnUnknown) continue;
+                const char* name = table.At(number).data();
+                const bool holds = caseSensitive ? std::strstr(name, text.c_str()) != nullptr
+                                                 : vapp_text::FindTextNoCaseU(name, text.c_str()) >= 0;
+                ASSERT_EQ(answers[number] == cnYes, holds) << name << " / " << text;
+            }
+        }
+    }
+}
+
+}  // namespace
