@@ -20,13 +20,8 @@ int ToIndex(std::size_t found) {
 
 }  // namespace
 
-int CString::Compare(const char* text) const noexcept {
-    return View().compare(ViewOf(text));
-}
-
-int CString::CompareNoCase(const char* text) const noexcept {
+int CString::CompareFolded(std::string_view right) const noexcept {
     const std::string_view left = View();
-    const std::string_view right = ViewOf(text);
     const std::size_t common = std::min(left.size(), right.size());
     for (std::size_t i = 0; i < common; ++i) {
         const unsigned a = FoldedByte(left[i]);

@@ -48,6 +48,16 @@ TEST(CStringArray, FindGivesTheFirstIndex) {
     EXPECT_EQ(FindInArray({}, ""), -1);
 }
 
+// Quoted lists yield such texts.
+TEST(CStringArray, ATextWithANulInItIsFound) {
+    const CString ab("a\0b", 3);
+    const CStringArray array{"a", CString("A\0B", 3), ab};
+    EXPECT_EQ(FindInArray(array, ab), 2);
+    EXPECT_EQ(FindInArrayNoCase(array, ab), 1);
+    EXPECT_EQ(FindInArray(array, CString("a\0", 2)), -1);
+    EXPECT_EQ(FindInArrayNoCase(array, "a"), 0);
+}
+
 TEST(CStringArray, CompareFoldsAsciiLettersOnly) {
     EXPECT_EQ(FindInArrayNoCase({"\xC9"}, "\xE9"), -1);
 }
@@ -67,13 +77,19 @@ TEST(CStringArray, NoElementsAreLeftAlone) {
     EXPECT_TRUE(array.IsEmpty());
 }
 
+std::string HostileBytesAndNuls(std::mt19937& random) {
+    std::string bytes = text_test::HostileBytes(random, 3);
+    bytes.insert(text_test::UpTo(random, bytes.size()), text_test::UpTo(random, 1), '\0');
+    return bytes + text_test::HostileBytes(random, 1);
+}
+
 // Equal texts may come out in any order: only that they are all there, and in order, is promised.
 TEST(CStringArray, SortingKeepsEveryTextAndOrdersThemByTheCompare) {
     std::mt19937 random = text_test::SeededRandom();
     for (int round = 0; round < 300; ++round) {
         CStringArray array;
         for (std::size_t left = text_test::UpTo(random, 60); left > 0; --left)
-            array.Add(CString(text_test::HostileBytes(random, 3)));
+            array.Add(CString(HostileBytesAndNuls(random)));
         std::vector<CString> expected(array.begin(), array.end());
         std::sort(expected.begin(), expected.end());
 

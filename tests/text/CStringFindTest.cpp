@@ -22,6 +22,23 @@ TEST(CStringFind, CompareGoesByUnsignedBytes) {
     EXPECT_NE(CString("\xC3\x89").CompareNoCase("\xC3\xA9"), 0);
 }
 
+// One order with ==: a text with a NUL in it is equal to itself and to nothing shorter.
+TEST(CStringFind, CompareTakesAllBytesOfBothTexts) {
+    const CString ab("a\0b", 3);
+    const CString capital("A\0B", 3);
+    const CString ac("a\0c", 3);
+    EXPECT_EQ(ab.Compare(ab), 0);
+    EXPECT_LT(ab.Compare(ac), 0);
+    EXPECT_GT(ac.Compare(ab), 0);
+    EXPECT_GT(ab.Compare(CString("a")), 0);
+    EXPECT_GT(ab.Compare("a"), 0) << "a C string ends at its NUL";
+    EXPECT_LT(CString("a").Compare(ab), 0);
+    EXPECT_EQ(ab.CompareNoCase(capital), 0);
+    EXPECT_LT(capital.CompareNoCase(ac), 0);
+    EXPECT_GT(ac.CompareNoCase(capital), 0);
+    EXPECT_GT(ab.CompareNoCase("A"), 0);
+}
+
 TEST(CStringFind, FindsFromAStart) {
     const CString text("abcabc");
     EXPECT_EQ(text.Find('b'), 1);

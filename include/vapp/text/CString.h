@@ -5,8 +5,10 @@
 /// type of the system (that is CStringU): it knows no encoding, and its case operations change ASCII letters
 /// only.
 ///
-/// The surprise: out-of-range arguments never fail. An index is clamped to the text, a negative count is
-/// none, a null pointer is empty text.
+/// The surprises: out-of-range arguments never fail. An index is clamped to the text, a negative count is
+/// none, a null pointer is empty text. And printf goes by the C library, whose real numbers have the decimal
+/// point of the host's locale: for numbers that a file or another program reads take vapp_text's number
+/// formats.
 #pragma once
 
 #include <atomic>
@@ -100,10 +102,15 @@ public:
     friend CString operator+(const char* left, const CString& right) { return CString(left) + right; }
     friend CString operator+(char left, const CString& right) { return CString(left) + right; }
 
-    /// Order of the bytes as unsigned numbers; below, equal to or above 0.
-    [[nodiscard]] int Compare(const char* text) const noexcept;
+    /// Order of the bytes as unsigned numbers; below, equal to or above 0. All bytes of this text count, and
+    /// all of the other; of a C string those to its NUL. So it is one order with that of == and <=>.
+    [[nodiscard]] int Compare(const CString& other) const noexcept { return View().compare(other.View()); }
+    [[nodiscard]] int Compare(const char* text) const noexcept { return View().compare(ViewOf(text)); }
     /// The same with ASCII letters folded.
-    [[nodiscard]] int CompareNoCase(const char* text) const noexcept;
+    [[nodiscard]] int CompareNoCase(const CString& other) const noexcept {
+        return CompareFolded(other.View());
+    }
+    [[nodiscard]] int CompareNoCase(const char* text) const noexcept { return CompareFolded(ViewOf(text)); }
     friend bool operator==(const CString& left, const CString& right) noexcept {
         return left.View() == right.View();
     }
@@ -204,6 +211,7 @@ private:
     void Release() noexcept;
     void SetLength(int length) noexcept;
     void MakeWritable(std::size_t capacity, bool grow);
+    [[nodiscard]] int CompareFolded(std::string_view other) const noexcept;
     void ReplaceRange(int first, int count, std::string_view text);
     CString& KeepRange(std::size_t first, std::size_t behind);
     CString& TrimSet(std::string_view set, bool left, bool right);
