@@ -10,6 +10,10 @@ unsigned gGetActiveCodePage() {
     return vapp_platform::ActiveCodePage();
 }
 
+unsigned gGetSystemCodePage() {
+    return vapp_platform::SystemCodePage();
+}
+
 void gSetActiveCodePage(unsigned codePage) {
     vapp_platform::SetActiveCodePage(codePage);
 }

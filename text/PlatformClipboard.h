@@ -13,9 +13,9 @@ namespace vapp_platform {
 /// True where the system has a clipboard of its own. Otherwise the other calls fail.
 [[nodiscard]] bool HasSystemClipboard() noexcept;
 
-/// Replaces what is on the clipboard by one text in two forms, UTF-16 and the active code page; a NUL is put
-/// behind each. False if the clipboard can't be had or doesn't take both. To be called on a thread that the
-/// system lets open the clipboard.
+/// Replaces what is on the clipboard by one text in two forms, UTF-16 and the system's code page; a NUL is
+/// put behind each. False if the clipboard can't be had or doesn't take both. To be called on a thread that
+/// the system lets open the clipboard.
 [[nodiscard]] bool SetSystemClipboardText(std::u16string_view wide, std::string_view narrow) noexcept;
 
 /// The UTF-16 text on the clipboard, up to its NUL; empty where there is none or it can't be had.

@@ -33,6 +33,9 @@ inline constexpr unsigned cnCodePageUtf8 = 65001;
 /// otherwise the system's. Where the system names its encodings by locale, UTF-8 counts as 65001.
 [[nodiscard]] unsigned ActiveCodePage() noexcept;
 
+/// The number of the system's own code page, whatever was set: what other programs take narrow text for.
+[[nodiscard]] unsigned SystemCodePage() noexcept;
+
 /// Sets the active code page for the whole process, for hosts that know better and for tests; 0 returns to
 /// the system's own. May be called from any thread.
 void SetActiveCodePage(unsigned codePage) noexcept;

@@ -1,10 +1,12 @@
 /// @file
 /// Which clipboard, and the text's way into its two forms.
 ///
-/// NATIVE: one form is in the active code page.
+/// NATIVE: one form is in the system's code page, not in the active one: it is for other programs, which know
+/// nothing of what the host has set for itself.
 #include "vapp/toolkit/Clipboard.h"
 
 #include "text/PlatformClipboard.h"
+#include "text/PlatformText.h"
 #include "toolkit/MemoryClipboard.h"
 #include "vapp/toolkit/Peer.h"
 
@@ -32,7 +34,7 @@ ClipboardPeer& CurrentClipboard() {
 }  // namespace
 
 bool SetClipboardText(const CStringU& text) {
-    return CurrentClipboard().SetText(text.ToWide(), text.ToAnsi().View());
+    return CurrentClipboard().SetText(text.ToWide(), text.ToAnsi(vapp_platform::SystemCodePage()).View());
 }
 
 CStringU GetClipboardText() {

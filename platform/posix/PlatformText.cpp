@@ -184,10 +184,14 @@ int CompareAsciiNoCase(const char* a, const char* b) noexcept {
     return plain != nullptr ? strcasecmp_l(a, b, plain) : CompareInNewPlainLocale(a, b);
 }
 
-unsigned ActiveCodePage() noexcept {
+unsigned SystemCodePage() noexcept {
     static const unsigned ofLocale = CodePageOfLocale();
+    return ofLocale;
+}
+
+unsigned ActiveCodePage() noexcept {
     const unsigned chosen = activeCodePage.load(std::memory_order_relaxed);
-    return chosen != 0 ? chosen : ofLocale;
+    return chosen != 0 ? chosen : SystemCodePage();
 }
 
 void SetActiveCodePage(unsigned codePage) noexcept {

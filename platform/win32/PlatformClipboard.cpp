@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace vapp_platform {
 
@@ -29,24 +30,55 @@ private:
     bool m_open;
 };
 
+// A block's memory, held in its place while this lives.
+class LockedBlock {
+public:
+    explicit LockedBlock(HGLOBAL block) noexcept : m_block(block), m_memory(GlobalLock(block)) {}
+    ~LockedBlock() {
+        if (m_memory != nullptr) GlobalUnlock(m_block);
+    }
+    LockedBlock(const LockedBlock&) = delete;
+    LockedBlock& operator=(const LockedBlock&) = delete;
+    /// Null where it can't be had.
+    [[nodiscard]] char* Bytes() const noexcept { return static_cast<char*>(m_memory); }
+
+private:
+    HGLOBAL m_block;
+    void* m_memory;
+};
+
 // The system's memory, as bytes. The flag GMEM_DDESHARE is 0x2000; old readers of the clipboard ask for it.
 constexpr UINT cnClipboardMemory = GMEM_MOVEABLE | 0x2000;
 
 template <typename Unit>
-bool Put(UINT format, std::basic_string_view<Unit> text) noexcept {
+bool Fill(HGLOBAL block, std::basic_string_view<Unit> text) noexcept {
+    const LockedBlock memory(block);
+    if (memory.Bytes() == nullptr) return false;
     const std::size_t bytes = text.size() * sizeof(Unit);
-    const HGLOBAL block = GlobalAlloc(cnClipboardMemory, bytes + sizeof(Unit));
+    if (bytes > 0) std::memcpy(memory.Bytes(), text.data(), bytes);
+    std::memset(memory.Bytes() + bytes, 0, sizeof(Unit));
+    return true;
+}
+
+template <typename Unit>
+bool Put(UINT format, std::basic_string_view<Unit> text) noexcept {
+    const HGLOBAL block = GlobalAlloc(cnClipboardMemory, (text.size() + 1) * sizeof(Unit));
     if (block == nullptr) return false;
-    void* const memory = GlobalLock(block);
-    if (memory != nullptr) {
-        std::memcpy(memory, text.data(), bytes);
-        std::memset(static_cast<char*>(memory) + bytes, 0, sizeof(Unit));
-        GlobalUnlock(block);
-        // From here on the block is the system's.
-        if (SetClipboardData(format, block) != nullptr) return true;
-    }
+    // Once the clipboard has taken it, the block is the system's.
+    if (Fill(block, text) && SetClipboardData(format, block) != nullptr) return true;
     GlobalFree(block);
     return false;
+}
+
+// Another program has filled the block, perhaps without a NUL, and as large as it liked.
+std::u16string TextOf(HGLOBAL block) {
+    const LockedBlock memory(block);
+    if (memory.Bytes() == nullptr) return {};
+    const std::size_t room = GlobalSize(block) / sizeof(char16_t);
+    std::u16string text(room, u'\0');
+    std::memcpy(text.data(), memory.Bytes(), room * sizeof(char16_t));
+    text.resize(std::min(text.find(u'\0'), room));
+    return text;
 }
 
 }  // namespace
@@ -69,15 +101,11 @@ std::u16string GetSystemClipboardText() {
     if (!clipboard.IsOpen()) return {};
     const HGLOBAL block = GetClipboardData(CF_UNICODETEXT);
     if (block == nullptr) return {};
-    const void* const memory = GlobalLock(block);
-    if (memory == nullptr) return {};
-    // Another program has filled it, perhaps without a NUL.
-    const std::size_t room = GlobalSize(block) / sizeof(char16_t);
-    std::u16string text(room, u'\0');
-    std::memcpy(text.data(), memory, room * sizeof(char16_t));
-    GlobalUnlock(block);
-    text.resize(std::min(text.find(u'\0'), room));
-    return text;
+    try {
+        return TextOf(block);
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
 }
 
 }  // namespace vapp_platform

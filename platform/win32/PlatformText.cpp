@@ -65,9 +65,13 @@ int CompareAsciiNoCase(const char* a, const char* b) noexcept {
     }
 }
 
+unsigned SystemCodePage() noexcept {
+    return GetACP();
+}
+
 unsigned ActiveCodePage() noexcept {
     const unsigned chosen = activeCodePage.load(std::memory_order_relaxed);
-    return chosen != 0 ? chosen : GetACP();
+    return chosen != 0 ? chosen : SystemCodePage();
 }
 
 void SetActiveCodePage(unsigned codePage) noexcept {

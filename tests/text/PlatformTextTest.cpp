@@ -157,6 +157,15 @@ TEST(PlatformText, EveryByteAndUnitConvertsWithoutFailing) {
     }
 }
 
+TEST(PlatformText, TheSystemsCodePageStaysWhateverIsSet) {
+    const unsigned ofSystem = vapp_platform::SystemCodePage();
+    EXPECT_EQ(ofSystem, ActiveCodePage());
+    for (const unsigned active : {1251U, 1252U}) {
+        const text_test::TCodePageGuard guard(active);
+        EXPECT_EQ(vapp_platform::SystemCodePage(), ofSystem);
+    }
+}
+
 TEST(PlatformText, ActiveCodePageCanBeSetAndReturned) {
     const unsigned own = ActiveCodePage();
     EXPECT_NE(own, 0U);

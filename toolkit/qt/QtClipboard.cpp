@@ -1,19 +1,35 @@
 /// @file
-/// Two formats at once: plain text has one type with a character set in its name and one without, and readers
-/// that know the first prefer it.
+/// Both forms at once, each under a type that names its character set.
+///
+/// The surprise: the type without a name has UTF-8 too. On X11 Qt makes of its bytes what most programs ask
+/// for, and takes them for UTF-8 whatever the locale; Latin-1, for those that ask for that, Qt makes itself.
 #include "toolkit/qt/QtClipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QString>
 #include <memory>
+
+#include "vapp/text/ActiveCodePage.h"
 
 namespace vapp_qt {
 
 namespace {
 
 constexpr char csUnicodeType[] = "text/plain;charset=utf-8";
-constexpr char csNarrowType[] = "text/plain";
+constexpr char csUnnamedType[] = "text/plain";
+
+// NATIVE: what the narrow form is in.
+QString NarrowType(unsigned codePage) {
+    const QString type = QStringLiteral("text/plain;charset=");
+    if (codePage == cnUtf8CodePage) return csUnicodeType;
+    if (codePage > 28590 && codePage <= 28590 + 16) {
+        return type + QStringLiteral("iso-8859-%1").arg(codePage - 28590);
+    }
+    if (codePage / 10 == 125) return type + QStringLiteral("windows-%1").arg(codePage);
+    return type + QStringLiteral("cp%1").arg(codePage);
+}
 
 // Without an application object there is no clipboard, and asking for it would end the process.
 QClipboard* DesktopClipboard() {
@@ -29,13 +45,15 @@ bool QtClipboard::SetText(std::u16string_view wide, std::string_view narrow) {
     if (clipboard == nullptr) return false;
     const QByteArray unicodeForm = QStringView(wide).toUtf8();
     const QByteArray narrowForm(narrow.data(), static_cast<qsizetype>(narrow.size()));
+    const QString narrowType = NarrowType(gGetSystemCodePage());
     auto data = std::make_unique<QMimeData>();
+    data->setData(narrowType, narrowForm);
     data->setData(csUnicodeType, unicodeForm);
-    data->setData(csNarrowType, narrowForm);
+    data->setData(csUnnamedType, unicodeForm);
     clipboard->setMimeData(data.release());  // the clipboard takes it over
     const QMimeData* const taken = clipboard->mimeData();
     return taken != nullptr && taken->data(csUnicodeType) == unicodeForm &&
-           taken->data(csNarrowType) == narrowForm;
+           (narrowType == csUnicodeType || taken->data(narrowType) == narrowForm);
 }
 
 std::u16string QtClipboard::GetText() const {

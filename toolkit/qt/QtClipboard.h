@@ -6,8 +6,8 @@
 
 namespace vapp_qt {
 
-/// Offers a text in two formats. Unicode goes as UTF-8, so that half a surrogate pair becomes a question
-/// mark.
+/// Offers a text in two forms. Unicode goes as UTF-8, so that half a surrogate pair becomes a question mark;
+/// the narrow form is expected in the system's code page, and where that is UTF-8 the two are one.
 class QtClipboard final : public ClipboardPeer {
 public:
     [[nodiscard]] bool SetText(std::u16string_view wide, std::string_view narrow) override;

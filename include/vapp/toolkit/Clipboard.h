@@ -11,7 +11,9 @@
 #include "vapp/Export.h"
 #include "vapp/text/CStringU.h"
 
-/// Puts a text on the clipboard, as Unicode and in the active code page. True if both were taken.
+/// Puts a text on the clipboard, as Unicode and in the system's code page, which other programs expect
+/// whatever code page is the active one here. True if both were taken. Half a surrogate pair survives only
+/// where the clipboard holds UTF-16: a toolkit whose clipboard holds UTF-8 makes U+FFFD of it.
 VAPP_EXPORT bool SetClipboardText(const CStringU& text);
 
 /// The Unicode text on the clipboard; empty text for none, and for any failure.

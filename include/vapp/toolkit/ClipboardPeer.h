@@ -15,7 +15,7 @@ public:
     ClipboardPeer& operator=(const ClipboardPeer&) = delete;
     virtual ~ClipboardPeer();
 
-    /// Replaces what is on the clipboard by a text in both forms: UTF-16, and the active code page for
+    /// Replaces what is on the clipboard by a text in both forms: UTF-16, and the system's code page for
     /// programs that know no other. False if it could not be put there.
     [[nodiscard]] virtual bool SetText(std::u16string_view wide, std::string_view narrow) = 0;
     /// The Unicode text on the clipboard, empty for none.

@@ -10,6 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "tests/text/TextHelpers.h"
+#include "vapp/toolkit/Clipboard.h"
+
 namespace {
 
 using vapp_platform::GetSystemClipboardText;
@@ -57,6 +60,24 @@ TEST_F(PlatformClipboardTest, BothFormatsEndWithANul) {
     EXPECT_EQ(std::memcmp(wide.data(), u"a\u00e9\u4e2d", 8), 0);
     EXPECT_EQ(std::memcmp(narrow.data(), "a\xE9?", 4), 0);
     EXPECT_EQ(GetSystemClipboardText(), u"a\u00e9\u4e2d");
+}
+
+TEST_F(PlatformClipboardTest, TextsMayBeNoneAtAll) {
+    ASSERT_TRUE(SetSystemClipboardText({}, {}));
+    EXPECT_EQ(GetSystemClipboardText(), u"");
+    ASSERT_GE(BytesOf(CF_TEXT).size(), 1U);
+    EXPECT_EQ(BytesOf(CF_TEXT)[0], '\0');
+}
+
+// What other programs paste, by the whole way from a text.
+TEST_F(PlatformClipboardTest, TheNarrowFormIsInTheSystemsCodePage) {
+    const CStringU text(u"a\u00e9");
+    const CString expected = text.ToAnsi(GetACP());
+    for (const unsigned active : {0U, 65001U, 1251U, 4711U}) {
+        const text_test::TCodePageGuard guard(active);
+        ASSERT_TRUE(SetClipboardText(text));
+        EXPECT_STREQ(BytesOf(CF_TEXT).c_str(), expected.GetString()) << active;
+    }
 }
 
 TEST_F(PlatformClipboardTest, ASecondTextReplacesTheFirst) {
