@@ -5,9 +5,10 @@
 /// stands.
 ///
 /// ASCII characters are bits of two words, so that the usual sets (",", " \t") cost one test a character; the
-/// others are few and are looked through.
+/// others are sorted, each there once, so that a set of any size and of any repetitions is asked quickly.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -26,14 +27,14 @@ public:
             const char16_t unit = DecodeNext(payload);
             Add(folded ? FoldChar(unit) : unit);
         }
+        std::sort(m_others.begin(), m_others.end());
+        m_others.erase(std::unique(m_others.begin(), m_others.end()), m_others.end());
     }
 
     [[nodiscard]] bool Holds(char16_t unit) const noexcept {
         if (unit < 0x80U) return ((m_ascii[unit / cnBits] >> (unit % cnBits)) & 1U) != 0;
-        return m_others.find(unit) != std::u16string::npos;
+        return std::binary_search(m_others.begin(), m_others.end(), unit);
     }
-    /// True where every character of the set is ASCII.
-    [[nodiscard]] bool IsAscii() const noexcept { return m_others.empty(); }
 
 private:
     static constexpr unsigned cnBits = 64;

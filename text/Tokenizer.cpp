@@ -20,12 +20,13 @@ std::int64_t TTokenizer::Skip(std::int64_t from) const noexcept {
 }
 
 std::int64_t TTokenizer::SkipSeparators(std::int64_t from) const noexcept {
-    return Skip<true>(from);
+    const std::int64_t length = m_text.GetByteLength();
+    const std::int64_t at = Skip<true>(std::clamp<std::int64_t>(from, 0, length));
+    return m_text.Payload()[at] == '\0' ? length : at;
 }
 
 CStringU TTokenizer::NextToken(std::int64_t& pos) const {
-    const std::int64_t length = m_text.GetByteLength();
-    const std::int64_t start = SkipSeparators(std::clamp<std::int64_t>(pos, 0, length));
+    const std::int64_t start = SkipSeparators(pos);
     // The character at the start is no separator, so that a token is never empty.
     const std::int64_t end = Skip<false>(start);
     pos = SkipSeparators(end);

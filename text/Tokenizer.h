@@ -1,9 +1,11 @@
 /// @file
 /// Splitting a text at separators.
 ///
-///     for (std::int64_t pos = 0; pos < tokenizer.GetByteLength();) use(tokenizer.NextToken(pos));
+///     std::int64_t pos = tokenizer.SkipSeparators(0);
+///     while (pos < tokenizer.GetByteLength()) use(tokenizer.NextToken(pos));
 ///
-/// or ForEachToken, which is that loop. For texts that people wrote or settings that were joined.
+/// or ForEachToken, which is that loop. Begun at 0 instead, it makes one empty token of a text of separators
+/// alone. For texts that people wrote or settings that were joined.
 /// (CString::Tokenize does the same to bytes.)
 ///
 /// A run of separators counts as one, those at the ends count as none: no token is ever empty. Blanks are
@@ -28,10 +30,12 @@ public:
           m_fold(!caseSensitive) {}
 
     /// The next token at or behind the byte offset `pos`, which moves behind the token and the separators
-    /// that follow it. When no token is left: empty text, and `pos` is the text's end. An offset outside of
-    /// the text counts as the nearer end.
+    /// that follow it. When no token is left: empty text, and `pos` is the text's end; a NUL inside of the
+    /// text counts as that, so that every loop ends. An offset outside of the text counts as the nearer end.
     [[nodiscard]] CStringU NextToken(std::int64_t& pos) const;
 
+    /// The first character at or behind an offset that is no separator; the text's end for none.
+    [[nodiscard]] std::int64_t SkipSeparators(std::int64_t from) const noexcept;
     /// The end that `pos` reaches.
     [[nodiscard]] std::int64_t GetByteLength() const noexcept { return m_text.GetByteLength(); }
 
@@ -49,7 +53,6 @@ private:
     }
     template <bool Separators>
     [[nodiscard]] std::int64_t Skip(std::int64_t from) const noexcept;
-    [[nodiscard]] std::int64_t SkipSeparators(std::int64_t from) const noexcept;
 
     CStringU m_text;
     CharSet m_separators;

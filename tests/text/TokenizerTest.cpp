@@ -119,6 +119,44 @@ TEST(Tokenizer, RandomTextsAgreeWithPlainUtf16) {
     }
 }
 
+TEST(Tokenizer, ATextOfSeparatorsAloneHasNoTokenToBeginWith) {
+    const TTokenizer tokenizer(",,", ",");
+    EXPECT_EQ(tokenizer.SkipSeparators(0), 2);
+    std::int64_t pos = 0;
+    EXPECT_EQ(tokenizer.NextToken(pos), CStringU());
+    EXPECT_EQ(pos, 2);
+    EXPECT_EQ(TTokenizer(",,a", ",").SkipSeparators(0), 2);
+    EXPECT_EQ(TTokenizer("a", ",").SkipSeparators(-5), 0);
+    EXPECT_EQ(TTokenizer("a", ",").SkipSeparators(99), 1);
+}
+
+// Such a text can't be assigned, but it can be declared ASCII without a look at it.
+TEST(Tokenizer, ANulInsideOfATextIsItsEnd) {
+    const CStringU text(CString("a\0b,c", 5), CStringU::TAscii());
+    ASSERT_EQ(text.GetByteLength(), 5);
+    EXPECT_EQ(Tokens(text, ","), TList{u"a"});
+    EXPECT_EQ(Tokens(CStringU(CString(",\0,", 3), CStringU::TAscii()), ","), TList{});
+    const TTokenizer tokenizer(text, ",");
+    std::int64_t pos = 1;
+    EXPECT_EQ(tokenizer.NextToken(pos), CStringU());
+    EXPECT_EQ(pos, 5);
+}
+
+TEST(Tokenizer, SetsOfManyCharactersAgreeWithPlainUtf16) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 50; ++round) {
+        std::u16string separators;
+        for (std::size_t left = UpTo(random, 2000); left > 0; --left)
+            separators += static_cast<char16_t>(0x400 + UpTo(random, 0xFF));
+        std::u16string text;
+        for (std::size_t left = UpTo(random, 200); left > 0; --left)
+            text += static_cast<char16_t>(0x380 + UpTo(random, 0x17F));
+        const bool caseSensitive = UpTo(random, 1) == 0;
+        ASSERT_EQ(Tokens(CStringU(text.c_str()), CStringU(separators.c_str()), caseSensitive),
+                  Model(text, separators, caseSensitive));
+    }
+}
+
 TEST(Tokenizer, MalformedTextsEnd) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 20000; ++round) {
