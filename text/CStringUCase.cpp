@@ -23,19 +23,19 @@ struct TChange {
     bool nonAscii = false;
 };
 
-// An overlong NUL ends the changed text: the byte 0 that it would become would end it for every reader.
+// An overlong NUL ends the changed text: the byte 0 that it would become would end it for every reader. It
+// is no change by itself, so that a text in which nothing else changes keeps what stands behind it.
 template <char16_t Form(char16_t)>
 TChange Measure(const char* payload) {
     TChange change;
+    bool ended = false;
     while (*payload != '\0') {
         const char16_t unit = DecodeNext(payload);
-        if (unit == 0) {
-            change.changed = true;
-            break;
-        }
         const char16_t formed = Form(unit);
-        change.bytes += static_cast<std::size_t>(vapp_text::EncodedSize(formed));
         change.changed = change.changed || formed != unit;
+        ended = ended || unit == 0;
+        if (ended) continue;
+        change.bytes += static_cast<std::size_t>(vapp_text::EncodedSize(formed));
         change.nonAscii = change.nonAscii || formed >= 0x80U;
     }
     return change;

@@ -74,7 +74,14 @@ TEST(CStringUCase, NoCharacterLeavesOrEntersAscii) {
 
 TEST(CStringUCase, AnOverlongNulEndsTheChangedText) {
     EXPECT_EQ(Stored(Utf8("\xC3\x89\xC0\x80x").ToLower()), "\xC3\xA9");
-    EXPECT_EQ(Stored(Utf8("\xC0\x80x").ToLower()), "");
+    EXPECT_EQ(Stored(Utf8("\xC3\xA9\xC0\x80X").ToLower()), "\xC3\xA9") << "a change behind it counts";
+    EXPECT_EQ(Stored(Utf8("\xC0\x80X").ToLower()), "");
+}
+
+TEST(CStringUCase, AnOverlongNulIsNoChange) {
+    EXPECT_EQ(Stored(Utf8("\xC3\xA9\xC0\x80x").ToLower()), "\xC3\xA9\xC0\x80x");
+    EXPECT_EQ(Stored(Utf8("\xC3\x89\xC0\x80X").ToUpper()), "\xC3\x89\xC0\x80X");
+    EXPECT_EQ(Stored(Utf8("\xC0\x80x").ToLower()), "\xC0\x80x");
 }
 
 TEST(CStringUCase, NoLocaleChangesIt) {
