@@ -1,8 +1,9 @@
 /// @file
 /// The four replacements of a CStringU: of a character and of a text, with and without case.
 ///
-/// What is all ASCII is replaced byte by byte. Everything else goes by characters: the text becomes UTF-16,
-/// is replaced there, and comes back classified anew; an overlong NUL in it ends it on that way.
+/// What is all ASCII is replaced byte by byte, but by ReplaceNoCase of texts. Everything else goes by
+/// characters: the text becomes UTF-16, is replaced there, and comes back classified anew; an overlong NUL in
+/// it ends it on that way.
 ///
 /// The surprise is ReplaceNoCase of texts. It searches a folded copy that is never edited, but applies each
 /// hit to the text that is: with a new text of another length every hit behind the first lands off its place,
@@ -127,6 +128,15 @@ int CStringU::ReplaceAsciiNoCase(char lower, char newByte) {
     std::replace_if(bytes, bytes + length, isHit, newByte);
     m_stored.ReleaseBuffer(length);
     return static_cast<int>(hits);
+}
+
+int CStringU::ReplaceCharacter(const CStringU& oldText, const CStringU& newText, bool caseSensitive) {
+    if (oldText.IsEmpty() || newText.IsEmpty()) return 0;
+    if (oldText.GetCharCount() > 1 || newText.GetCharCount() > 1) {
+        return caseSensitive ? Replace(oldText, newText) : ReplaceNoCase(oldText, newText);
+    }
+    return caseSensitive ? Replace(*oldText.Begin(), *newText.Begin())
+                         : ReplaceNoCase(*oldText.Begin(), *newText.Begin());
 }
 
 int CStringU::Replace(const CStringU& oldText, const CStringU& newText) {

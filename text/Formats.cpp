@@ -59,31 +59,42 @@ private:
             taken += static_cast<char>(Take());
         return taken;
     }
-    const WideFormatValue* TakeValue() {
-        if (m_values.empty()) return nullptr;
-        const WideFormatValue* const value = &m_values.front();
-        m_values = m_values.subspan(1);
-        return value;
+    /// The value at a place, or the next one.
+    const WideFormatValue* ValueAt(int place) {
+        const std::size_t index = place == cnNone ? m_next++ : static_cast<std::size_t>(place) - 1;
+        return index < m_values.size() ? &m_values[index] : nullptr;  // place 0 is beyond all of them
     }
 
-    /// A width or a precision: digits, or the next value.
-    int TakeCount() {
-        if (Peek() == u'*') {
-            Take();
-            const WideFormatValue* const value = TakeValue();
-            const std::int64_t count = value != nullptr ? value->GetInteger() : 0;
-            return static_cast<int>(std::clamp<std::int64_t>(count, -cnLargestWidth, cnLargestWidth));
-        }
+    int TakeDigits() {
         int count = 0;
         for (const char digit : TakeAll("0123456789"))
             count = std::min(count * 10 + (digit - '0'), cnLargestWidth);
         return count;
     }
 
+    /// The place that a value is named by; none where the digits are a width.
+    int TakePlace() {
+        const std::size_t digits = m_left.find_first_not_of(u"0123456789");
+        if (digits == 0 || digits == std::u16string_view::npos || m_left[digits] != u'$') return cnNone;
+        const int place = TakeDigits();
+        Take();
+        return place;
+    }
+
+    /// A width or a precision: digits, or a value.
+    int TakeCount() {
+        if (Peek() != u'*') return TakeDigits();
+        Take();
+        const WideFormatValue* const value = ValueAt(TakePlace());
+        const std::int64_t count = value != nullptr ? value->GetInteger() : 0;
+        return static_cast<int>(std::clamp<std::int64_t>(count, -cnLargestWidth, cnLargestWidth));
+    }
+
     void Convert() {
         Take();  // the percent sign
         TConversion conversion;
-        conversion.flags = TakeAll("-+ #0");
+        const int place = TakePlace();
+        conversion.flags = TakeAll("-+ #0'");
         if (IsOneOf(Peek(), "*123456789")) conversion.width = TakeCount();
         if (conversion.width < cnNone) {  // a negative value asks for the left side
             conversion.flags += '-';
@@ -99,7 +110,7 @@ private:
         conversion.letter = letter < 0x80U ? static_cast<char>(letter) : '\0';
         if (conversion.letter == '%') {
             m_out += u'%';
-        } else if (const WideFormatValue* const value = TakeValue()) {
+        } else if (const WideFormatValue* const value = ValueAt(place)) {
             Write(conversion, *value);
         }
     }
@@ -112,8 +123,7 @@ private:
                                       ? text
                                       : text.substr(0, static_cast<std::size_t>(conversion.precision)));
         } else if (IsOneOf(conversion.letter, "cC") && kind == Kind::Integer) {
-            const auto unit = static_cast<char16_t>(value.GetInteger());
-            WriteText(conversion, unit != 0 ? std::u16string_view(&unit, 1) : std::u16string_view());
+            WriteText(conversion, value.GetText());
         } else if (IsOneOf(conversion.letter, "di") && kind == Kind::Integer) {
             WriteNumber(conversion, "ll", static_cast<long long>(Integer(conversion, value, true)));
         } else if (IsOneOf(conversion.letter, "uoxX") && kind == Kind::Integer) {
@@ -148,6 +158,7 @@ private:
     template <typename Number>
     void WriteNumber(const TConversion& conversion, const char* size, Number number) {
         std::string format = '%' + conversion.flags;
+        if (!IsOneOf(static_cast<unsigned char>(conversion.letter), "diufFgG")) std::erase(format, '\'');
         if (conversion.width >= 0) format += std::to_string(conversion.width);
         if (conversion.precision >= 0) format += '.' + std::to_string(conversion.precision);
         format.append(size).push_back(conversion.letter);
@@ -156,6 +167,7 @@ private:
 
     std::u16string_view m_left;
     std::span<const WideFormatValue> m_values;
+    std::size_t m_next = 0;
     std::u16string m_out;
 };
 

@@ -8,13 +8,21 @@
 /// may be wider than a text, and which texts it refuses differ from system to system there. Here the values
 /// come with their types, so that "%s" takes every kind of text, and nothing is read that was not given.
 ///
-///     conversion = "%" { "-" | "+" | " " | "#" | "0" } [ width ] [ "." precision ] { size } letter
-///     width, precision = digits | "*"
+///     conversion = "%" [ place ] { "-" | "+" | " " | "#" | "0" | "'" } [ width ] [ "." precision ]
+///                  { size } letter
+///     width, precision = digits | "*" [ place ]
+///     place = digits "$"
 ///     size = "hh" | "h" | "l" | "ll" | "j" | "z" | "t" | "L" | "w" | "I64" | "I32" | "I"
 ///     letter = d i u o x X c C s S e E f F g G a A p %
 ///
-/// Numbers look as the narrow printf writes them. Widths of texts count characters; a width or precision
-/// above 65535 counts as that. A conversion without a value, or with one of another kind, writes nothing.
+/// A place names a value by its number from 1, for translations that put them in another order; it doesn't
+/// move on what the conversions without one take. Numbers look as the narrow printf writes them: real ones
+/// with the decimal point, and with "'" the groups, of the host's locale. Widths of texts count characters; a
+/// width or precision above 65535 counts as that. A conversion without a value, or with one of another kind,
+/// writes nothing.
+///
+/// "%c" takes a `char` by the plain narrow rule, a `wchar_t` above 0xFFFF as its pair of units, and an
+/// integer of any other type as one unit, cut to 16 bits.
 #pragma once
 
 #include <array>
@@ -48,6 +56,7 @@ public:
             m_kind = Kind::Integer;
             m_integer = static_cast<std::int64_t>(number);
             m_bytes = sizeof(Number) > sizeof(int) ? sizeof(Number) : sizeof(int);
+            m_text = CharacterOf(number);
         }
     }
     /// Narrow text is read by the plain narrow rule of CStringU.
@@ -65,6 +74,7 @@ public:
     /// The size of the integer's own type, at least that of an int.
     [[nodiscard]] std::size_t GetBytes() const noexcept { return m_bytes; }
     [[nodiscard]] double GetReal() const noexcept { return m_real; }
+    /// A text, or an integer as the character that it is.
     [[nodiscard]] const std::u16string& GetText() const noexcept { return m_text; }
     /// The address of a pointer, also of a text.
     [[nodiscard]] const void* GetPointer() const noexcept { return m_pointer; }
@@ -72,6 +82,18 @@ public:
 private:
     WideFormatValue(const void* pointer, const CStringU& text)
         : m_kind(Kind::Text), m_pointer(pointer), m_text(pointer != nullptr ? text.ToWide() : u"(null)") {}
+
+    template <typename Number>
+    [[nodiscard]] static std::u16string CharacterOf(Number number) {
+        if constexpr (std::is_same_v<Number, char>) {
+            return CStringU(CString(number)).ToWide();
+        } else if constexpr (std::is_same_v<Number, wchar_t>) {
+            return CStringU(number).ToWide();
+        } else {
+            const auto unit = static_cast<char16_t>(number);
+            return unit != 0 ? std::u16string(1, unit) : std::u16string();
+        }
+    }
 
     Kind m_kind = Kind::Integer;
     std::size_t m_bytes = sizeof(int);

@@ -65,6 +65,32 @@ TEST(CStringUReplace, CharactersInEveryMixOfAsciiAndNot) {
     EXPECT_EQ(Replaced(u"", u'q', u'x'), (TReplaced{0, u""}));
 }
 
+TEST(CStringUReplace, CharactersOfOtherTypesAreReadByThem) {
+    const TCodePageGuard latin(1252);
+    CStringU text(u"a.B.\u00e9");
+    EXPECT_EQ(text.Replace('.', '/'), 2);
+    EXPECT_EQ(text.Replace('\xE9', 'e'), 1) << "narrow ones are in the active code page";
+    EXPECT_EQ(text.ReplaceNoCase(L'b', '\xE9'), 1);
+    EXPECT_EQ(text.ReplaceNoCase('\xC9', u'b'), 1);
+    EXPECT_EQ(text.Replace(L'a', L'\u4e2d'), 1);
+    EXPECT_EQ(text, CStringU(u"\u4e2d/b/e"));
+    EXPECT_EQ(text.Replace('\0', 'x') + text.Replace('b', '\0') + text.Replace('b', L'\0'), 0);
+    EXPECT_EQ(text.Replace('\xE9', '\0') + text.ReplaceNoCase('\0', '\xE9'), 0);
+    EXPECT_EQ(text, CStringU(u"\u4e2d/b/e"));
+}
+
+TEST(CStringUReplace, ACharacterThatIsAPairIsReplacedAsATwo) {
+    if (sizeof(wchar_t) == sizeof(char16_t)) GTEST_SKIP() << "no character here is wider than a unit";
+    const auto pair = static_cast<wchar_t>(0x1F600);
+    CStringU text(u"a\U0001F600\uf600");
+    EXPECT_EQ(text.Replace(pair, L'b'), 1);
+    EXPECT_EQ(text, CStringU(u"ab\uf600")) << "not taken for its lower half";
+    EXPECT_EQ(text.Replace('b', pair), 1);
+    EXPECT_EQ(text, CStringU(u"a\U0001F600\uf600"));
+    EXPECT_EQ(text.ReplaceNoCase('A', pair), 1);
+    EXPECT_EQ(text, CStringU(u"\U0001F600\U0001F600\uf600"));
+}
+
 TEST(CStringUReplace, CharacterZeroReplacesNothing) {
     EXPECT_EQ(Replaced(u"abc", u'\0', u'x'), (TReplaced{0, u"abc"}));
     EXPECT_EQ(Replaced(u"abc", u'a', u'\0'), (TReplaced{0, u"abc"}));
@@ -279,20 +305,54 @@ TEST(CStringUReplace, RandomTextsAgreeWithPlainModels) {
     }
 }
 
-TEST(CStringUReplace, MalformedTextsEnd) {
+// What is replaced in malformed text is what its characters, as they decode, say; a search that goes by the
+// look of the bytes may find nothing of it, and then nothing has changed.
+void ExpectModelOrNothing(const CStringU& source, const CStringU& result, int count,
+                          const TReplaced& expected) {
+    if (count == 0 && result == source) return;
+    const std::u16string units = expected.text.substr(0, expected.text.find(u'\0'));
+    ASSERT_EQ(count, expected.count) << Shown(Stored(source));
+    ASSERT_EQ(result.ToWide(), units) << Shown(Stored(source));
+}
+
+TEST(CStringUReplace, MalformedTextsAreReplacedAsTheyDecode) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        const CStringU source(HostileBytes(random).c_str(), TextEncoding::Utf8Auto);
+        const CStringU oldText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
+        const CStringU newText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
+        const char16_t oldUnit = oldText.LastChar();
+        const char16_t newUnit = newText.LastChar();
+        CStringU text = source;
+        int count = text.Replace(oldText, newText);
+        ExpectModelOrNothing(source, text, count, Model(source.ToWide(), oldText.ToWide(), newText.ToWide()));
+        text = source;
+        count = text.Replace(oldUnit, newUnit);
+        ExpectModelOrNothing(source, text, count, Model(source.ToWide(), oldUnit, newUnit));
+        text = source;
+        count = text.ReplaceNoCase(oldText, newText);
+        // Found by its bytes and not by its characters: the text comes back as it decodes.
+        if (count == 0) ExpectModelOrNothing(source, text, 0, {0, source.ToWide()});
+        // The model knows ASCII by its characters, the text by its first byte: an overlong letter is both.
+        if (source.HasNonAscii() == IsAscii(source.ToWide())) continue;
+        text = source;
+        count = text.ReplaceNoCase(oldUnit, newUnit);
+        ExpectModelOrNothing(source, text, count, ModelNoCase(source.ToWide(), oldUnit, newUnit));
+    }
+}
+
+TEST(CStringUReplace, AnyBytesInAnyEncodingEnd) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 20000; ++round) {
         const CStringU source(HostileBytes(random).c_str(), static_cast<TextEncoding>(UpTo(random, 4)));
-        const CStringU oldText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
-        const CStringU newText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
+        const CStringU oldText(HostileBytes(random, 3).c_str(), static_cast<TextEncoding>(UpTo(random, 4)));
+        const CStringU newText(HostileBytes(random, 3).c_str(), static_cast<TextEncoding>(UpTo(random, 4)));
+        // An empty old text is found once at every character and once behind the last.
+        const auto limit = static_cast<int>(Stored(source).size()) + 1;
         CStringU text = source;
-        ASSERT_GE(text.Replace(oldText, newText), 0);
+        ASSERT_LE(text.Replace(oldText, newText), limit);
         text = source;
-        ASSERT_GE(text.ReplaceNoCase(oldText, newText), 0);
-        text = source;
-        ASSERT_GE(text.Replace(oldText.LastChar(), newText.LastChar()), 0);
-        text = source;
-        ASSERT_GE(text.ReplaceNoCase(oldText.LastChar(), newText.LastChar()), 0);
+        ASSERT_LE(text.ReplaceNoCase(oldText, newText), limit);
     }
 }
 

@@ -62,6 +62,21 @@ TEST(CStringUSearch, FindCharGoesForwardFromAPosition) {
     }
 }
 
+TEST(CStringUSearch, CharactersOfOtherTypesAreReadByThem) {
+    const TCodePageGuard latin(1252);
+    const CStringU text(u"a\u00e9b\uf600");
+    EXPECT_EQ(text.FindChar('\xC9', false, text.Begin()).offset, 1) << "in the active code page";
+    EXPECT_EQ(text.FindChar('\xC9', true, text.Begin()), text.End());
+    EXPECT_EQ(text.FindChar(L'b', true, text.Begin()).offset, 3);
+    EXPECT_EQ(text.FindCharBack('a', true, text.End()).offset, 0);
+    EXPECT_EQ(text.FindCharBack('\xE9', true, text.End()).offset, 1);
+    if (sizeof(wchar_t) > sizeof(char16_t)) {
+        const auto pair = static_cast<wchar_t>(0x1F600);
+        EXPECT_EQ(text.FindChar(pair, true, text.Begin()), text.End()) << "not taken for its lower half";
+        EXPECT_EQ(text.FindCharBack(pair, true, text.End()), text.End());
+    }
+}
+
 TEST(CStringUSearch, FindCharBackGoesBackwardFromAPosition) {
     const CStringU text = Marked();
     const struct {

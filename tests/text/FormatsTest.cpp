@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <clocale>
 #include <cstdint>
 
+#include "tests/text/LocaleGuard.h"
 #include "tests/text/TextHelpers.h"
 
 namespace {
@@ -94,6 +96,55 @@ TEST(Formats, WidthsOfTextsCountCharacters) {
     EXPECT_EQ(FormatWide("[%3c%-2c]", u'\u00e9', 'b'), u"[  \u00e9b ]");
     EXPECT_EQ(FormatWide("%99999999999s", "a").size(), 65535U);
     EXPECT_EQ(FormatWide("%.99999999999d", 1).size(), 65535U);
+}
+
+TEST(Formats, ACharacterIsReadByItsType) {
+    const text_test::TCodePageGuard latin(1252);
+    EXPECT_EQ(FormatWide("%c", '\xE9'), u"\u00e9") << "narrow ones are in the active code page";
+    EXPECT_EQ(FormatWide("%c", L'\u4e2d'), u"\u4e2d");
+    EXPECT_EQ(FormatWide("[%3c]", u'\xd83d'), std::u16string(u"[  \xd83d]"));
+    EXPECT_EQ(FormatWide("%c%c", 233, 0x100E9), u"\u00e9\u00e9") << "numbers are units of 16 bits";
+    EXPECT_EQ(FormatWide("<%c%c%c>", '\0', u'\0', L'\0'), u"<>");
+    EXPECT_EQ(FormatWide("%d %d", 'a', L'b'), u"97 98") << "and still numbers where one is asked for";
+    if (sizeof(wchar_t) > sizeof(char16_t)) {
+        EXPECT_EQ(FormatWide("%c", static_cast<wchar_t>(0x1F600)), u"\U0001F600");
+    }
+}
+
+TEST(Formats, AValueMayBeNamedByItsPlace) {
+    EXPECT_EQ(FormatWide("%2$s of %1$d", 3, "inv"), u"inv of 3");
+    EXPECT_EQ(FormatWide("%1$s %1$s", "a"), u"a a");
+    EXPECT_EQ(FormatWide("[%1$5s|%1$-5s|%1$.1s]", "ab"), u"[   ab|ab   |a]");
+    EXPECT_EQ(FormatWide("[%2$*1$.*3$s]", 4, "abc", 2), u"[  ab]");
+    EXPECT_EQ(FormatWide("%2$s%s%s", "a", "b"), u"bab") << "the others count on by themselves";
+    EXPECT_EQ(FormatWide("<%3$s%0$s%99999999999$s>", "a", "b"), u"<>");
+    EXPECT_EQ(FormatWide("<%1$", "a"), u"<");
+    EXPECT_EQ(FormatWide("%1$%", "a"), u"%");
+}
+
+void ExpectWholeNumbersAndTexts() {
+    EXPECT_EQ(FormatNarrow("%d %x %s", 1234567, 255U, "1.5"), "1234567 ff 1.5");
+    EXPECT_EQ(FormatWide("%d %x %s", 1234567, 255, "1.5"), u"1234567 ff 1.5");
+    EXPECT_EQ(CStringU::Formatted("%d %s", -42, "1.5"), CStringU("-42 1.5"));
+}
+
+TEST(Formats, GroupsAreThoseOfTheLocale) {
+    EXPECT_EQ(FormatWide("%'d %'.1f %'x", 1234567, 1234.5, 255), u"1234567 1234.5 ff") << "which has none";
+}
+
+// Numbers for people: the C library writes them as the host has set it up.
+TEST(Formats, RealNumbersHaveTheDecimalPointOfTheHostsLocale) {
+    EXPECT_EQ(FormatNarrow("%.1f", 1.5), "1.5");
+    EXPECT_EQ(FormatWide("%.1f", 1.5), u"1.5");
+    EXPECT_EQ(CStringU::Formatted("%.1f", 1.5), CStringU("1.5"));
+    ExpectWholeNumbersAndTexts();
+    const text_test::TLocaleGuard guard(text_test::cnCommaLocales);
+    if (!guard.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    EXPECT_EQ(FormatNarrow("%.1f", 1.5), "1,5");
+    EXPECT_EQ(FormatWide("%.1f", 1.5), u"1,5");
+    EXPECT_EQ(CStringU::Formatted("%.1f", 1.5), CStringU("1,5"));
+    ExpectWholeNumbersAndTexts();
 }
 
 TEST(Formats, PercentSignsAndPlainText) {

@@ -45,6 +45,11 @@
 template <typename Type>
 concept FormatArgument = std::is_arithmetic_v<Type> || std::is_enum_v<Type> || std::is_pointer_v<Type>;
 
+/// A character in a type of its own. A `char` with its high bit is one of the active code page.
+template <typename Type>
+concept TextCharacter =
+    std::same_as<Type, char> || std::same_as<Type, wchar_t> || std::same_as<Type, char16_t>;
+
 class VAPP_EXPORT CStringU {
 public:
     /// Name the way in at a constructor, where the type of the text alone doesn't tell it.
@@ -239,6 +244,19 @@ public:
     /// The same without regard to case. Text outside of ASCII knows three forms of a character: as given, its
     /// lower-case and its upper-case form, replaced one after the other.
     int ReplaceNoCase(char16_t oldUnit, char16_t newUnit);
+    /// Both for characters of other types. One that is a pair of units replaces, or is replaced, as a text.
+    template <TextCharacter Old, TextCharacter New>
+    int Replace(Old oldCharacter, New newCharacter) {
+        return IsUnit(oldCharacter) && IsUnit(newCharacter)
+                   ? Replace(static_cast<char16_t>(oldCharacter), static_cast<char16_t>(newCharacter))
+                   : ReplaceCharacter(OfCharacter(oldCharacter), OfCharacter(newCharacter), true);
+    }
+    template <TextCharacter Old, TextCharacter New>
+    int ReplaceNoCase(Old oldCharacter, New newCharacter) {
+        return IsUnit(oldCharacter) && IsUnit(newCharacter)
+                   ? ReplaceNoCase(static_cast<char16_t>(oldCharacter), static_cast<char16_t>(newCharacter))
+                   : ReplaceCharacter(OfCharacter(oldCharacter), OfCharacter(newCharacter), false);
+    }
     /// Replaces every such text from left to right. An empty `oldText` replaces nothing.
     int Replace(const CStringU& oldText, const CStringU& newText);
     /// The same without regard to case, for a `newText` as long as the old one: hits are places in the
@@ -261,6 +279,7 @@ public:
     // --- Formatting ------------------------------------------------------------------------------------
 
     /// A printf result, with the payload of `format` as the format, classified by TextEncoding::Utf8Auto.
+    /// Real numbers get the decimal point of the host's locale, as CString's do; nothing else of it counts.
     /// Sizes may be written "%Iu" (see CString::FormatV). Texts are passed by Payload(): a CStringU itself
     /// does not compile.
     template <FormatArgument... Arguments>
@@ -287,6 +306,19 @@ public:
     [[nodiscard]] CStringUPos FindChar(char16_t unit, bool caseSensitive, CStringUPos from) const;
     /// The nearest hit going backward from `from`; the end position for none.
     [[nodiscard]] CStringUPos FindCharBack(char16_t unit, bool caseSensitive, CStringUPos from) const;
+    /// Both for characters of other types. One that is a pair of units is no one character, and not found.
+    template <TextCharacter Character>
+    [[nodiscard]] CStringUPos FindChar(Character character, bool caseSensitive, CStringUPos from) const {
+        if (IsUnit(character)) return FindChar(static_cast<char16_t>(character), caseSensitive, from);
+        const CStringU text = OfCharacter(character);
+        return text.GetCharCount() == 1 ? FindChar(*text.Begin(), caseSensitive, from) : End();
+    }
+    template <TextCharacter Character>
+    [[nodiscard]] CStringUPos FindCharBack(Character character, bool caseSensitive, CStringUPos from) const {
+        if (IsUnit(character)) return FindCharBack(static_cast<char16_t>(character), caseSensitive, from);
+        const CStringU text = OfCharacter(character);
+        return text.GetCharCount() == 1 ? FindCharBack(*text.Begin(), caseSensitive, from) : End();
+    }
     /// The first hit of the needle's *stored* bytes, so that a marked needle is not found; the end position
     /// for none.
     [[nodiscard]] CStringUPos FindTextNoCase(const CStringU& needle) const;
@@ -333,6 +365,18 @@ public:
 private:
     static constexpr char cnMarker = '\x80';
 
+    // True where a character is one unit, and its number that of the unit.
+    [[nodiscard]] static constexpr bool IsUnit(char character) noexcept {
+        return static_cast<unsigned char>(character) < 0x80U;
+    }
+    [[nodiscard]] static constexpr bool IsUnit(wchar_t character) noexcept {
+        return (static_cast<char32_t>(character) >> 16U) == 0;
+    }
+    [[nodiscard]] static constexpr bool IsUnit(char16_t /*unit*/) noexcept { return true; }
+    [[nodiscard]] static CStringU OfCharacter(char character) { return CStringU(CString(character)); }
+    [[nodiscard]] static CStringU OfCharacter(wchar_t character) { return CStringU(character); }
+    [[nodiscard]] static CStringU OfCharacter(char16_t unit) { return CStringU(unit); }
+    int ReplaceCharacter(const CStringU& oldText, const CStringU& newText, bool caseSensitive);
     [[nodiscard]] static CStringU FormattedRaw(const char* format, ...);
     [[nodiscard]] bool EqualsNarrow(const char* text) const;
     [[nodiscard]] CStringU Piece(std::int64_t first, std::int64_t behind) const;
