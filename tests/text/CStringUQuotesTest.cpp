@@ -106,8 +106,14 @@ TEST(CStringUQuotes, MalformedTextIsCutInsideOfItself) {
     for (int round = 0; round < 20000; ++round) {
         const std::string bytes = "\"" + HostileBytes(random, 4) + (round % 2 == 0 ? "\"" : "\xC2\xAB");
         const CStringU text(bytes.c_str(), TextEncoding::Utf8Auto);
-        ASSERT_LE(text.WithoutQuotes().GetByteLength(), text.GetByteLength());
-        ASSERT_GE(text.WithQuotes().GetByteLength(), text.GetByteLength());
+        const std::string_view payload = text.PayloadView();
+        const CStringU without = text.WithoutQuotes();
+        const std::size_t at = payload.find(without.PayloadView());
+        ASSERT_NE(at, std::string_view::npos) << Shown(payload);
+        ASSERT_TRUE(without == text || without.PayloadView().size() + 2 <= payload.size()) << Shown(payload);
+        const CStringU with = text.WithQuotes();
+        ASSERT_TRUE(with == text || with.PayloadView() == '"' + std::string(payload) + '"') << Shown(payload);
+        ASSERT_EQ(with.WithQuotes(), with) << Shown(payload);
     }
 }
 

@@ -1,4 +1,5 @@
-// The upper-case form of every one of the 65536 characters.
+// The upper-case form of every one of the 65536 characters. What the platform's answers are is tested with
+// the platform's own.
 #include "text/Upper.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +17,7 @@ TEST(Upper, AsciiSmallLettersBecomeCapitalsAndAllOtherAsciiStays) {
     }
 }
 
-TEST(Upper, EveryHigherCharacterIsThePlatformsUpperCase) {
+TEST(Upper, EveryHigherCharacterIsThePlatformsUpperCaseAndIsRemembered) {
     for (unsigned c = 0x80; c <= 0xFFFF; ++c) {
         const auto unit = static_cast<char16_t>(c);
         ASSERT_EQ(UpperChar(unit), vapp_platform::UpperCaseChar(unit)) << c;
