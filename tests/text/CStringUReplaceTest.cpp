@@ -325,10 +325,11 @@ TEST(CStringUReplace, MalformedTextsAreReplacedAsTheyDecode) {
         const char16_t newUnit = newText.LastChar();
         CStringU text = source;
         int count = text.Replace(oldText, newText);
-        ExpectModelOrNothing(source, text, count, Model(source.ToWide(), oldText.ToWide(), newText.ToWide()));
+        ExpectModelOrNothing(source, text, count,
+                             ReplaceModel(source.ToWide(), oldText.ToWide(), newText.ToWide()));
         text = source;
         count = text.Replace(oldUnit, newUnit);
-        ExpectModelOrNothing(source, text, count, Model(source.ToWide(), oldUnit, newUnit));
+        ExpectModelOrNothing(source, text, count, ReplaceModel(source.ToWide(), oldUnit, newUnit));
         text = source;
         count = text.ReplaceNoCase(oldText, newText);
         // Found by its bytes and not by its characters: the text comes back as it decodes.
