@@ -14,6 +14,7 @@ import unittest
 
 OPTIONS = None
 PREFIX = None  # where the package stands when it is used; it was installed elsewhere
+LIBRARIES = None  # its folder of libraries
 
 
 def run(*command, folder=None, environment=None, expect=0):
@@ -56,7 +57,7 @@ def output_of(program, *words):
         command = [*OPTIONS.emulator, f"{program}.exe"]
         environment["WINEPATH"] = str(PREFIX / "bin")
     else:
-        environment["LD_LIBRARY_PATH"] = str(PREFIX / "lib")
+        environment["LD_LIBRARY_PATH"] = str(LIBRARIES)
     done = subprocess.run([str(word) for word in [*command, *words]], env={**os.environ, **environment},
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120)
     if done.returncode != 0:
@@ -87,7 +88,7 @@ class Layout(unittest.TestCase):
         self.assertEqual(found, wanted)
 
     def test_names_no_folder_of_the_machine_that_built_it(self):
-        for path in (PREFIX / "lib").rglob("*"):
+        for path in LIBRARIES.rglob("*"):
             if path.suffix in (".cmake", ".pc"):
                 text = path.read_text()
                 for folder in (OPTIONS.source, OPTIONS.build, OPTIONS.work):
@@ -96,9 +97,9 @@ class Layout(unittest.TestCase):
     def test_tells_one_version_everywhere(self):
         version = OPTIONS.version
         self.assertIn(f'"{version}"', (PREFIX / "include/vapp/Version.h").read_text())
-        self.assertIn(f"Version: {version}\n", (PREFIX / "lib/pkgconfig/vapp.pc").read_text())
+        self.assertIn(f"Version: {version}\n", (LIBRARIES / "pkgconfig/vapp.pc").read_text())
         self.assertIn(f'set(PACKAGE_VERSION "{version}")',
-                      (PREFIX / "lib/cmake/vapp/vapp-config-version.cmake").read_text())
+                      (LIBRARIES / "cmake/vapp/vapp-config-version.cmake").read_text())
 
     def test_the_library_carries_year_and_release_in_its_name(self):
         year, release, _ = OPTIONS.version.split(".")
@@ -111,9 +112,9 @@ class Layout(unittest.TestCase):
             return
         for name in ["libvapp", "libvapp_qt"][:1 + OPTIONS.qt]:
             runtime = f"{name}.so.{year}.{release}"
-            self.assertIn(f"Library soname: [{runtime}]", run("readelf", "-d", PREFIX / f"lib/{name}.so"))
-            self.assertEqual(os.readlink(PREFIX / f"lib/{name}.so"), runtime)
-            self.assertEqual(os.readlink(PREFIX / f"lib/{runtime}"), f"{name}.so.{OPTIONS.version}")
+            self.assertIn(f"Library soname: [{runtime}]", run("readelf", "-d", LIBRARIES / f"{name}.so"))
+            self.assertEqual(os.readlink(LIBRARIES / f"{name}.so"), runtime)
+            self.assertEqual(os.readlink(LIBRARIES / runtime), f"{name}.so.{OPTIONS.version}")
 
     def test_libraries_find_one_another_where_they_stand_and_bring_no_tcl(self):
         if OPTIONS.windows:
@@ -123,12 +124,12 @@ class Layout(unittest.TestCase):
             self.assertLessEqual({name.lower() for name in needed if name.startswith("lib")}, ours)
             self.assertLessEqual({"tcl86.dll", "zlib1.dll"}, ours)
             return
-        facts = run("readelf", "-d", PREFIX / "lib/libvapp.so")
+        facts = run("readelf", "-d", LIBRARIES / "libvapp.so")
         self.assertNotIn("libtcl", facts)
         self.assertNotIn("RUNPATH", facts)
         if OPTIONS.qt:
-            self.assertIn("Library runpath: [$ORIGIN]", run("readelf", "-d", PREFIX / "lib/libvapp_qt.so"))
-            self.assertIn("Library runpath: [$ORIGIN/../lib]", run("readelf", "-d", PREFIX / "bin/navigator"))
+            self.assertIn("Library runpath: [$ORIGIN]", run("readelf", "-d", LIBRARIES / "libvapp_qt.so"))
+            self.assertIn(f"Library runpath: [$ORIGIN/../{OPTIONS.libraries}]", run("readelf", "-d", PREFIX / "bin/navigator"))
 
     def test_the_program_runs_from_there(self):
         if not OPTIONS.qt:
@@ -185,7 +186,7 @@ class Found(unittest.TestCase):
         (folder / "CMakeLists.txt").write_text(
             f"cmake_minimum_required(VERSION 3.21)\nproject(ask LANGUAGES NONE)\nset(CMAKE_SIZEOF_VOID_P 8)\n{before}"
             f"find_package(vapp {request})\n" 'message("found: ${vapp_FOUND}, Qt: ${vapp_Qt_FOUND}")\n')
-        return " ".join(run(OPTIONS.cmake, "-S", folder, "-B", folder / "build", f"-Dvapp_DIR={PREFIX}/lib/cmake/vapp",
+        return " ".join(run(OPTIONS.cmake, "-S", folder, "-B", folder / "build", f"-Dvapp_DIR={LIBRARIES}/cmake/vapp",
                             "-Dvapp_TCL_INCLUDE_DIR=/nowhere", "-Dvapp_TCL_LIBRARY=/nowhere",
                             "-Dvapp_BOOST_INCLUDE_DIR=/nowhere", *settings, expect=expect).split())
 
@@ -250,11 +251,11 @@ class SystemNames(unittest.TestCase):
 class PkgConfig(unittest.TestCase):
     def flags(self, *packages):
         return run("pkg-config", "--cflags", "--libs", *packages,
-                   environment={"PKG_CONFIG_PATH": str(PREFIX / "lib/pkgconfig")}).split()
+                   environment={"PKG_CONFIG_PATH": str(LIBRARIES / "pkgconfig")}).split()
 
     def tcl(self):
         """The name of Tcl's own file on this system, as the package has it."""
-        return re.search(r"^Requires.private: (\S+)", (PREFIX / "lib/pkgconfig/vapp.pc").read_text(), re.MULTILINE)[1]
+        return re.search(r"^Requires.private: (\S+)", (LIBRARIES / "pkgconfig/vapp.pc").read_text(), re.MULTILINE)[1]
 
     def build(self, folder, step, *packages):
         examples = OPTIONS.source / "examples/embedding"
@@ -275,7 +276,7 @@ class PkgConfig(unittest.TestCase):
         for flag in ("-lvapp_qt", "-lvapp", "-lQt6Widgets"):
             self.assertIn(flag, flags)
         self.assertNotIn("-ltcl8.6", flags)
-        self.assertIn(f"-I{PREFIX}/include", " ".join(map(os.path.normpath, flags)).replace("-I/", "-I/"))
+        self.assertIn(f"-I{PREFIX}/include", [os.path.normpath(flag) for flag in flags])
 
 
 class Readme(unittest.TestCase):
@@ -296,11 +297,11 @@ class Readme(unittest.TestCase):
 
 
 def main():
-    global OPTIONS, PREFIX
+    global OPTIONS, PREFIX, LIBRARIES
     parser = argparse.ArgumentParser()
     for name in ("source", "build", "work"):
         parser.add_argument(f"--{name}", type=lambda text: pathlib.Path(text).resolve(), required=True)
-    for name in ("cmake", "version", "compiler"):
+    for name in ("cmake", "version", "compiler", "libraries"):
         parser.add_argument(f"--{name}", required=True)
     for name in ("launcher", "toolchain", "objdump", "witness"):
         parser.add_argument(f"--{name}", default="")
@@ -310,6 +311,7 @@ def main():
     parser.add_argument("tests", nargs="+")
     OPTIONS = parser.parse_args()
     PREFIX = OPTIONS.work / "installed"
+    LIBRARIES = PREFIX / OPTIONS.libraries
     unittest.main(argv=[sys.argv[0], "-v", *OPTIONS.tests])
 
 
