@@ -19,6 +19,7 @@
 #include "host/CommandHelp.h"
 #include "host/NavigatorCommand.h"
 #include "host/ProtocolText.h"
+#include "host/UserCommand.h"
 #include "vapp/Version.h"
 
 namespace navigator {
@@ -58,8 +59,9 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent) {
     setWindowTitle(tr("Tcl protocol"));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* const pages = new QTabWidget(this);
-    auto* const commands =
-        PlainText(gDescribeAllCommands() + gDescribe(NavigatorCommand::Help()), "helpCommands", pages);
+    auto* const commands = PlainText(
+        gDescribeAllCommands() + gDescribe(NavigatorCommand::Help()) + gDescribe(UserCommand::Help()),
+        "helpCommands", pages);
     auto* const protocol = new QTextBrowser(pages);
     protocol->setObjectName(QStringLiteral("helpProtocol"));
     // Its links lead to files beside the document, which are not in the program.

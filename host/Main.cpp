@@ -45,7 +45,8 @@ int main(int argc, char** argv) {
     if (const auto failure = gParseOptions(words, options)) return gFail(*failure, cnUsageStatus);
     if (options.isHelp) {
         std::cout << gUsageText() << "\nCommands for scripts:\n"
-                  << gDescribeAllCommands() << gDescribe(NavigatorCommand::Help());
+                  << gDescribeAllCommands() << gDescribe(NavigatorCommand::Help())
+                  << gDescribe(UserCommand::Help());
         return EXIT_SUCCESS;
     }
     if (options.isVersion) {

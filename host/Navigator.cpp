@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/CellsQuery.h"
+#include "host/LastView.h"
 #include "host/WindowLayout.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TProfileSection.h"
@@ -50,7 +51,8 @@ Navigator::Navigator(CWinAppEx& app)
       m_database(m_interp.get(), m_store),
       m_commands(m_interp.get()),
       m_browser(std::make_unique<vapp_library_browser::TLibraryBrowser>()),
-      m_script(m_interp.get(), *m_browser) {
+      m_script(m_interp.get(), *m_browser),
+      m_user(m_interp.get(), m_frame, *m_browser, [this] { Populate(); }) {
     vapp::gSetTclSanitizeInputUPointer(&QuoteTclWord);
     m_database.SetChangeHandler([this](DatabaseChange change) { OnDatabaseChange(change); });
 }
@@ -117,6 +119,20 @@ std::optional<std::string> Navigator::SourceScript(const std::string& file) {
     }
     const char* const place = Tcl_GetVar(m_interp.get(), "errorInfo", TCL_GLOBAL_ONLY);
     return std::string(place != nullptr ? place : Tcl_GetStringResult(m_interp.get()));
+}
+
+void Navigator::ShowLastView() {
+    Populate();
+    const bool hasChosen = m_script.HasChosen() || m_database.SelectedMaster().has_value();
+    // Of several designs the one that was opened first, and not the one whose name comes first.
+    if (!hasChosen && !gRestoreChoice(m_app, *m_browser) && !m_store.Designs().empty())
+        m_browser->SetSelectedDesign(TextOf(m_store.Designs().front().name));
+    if (!m_script.HasSorted()) gRestoreOrder(m_app, *m_browser);
+    Populate();
+}
+
+void Navigator::KeepLastView() {
+    gKeepView(m_app, *m_browser);
 }
 
 void Navigator::Populate() {

@@ -16,6 +16,7 @@
 #include "host/HostCommands.h"
 #include "host/NavigatorCommand.h"
 #include "host/NavigatorFrame.h"
+#include "host/UserCommand.h"
 #include "vapp/browser/TLibraryBrowser.h"
 #include "vapp/toolkit/CDocument.h"
 #include "vapp/toolkit/CWinAppEx.h"
@@ -46,8 +47,15 @@ public:
     /// user has left other heights; to be called when the window has its size.
     void FitPanes();
 
+    /// Fills the lists and puts back what the user looked at the last time, but for what a script has chosen;
+    /// to be called when the window is shown for the first time.
+    void ShowLastView();
+    /// Keeps what the user looks at; to be called before the window goes.
+    void KeepLastView();
     /// Refreshes what is dirty; to be called when idle.
     void Populate();
+    /// Runs what a script wants to be run then; to be called when idle, after the refresh.
+    void RunIdleScript() { m_script.RunIdleScript(); }
     /// Reads the folders again and marks the panes if something has changed.
     void Rescan();
 
@@ -79,6 +87,7 @@ private:
     NavigatorFrame m_frame;
     std::unique_ptr<vapp_library_browser::TLibraryBrowser> m_browser;
     NavigatorCommand m_script;
+    UserCommand m_user;
     bool m_previewDue = false;
     bool m_hasKeptHeights = false;
 };

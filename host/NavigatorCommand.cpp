@@ -4,6 +4,8 @@
 #include "host/NavigatorCommand.h"
 
 #include <array>
+#include <iostream>
+#include <string>
 #include <vector>
 
 #include "vapp/browser/TLibraryBrowser.h"
@@ -44,6 +46,13 @@ const SubCommandRow<NavigatorCommand> NavigatorCommand::csSubCommands[] = {
      1,
      1,
      &NavigatorCommand::AddFilterType},
+    {{"onidle", "navigator onidle SCRIPT",
+      "Runs SCRIPT whenever the window is shown, all is refreshed and nothing else is to be done; an empty "
+      "one "
+      "ends that."},
+     1,
+     1,
+     &NavigatorCommand::OnIdle},
     {{"refresh", "navigator refresh", "Marks libraries and cells for a refresh."},
      0,
      0,
@@ -68,7 +77,9 @@ const SubCommandRow<NavigatorCommand> NavigatorCommand::csSubCommands[] = {
     {{nullptr, nullptr, nullptr}, 0, 0, nullptr}};
 
 NavigatorCommand::NavigatorCommand(Tcl_Interp* interp, vapp_library_browser::TLibraryBrowser& browser)
-    : m_browser(browser), m_command(interp, "navigator", [this](Tcl_Interp* caller, TclWords words) {
+    : m_browser(browser),
+      m_interp(interp),
+      m_command(interp, "navigator", [this](Tcl_Interp* caller, TclWords words) {
           return gDispatch(*this, csSubCommands, caller, words);
       }) {}
 
@@ -92,6 +103,24 @@ int NavigatorCommand::AddFilterType(Tcl_Interp*, TclWords words) {
     return TCL_OK;
 }
 
+int NavigatorCommand::OnIdle(Tcl_Interp*, TclWords words) {
+    m_idleScript = gTextOf(words[0]);
+    return TCL_OK;
+}
+
+void NavigatorCommand::RunIdleScript() {
+    if (m_idleScript.empty() || m_isIdleScriptRunning) return;
+    // The script may put another one in its place while it runs.
+    const std::string script = m_idleScript;
+    m_isIdleScriptRunning = true;
+    const int code = Tcl_EvalEx(m_interp, script.data(), static_cast<int>(script.size()), TCL_EVAL_GLOBAL);
+    m_isIdleScriptRunning = false;
+    if (code == TCL_OK) return;
+    const char* const place = Tcl_GetVar(m_interp, "errorInfo", TCL_GLOBAL_ONLY);
+    std::cerr << "navigator: " << (place != nullptr ? place : Tcl_GetStringResult(m_interp)) << '\n';
+    m_idleScript.clear();
+}
+
 int NavigatorCommand::Refresh(Tcl_Interp*, TclWords) {
     m_browser.RequestLibraryViewDelayedPopulate();
     m_browser.RequestCellListViewDelayedPopulate(vapp_library_browser::UpdateAlways);
@@ -99,11 +128,13 @@ int NavigatorCommand::Refresh(Tcl_Interp*, TclWords) {
 }
 
 int NavigatorCommand::SelectDesign(Tcl_Interp*, TclWords words) {
+    m_hasChosen = true;
     m_browser.SetSelectedDesign(TextOf(words[0]));
     return TCL_OK;
 }
 
 int NavigatorCommand::SelectLibrary(Tcl_Interp*, TclWords words) {
+    m_hasChosen = true;
     m_browser.SelectInLibraryList(TextOf(words[0]));
     m_browser.RequestCellListViewDelayedPopulate(vapp_library_browser::UpdateAlways);
     return TCL_OK;
@@ -133,6 +164,7 @@ int NavigatorCommand::SortBy(Tcl_Interp* interp, TclWords words) {
     for (int position = 0; position < columns.GetCount(); ++position) {
         CXTPReportColumn* const column = columns.GetAt(position);
         if (column->GetCaption() != caption) continue;
+        m_hasSorted = true;
         columns.SetSortColumn(column, direction == 0);
         pane->OnReportSortOrderChanged();
         return TCL_OK;

@@ -59,7 +59,10 @@ QtShell::QtShell(Navigator& navigator)
 }
 
 QtShell::~QtShell() {
-    if (m_wasShown) KeepPlace();
+    if (m_wasShown) {
+        KeepPlace();
+        m_navigator.KeepLastView();
+    }
     // The window may live on for a moment; the console in it has nothing to talk to any more.
     delete m_dock;
     QObject::disconnect(m_idle);
@@ -145,10 +148,20 @@ void QtShell::Show() {
     gApplyTheme(m_navigator.Frame().IsDark());
     m_watcher.Watch(m_navigator.Store());
     m_idle = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                              qApp, [this] { m_navigator.Populate(); });
+                              qApp, [this] { OnIdle(); });
     m_navigator.Frame().ShowWindow(true);
     FirstLook();
+    m_navigator.ShowLastView();
     m_wasShown = true;
+}
+
+// A list that goes to a cell takes the keyboard. To somebody who typed the line that made it go there, the
+// next letters would be lost.
+void QtShell::OnIdle() {
+    const bool isTyping = m_consolePane != nullptr && m_consolePane->HasInputFocus();
+    m_navigator.Populate();
+    if (isTyping && !m_consolePane->HasInputFocus()) m_consolePane->FocusInput();
+    m_navigator.RunIdleScript();
 }
 
 // The widget's own place and size, and not the control's: those are of the client area, without the title

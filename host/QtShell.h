@@ -56,6 +56,7 @@ private:
     void ToggleConsole();
     int Exit(Tcl_Interp* interp, TclWords words);
     void FirstLook();
+    void OnIdle();
     void KeepPlace();
     void ShowPreview(const PreviewRequest& request);
 

@@ -14,6 +14,7 @@
 #include "host/DatabaseCommand.h"
 #include "host/HostCommands.h"
 #include "host/NavigatorCommand.h"
+#include "host/UserCommand.h"
 
 namespace navigator_test {
 namespace {
@@ -26,7 +27,8 @@ TEST(HelpWindowTest, ListsEveryLineThatScriptsMaySend) {
     const std::string text =
         window.findChild<QPlainTextEdit*>(QStringLiteral("helpCommands"))->toPlainText().toStdString();
     int listed = 0;
-    for (const auto& commands : {DatabaseCommand::Help(), HostCommands::Help(), NavigatorCommand::Help()}) {
+    for (const auto& commands :
+         {DatabaseCommand::Help(), HostCommands::Help(), NavigatorCommand::Help(), UserCommand::Help()}) {
         for (const CommandHelp& command : commands) {
             EXPECT_THAT(text, HasSubstr(command.usage));
             ++listed;

@@ -23,14 +23,18 @@ struct Ended {
     std::string errors;
 };
 
-/// Runs the program to its end. `locale` is its LC_ALL.
-Ended RunProgram(const QStringList& words, const QString& locale = QStringLiteral("C.UTF-8")) {
-    QProcess process;
+/// The environment of a program without a desktop.
+QProcessEnvironment BareEnvironment() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), locale);
-    environment.remove(QStringLiteral("DISPLAY"));
-    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QLatin1String(name));
+    return environment;
+}
+
+/// Runs the program to its end.
+Ended RunProgramIn(const QProcessEnvironment& environment, const QStringList& words) {
+    QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(NAVIGATOR_PROGRAM), words);
     constexpr int cnMilliseconds = 120000;
@@ -40,6 +44,13 @@ Ended RunProgram(const QStringList& words, const QString& locale = QStringLitera
     }
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
+}
+
+/// `locale` is its LC_ALL.
+Ended RunProgram(const QStringList& words, const QString& locale = QStringLiteral("C.UTF-8")) {
+    QProcessEnvironment environment = BareEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), locale);
+    return RunProgramIn(environment, words);
 }
 
 QString PathOf(const std::filesystem::path& path) {
@@ -108,6 +119,46 @@ TEST(NavigatorProgram, ScreenshotHasTheSizeTimesTheScale) {
     EXPECT_EQ(0, ended.status) << ended.errors;
     const QImage picture(file);
     EXPECT_EQ(QSize(800, 1400), picture.size());
+}
+
+// A user's whole visit, and the next one: the script chooses, sorts and resizes by the operations that mouse
+// and keys reach, in the real program with its window off screen.
+TEST(NavigatorProgram, AScriptDrivesAWholeVisitAndFindsAllAsItWas) {
+    const TempFolder home;
+    std::filesystem::create_directories(home.Path() / "run");
+    std::filesystem::permissions(home.Path() / "run", std::filesystem::perms::owner_all);
+    QProcessEnvironment environment = BareEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME"})
+        environment.insert(QLatin1String(name), PathOf(home.Path()));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), PathOf(home.Path() / "run"));
+    const auto visit = home.Write("visit.tcl",
+                                  "navigator onidle {\n"
+                                  "  navigator onidle {}\n"
+                                  "  user click library logic\n"
+                                  "  user settle\n"
+                                  "  user click header View\n"
+                                  "  user click header View\n"
+                                  "  user resize 700 860\n"
+                                  "  user drag bar 0 -60\n"
+                                  "  user drag bar 1 -40\n"
+                                  "  user settle\n"
+                                  "  puts [user state]\n"
+                                  "  exit\n"
+                                  "}\n");
+    const auto look = home.Write("look.tcl", "navigator onidle { puts [user state]; exit }\n");
+    const Ended first = RunProgramIn(environment, {QStringLiteral("--script"), PathOf(visit)});
+    ASSERT_EQ(0, first.status) << first.errors;
+    EXPECT_THAT(first.output, AllOf(HasSubstr("design sample libraries logic order {View decreasing}"),
+                                    HasSubstr(" heights {"), HasSubstr(" 700 860}")));
+    const Ended second = RunProgramIn(environment, {QStringLiteral("--script"), PathOf(look)});
+    ASSERT_EQ(0, second.status) << second.errors;
+    // The cell that had the focus is the user's affair: it is chosen anew.
+    const auto withoutCell = [](std::string text) {
+        const std::size_t from = text.find(" cell ");
+        return from == std::string::npos ? text : text.erase(from, text.find(" heights ") - from);
+    };
+    EXPECT_EQ(withoutCell(first.output), withoutCell(second.output));
 }
 
 TEST(NavigatorProgram, DumpsTheInstalledSchematicLibraries) {

@@ -191,6 +191,18 @@ TEST_F(QtShellTest, OneKeyGoesToTheConsoleAndBack) {
     EXPECT_NE(nullptr, QApplication::focusWidget());
 }
 
+TEST_F(QtShellTest, ALineThatMovesTheListLeavesTheKeyboardInTheConsole) {
+    Run run(*this);
+    run.Window()->activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(run.Window()->isActiveWindow(), 10'000);
+    QTest::keyClick(run.Window(), Qt::Key_T, Qt::ControlModifier);
+    QWidget* const input = run.Console()->findChild<QWidget*>(QStringLiteral("consoleInput"));
+    QTest::keyClicks(input, QStringLiteral("database select lib inv symbol"));
+    QTest::keyClick(input, Qt::Key_Return);
+    QTRY_VERIFY_WITH_TIMEOUT(run.navigator.Browser().GetFocusedCell().cell == "inv", 10'000);
+    EXPECT_EQ(input, QApplication::focusWidget());
+}
+
 TEST_F(QtShellTest, AScriptEndsTheProgramWithItsStatus) {
     Run run(*this);
     EXPECT_EQ(TCL_ERROR, Tcl_Eval(run.navigator.Interp(), "exit some words"));

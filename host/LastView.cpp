@@ -1,0 +1,109 @@
+/// Three entries of the settings. Names may hold anything, so that lists of them are kept as Tcl writes
+/// lists.
+
+#include "host/LastView.h"
+
+#include <tcl.h>
+
+#include <string>
+#include <vector>
+
+#include "vapp/browser/TLibraryBrowser.h"
+#include "vapp/browser/TLibraryView.h"
+#include "vapp/celllist/TCellListView.h"
+#include "vapp/toolkit/CWinAppEx.h"
+
+namespace navigator {
+
+namespace {
+
+constexpr char csSection[] = "LastView";
+constexpr char csDesign[] = "Design";
+constexpr char csLibraries[] = "Libraries";
+constexpr char csOrder[] = "Order";
+constexpr char csIncreasing[] = "increasing";
+constexpr char csDecreasing[] = "decreasing";
+
+std::string ListOf(const std::vector<std::string>& words) {
+    std::vector<const char*> pointers;
+    pointers.reserve(words.size());
+    for (const std::string& word : words)
+        pointers.push_back(word.c_str());
+    char* const merged = Tcl_Merge(static_cast<int>(pointers.size()), pointers.data());
+    std::string list(merged);
+    Tcl_Free(merged);
+    return list;
+}
+
+/// The words of a list; none if it isn't one.
+std::vector<std::string> WordsOf(const CString& list) {
+    int count = 0;
+    const char** words = nullptr;
+    if (Tcl_SplitList(nullptr, list.GetString(), &count, &words) != TCL_OK) return {};
+    std::vector<std::string> texts(words, words + count);
+    Tcl_Free(reinterpret_cast<char*>(words));
+    return texts;
+}
+
+CXTPReportColumn* FindColumn(const CXTPReportColumns& columns, const std::string& caption) {
+    for (int position = 0; position < columns.GetCount(); ++position) {
+        CXTPReportColumn* const column = columns.GetAt(position);
+        if (column->GetCaption() == caption.c_str()) return column;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void gKeepView(CWinAppEx& app, const vapp_library_browser::TLibraryBrowser& browser) {
+    std::vector<std::string> libraries;
+    for (const CStringIU& library : browser.GetSelectedLibrariesSet())
+        libraries.emplace_back(library.Payload());
+    std::vector<std::string> order;
+    if (const auto* const cells = browser.GetCellListView()) {
+        const CXTPReportColumnOrder& sorted = cells->GetReport().GetColumns().GetSortOrder();
+        for (int place = 0; place < sorted.GetCount(); ++place) {
+            const CXTPReportColumn& column = *sorted.GetAt(place);
+            order.emplace_back(column.GetCaption().GetString());
+            order.emplace_back(column.IsSortedIncreasing() ? csIncreasing : csDecreasing);
+        }
+    }
+    app.WriteProfileString(csSection, csDesign, browser.GetSelectedDesign().Payload());
+    app.WriteProfileString(csSection, csLibraries, ListOf(libraries).c_str());
+    app.WriteProfileString(csSection, csOrder, ListOf(order).c_str());
+}
+
+bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser& browser) {
+    auto* const pane = browser.GetLibraryView();
+    const CString kept = app.GetProfileString(csSection, csDesign);
+    if (pane == nullptr || kept.IsEmpty()) return false;
+    const CStringU design(kept.GetString(), TextEncoding::Utf8Auto);
+    browser.SetSelectedDesign(design);
+    // Libraries of the same name in another design are other ones.
+    if (browser.GetSelectedDesign() != design) return false;
+    auto& list = pane->GetLibraryListCtrl();
+    RowSelection rows;
+    for (const std::string& library : WordsOf(app.GetProfileString(csSection, csLibraries))) {
+        for (int row = 0; row < list.GetItemCount(); ++row)
+            if (library == list.GetItemText(row).Payload()) rows.Add(row, row);
+    }
+    if (rows.IsEmpty()) return true;
+    list.SelectItems(rows);
+    list.EnsureVisible(rows.NextFrom(0));
+    return true;
+}
+
+void gRestoreOrder(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser& browser) {
+    auto* const cells = browser.GetCellListView();
+    const std::vector<std::string> words = WordsOf(app.GetProfileString(csSection, csOrder));
+    if (cells == nullptr || words.empty()) return;
+    CXTPReportColumns& columns = cells->GetReport().GetColumns();
+    columns.SetSortColumn(nullptr, true);
+    for (std::size_t word = 0; word + 1 < words.size(); word += 2) {
+        if (CXTPReportColumn* const column = FindColumn(columns, words[word]))
+            columns.GetSortOrder().Add(column, words[word + 1] != csDecreasing);
+    }
+    cells->OnReportSortOrderChanged();
+}
+
+}  // namespace navigator

@@ -1,0 +1,48 @@
+#pragma once
+/// The Tcl command `user`: a script does what a user does, by the same operations of the controls that a
+/// mouse reaches, and looks at what a user sees. It works with and without a screen.
+
+#include <functional>
+#include <span>
+
+#include "host/CommandTable.h"
+#include "host/TclCommand.h"
+
+class CFrameWnd;
+namespace vapp_library_browser {
+class TLibraryBrowser;
+}
+
+namespace navigator {
+
+class UserCommand {
+public:
+    /// Registers the command. Frame and browser must outlive this object.
+    /// @param settle  refreshes what is due
+    UserCommand(Tcl_Interp* interp, CFrameWnd& frame, vapp_library_browser::TLibraryBrowser& browser,
+                std::function<void()> settle);
+
+    /// All sub-commands, by name.
+    static std::span<const CommandHelp> Help();
+
+private:
+    static const SubCommandRow<UserCommand> csSubCommands[];
+
+    int Click(Tcl_Interp* interp, TclWords words);
+    int Drag(Tcl_Interp* interp, TclWords words);
+    int Place(Tcl_Interp* interp, TclWords words);
+    int Resize(Tcl_Interp* interp, TclWords words);
+    int Settle(Tcl_Interp* interp, TclWords words);
+    int State(Tcl_Interp* interp, TclWords words);
+
+    int ClickLibrary(Tcl_Interp* interp, Tcl_Obj* library, bool isAdding);
+    int ClickHeader(Tcl_Interp* interp, Tcl_Obj* caption, bool isAdding);
+    int ClickRow(Tcl_Interp* interp, Tcl_Obj* row, bool isAdding);
+
+    CFrameWnd& m_frame;
+    vapp_library_browser::TLibraryBrowser& m_browser;
+    std::function<void()> m_settle;
+    TclCommand m_command;
+};
+
+}  // namespace navigator

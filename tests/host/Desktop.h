@@ -1,0 +1,62 @@
+#pragma once
+/// A desktop of its own for a test: an X server without a screen, real mouse and keys, and programs on it.
+/// Nothing waits for a time: each wait is for a condition, with a limit that no sane machine reaches.
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace navigator_test {
+
+/// The server; gone with this object.
+class Desktop {
+public:
+    Desktop();
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    /// Why there is no desktop; empty if there is one.
+    [[nodiscard]] const std::string& WhyNot() const { return m_whyNot; }
+    /// ":7" or the like.
+    [[nodiscard]] const QString& Name() const { return m_name; }
+    /// Runs xdotool with these words; its output, or nothing if it failed.
+    std::optional<QString> Do(const QStringList& words) const;
+
+private:
+    QProcess m_server;
+    QString m_name;
+    std::string m_whyNot;
+};
+
+/// The navigator on a desktop, with settings and run-time files in a folder of its own.
+class DesktopProgram {
+public:
+    DesktopProgram(const Desktop& desktop, const std::filesystem::path& home);
+    ~DesktopProgram();
+
+    void Start(const QStringList& words);
+    /// Waits for a line of the standard output that begins with the word and is what is wanted; gives what
+    /// follows the word. Lines that have gone by count if none came after them.
+    std::optional<QString> WaitFor(const QString& word, const std::function<bool(const QString&)>& isWanted);
+    /// Waits for the end; the exit status, -1 for a violent end or none.
+    int WaitForEnd();
+    void Kill();
+    /// Gives the program's main window the keyboard, as a click on its title would: there is no window
+    /// manager.
+    bool Focus();
+    [[nodiscard]] std::string Errors();
+    [[nodiscard]] qint64 Pid() const { return m_process.processId(); }
+
+private:
+    const Desktop& m_desktop;
+    QProcess m_process;
+    QString m_unread;
+    QString m_lastLine;
+};
+
+}  // namespace navigator_test
