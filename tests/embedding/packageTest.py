@@ -57,7 +57,12 @@ def output_of(program, *words):
         command = [*OPTIONS.emulator, f"{program}.exe"]
         environment["WINEPATH"] = str(PREFIX / "bin")
     else:
-        environment["LD_LIBRARY_PATH"] = str(LIBRARIES)
+        if PREFIX not in program.parents:
+            environment["LD_LIBRARY_PATH"] = str(LIBRARIES)
+        # What they keep and lock stays in the build folder.
+        home = OPTIONS.work / "home"
+        home.mkdir(mode=0o700, exist_ok=True)
+        environment.update({name: str(home) for name in ("HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR")})
     done = subprocess.run([str(word) for word in [*command, *words]], env={**os.environ, **environment},
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120)
     if done.returncode != 0:
@@ -135,8 +140,8 @@ class Layout(unittest.TestCase):
         if not OPTIONS.qt:
             self.skipTest("the program needs Qt")
         navigator = PREFIX / "bin/navigator"
-        self.assertIn(OPTIONS.version, run(navigator, "--version"))
-        self.assertIn("nand2", run(navigator, "--dump", PREFIX / "share/vapp/examples/sample"))
+        self.assertIn(OPTIONS.version, output_of(navigator, "--version"))
+        self.assertIn("nand2", output_of(navigator, "--dump", PREFIX / "share/vapp/examples/sample"))
 
 
 class Steps(unittest.TestCase):
