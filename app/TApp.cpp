@@ -131,7 +131,7 @@ void TApp::CheckProcessor() {
     if (HasSse()) return;
     const TMessageBox box(nullptr, "Error", csNoSse, MB_ICONERROR);
     // Without a toolkit that shows boxes the system's own says it.
-    if (!box.Ask()) vapp_platform::ShowMessageBox(csNoSse, "Error");
+    if (!box.Ask()) vapp_platform::ShowMessageBox(csNoSse, "Error", vapp_platform::BoxStyle::Error);
 }
 
 unsigned TApp::GetSplashScreenBitmapID() {

@@ -2,11 +2,12 @@
 /// Keeps the host's one hook and applies it to single names.
 #include "browser/SanitizeHook.h"
 
+#include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/TclBridge.h"
 
 namespace {
 
-vapp_library_browser::TSanitizeHook s_hook = nullptr;
+CStringU (*s_hook)(const CStringU&) = nullptr;
 
 }  // namespace
 
@@ -16,12 +17,17 @@ void vapp::gSetTclSanitizeInputUPointer(CStringU (*hook)(const CStringU&)) {
 
 namespace vapp_library_browser {
 
-TSanitizeHook GetSanitizeHook() noexcept {
-    return s_hook;
+bool HasSanitizeHook() noexcept {
+    return s_hook != nullptr;
+}
+
+CStringU CallSanitizeHook(const CStringU& name) {
+    const HostCallScope scope;
+    return s_hook(CStringU(name));
 }
 
 CStringU SanitizeTclInput(const CStringU& name) {
-    return s_hook == nullptr ? name : s_hook(CStringU(name));
+    return HasSanitizeHook() ? CallSanitizeHook(name) : name;
 }
 
 }  // namespace vapp_library_browser

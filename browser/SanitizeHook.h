@@ -6,9 +6,11 @@
 
 namespace vapp_library_browser {
 
-using TSanitizeHook = CStringU (*)(const CStringU&);
+/// Whether the host has set a hook: without one nothing is copied.
+[[nodiscard]] bool HasSanitizeHook() noexcept;
 
-/// The hook, or null.
-[[nodiscard]] TSanitizeHook GetSanitizeHook() noexcept;
+/// What the hook makes of the name. The hook is the host's code: it gets a text of its own, whatever becomes
+/// of the caller's meanwhile, and the navigator's panes outlive it.
+[[nodiscard]] CStringU CallSanitizeHook(const CStringU& name);
 
 }  // namespace vapp_library_browser

@@ -66,13 +66,15 @@ bool TLibraryBrowser::Initialize(CFrameWnd* parent, Tcl_Interp* interp,
     return true;
 }
 
+// All heights before the first pane, whose own settings are read as it comes.
 void TLibraryBrowser::CreatePanes() {
-    int row = 0;
-    for (const TPaneRow& pane : PaneRows()) {
-        int height = 0;
-        TProfileSection(false).ExchangeInteger(HeightKey(pane), height, pane.defaultHeight);
-        CreateView(row++, 0, pane.paneClass, {0, height});
+    std::array<int, 3> heights{};
+    for (std::size_t row = 0; row < heights.size(); ++row) {
+        const TPaneRow& pane = PaneRows()[row];
+        TProfileSection(false).ExchangeInteger(HeightKey(pane), heights[row], pane.defaultHeight);
     }
+    for (std::size_t row = 0; row < heights.size(); ++row)
+        CreateView(static_cast<int>(row), 0, PaneRows()[row].paneClass, {0, heights[row]});
 }
 
 void TLibraryBrowser::ConnectPanes(Tcl_Interp* interp) {
@@ -86,6 +88,7 @@ void TLibraryBrowser::ConnectPanes(Tcl_Interp* interp) {
     libraries->SetPreviewView(preview);
     libraries->SetTclInterp(interp);
     preview->SetLibraryView(libraries);
+    // As the pane stands: one that was made just now is of no editor until ModifyForQEdit.
     if (libraries->GetQEdit()) cells->SwitchSetupTab(cnTabOfSchematicEditor);
 }
 
@@ -146,7 +149,7 @@ void TLibraryBrowser::Populate() {
 CString TLibraryBrowser::GetExcludeViewNames() const {
     CStringU names;
     TProfileSection(false).ExchangeText(csExcludeViewNamesKey, names, csDefaultExcludeViewNames);
-    return names.StripMarker();
+    return names.ToAnsi();
 }
 
 CStringU TLibraryBrowser::GetReservedBy(const TLibCellView& view) const {

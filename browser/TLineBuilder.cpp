@@ -26,9 +26,7 @@ TLineBuilder& TLineBuilder::Text(const CStringU& text) {
 }
 
 TLineBuilder& TLineBuilder::Name(const CStringU& name) {
-    const TSanitizeHook hook = GetSanitizeHook();
-    // The hook is the host's code: it gets a text of its own, whatever becomes of ours meanwhile.
-    return hook == nullptr ? Text(name) : Text(hook(CStringU(name)));
+    return HasSanitizeHook() ? Text(CallSanitizeHook(name)) : Text(name);
 }
 
 TLineBuilder& TLineBuilder::Triple(const TLibCellView& cell) {

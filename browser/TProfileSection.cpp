@@ -24,6 +24,14 @@ void WriteTextSetting(const CString& section, const char* key, const CStringU& v
     if (CWinAppEx* app = CWinAppEx::GetApp()) app->WriteProfileString(section, key, value.StripMarker());
 }
 
+// A setting that is kept as the number 0 or 1; anything else is no text.
+CStringU DigitSetting(const CString& section, const char* key) {
+    constexpr int cnNeither = -1;
+    const CWinAppEx* app = CWinAppEx::GetApp();
+    const int number = app != nullptr ? app->GetProfileInt(section, key, cnNeither) : cnNeither;
+    return number == 0 || number == 1 ? CStringU(number == 0 ? "0" : "1") : CStringU();
+}
+
 // The spellings that turn a setting away from its default. The single letters and digits are taken in these
 // cases only; the words in any.
 struct TBoolSpellings {
@@ -52,7 +60,9 @@ void TProfileSection::ExchangeBool(const char* key, bool& value, bool defaultVal
         WriteTextSetting(section, key, value ? "true" : "false");
         return;
     }
-    const CStringU text = ReadTextSetting(section, key, defaultValue ? "true" : "false");
+    CStringU text = ReadTextSetting(section, key, CStringU());
+    // In a file that a user edits, a digit is a number.
+    if (text.IsEmpty()) text = DigitSetting(section, key);
     value = IsSpelled(text, defaultValue ? csFalse : csTrue) != defaultValue;
 }
 

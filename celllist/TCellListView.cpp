@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "browser/MainWindow.h"
 #include "celllist/FilterHistory.h"
 #include "celllist/FilterImages.h"
 #include "vapp/browser/Messages.h"
@@ -125,9 +126,7 @@ void TCellListView::OnCbnCloseupFilterCombo() {
 
 // With a refresh due, the rows that the host would ask about are not those that the user has selected.
 void TCellListView::OnReportSelectionChanged() {
-    if (!m_needsPopulate) {
-        if (CWnd* mainWnd = gGetMainWnd()) mainWnd->SendMessage(WM_LN_HOSTNOTIFY, cnSelectionChanged);
-    }
+    if (!m_needsPopulate) AskMainWindow(WM_LN_HOSTNOTIFY, cnSelectionChanged);
     if (m_previewView != nullptr) m_previewView->DisplayNewPreview();
 }
 
@@ -159,8 +158,7 @@ bool TCellListView::OnNotify(Notification& notification, LRESULT& result) {
 
 // While the column chooser is on the screen, the keyboard stays with it.
 void TCellListView::OnSetFocus() {
-    CWnd* mainWnd = gGetMainWnd();
-    if (mainWnd == nullptr || mainWnd->SendMessage(WM_LN_COLCHOOSERSHOWN) == 0) CFormView::OnSetFocus();
+    if (AskMainWindow(WM_LN_COLCHOOSERSHOWN) == 0) CFormView::OnSetFocus();
 }
 
 // --- Layout --------------------------------------------------------------------------------------------

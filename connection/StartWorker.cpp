@@ -17,7 +17,7 @@ std::unique_ptr<vapp_platform::ChildProcess> StartWorker(const vapp_platform::Ch
     vapp_platform::StartResult started = vapp_platform::ChildProcess::Start(start);
     if (started.child == nullptr) {
         const CString text = vlang::gTranslate("__$$Translatable$$_Create Process Failed");
-        vapp_platform::ShowMessageBox(text, text);
+        vapp_platform::ShowMessageBox(text, text, vapp_platform::BoxStyle::Plain);
     }
     return std::move(started.child);
 }

@@ -16,12 +16,12 @@ void gSetMessageBox(TShowMessageBox show) noexcept {
 
 namespace vapp_platform {
 
-void ShowMessageBox(const CString& text, const CString& caption) {
+void ShowMessageBox(const CString& text, const CString& caption, BoxStyle style) {
     const TShowMessageBox show = gShow.load();
     if (show != nullptr) {
         show(text, caption);
     } else {
-        ShowSystemMessageBox(text, caption);
+        ShowSystemMessageBox(text, caption, style);
     }
 }
 

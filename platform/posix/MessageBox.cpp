@@ -6,7 +6,7 @@
 
 namespace vapp_platform {
 
-void ShowSystemMessageBox(const char* text, const char* caption) noexcept {
+void ShowSystemMessageBox(const char* text, const char* caption, BoxStyle /*style*/) noexcept {
     std::fprintf(stderr, "%s: %s\n", caption, text);
 }
 

@@ -12,8 +12,8 @@ CString BoxText(const char* text) {
     return CStringU(text, TextEncoding::Utf8Auto).ToAnsi();
 }
 
-void ShowSystemMessageBox(const char* text, const char* caption) noexcept {
-    MessageBoxA(nullptr, BoxText(text), BoxText(caption), MB_OK);
+void ShowSystemMessageBox(const char* text, const char* caption, BoxStyle style) noexcept {
+    MessageBoxA(nullptr, BoxText(text), BoxText(caption), style == BoxStyle::Error ? MB_ICONERROR : MB_OK);
 }
 
 }  // namespace vapp_platform

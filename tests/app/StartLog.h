@@ -46,6 +46,8 @@ class LoggingPeers : public RecordingPeers {
 public:
     explicit LoggingPeers(StartLog& log) : m_log(log) {}
 
+    const TSplashScreen* splash = nullptr;  ///< the last one that came
+
     std::unique_ptr<Peer> CreateSplash(TSplashScreen& splash) override {
         const CPoint corner = splash.GetPosition().value_or(CPoint{-1, -1});
         m_log.push_back(
@@ -54,6 +56,7 @@ public:
             std::to_string(splash.GetVersionYLocation()) + " in " + std::to_string(splash.GetVersionColor()) +
             ", key " + std::to_string(splash.GetColorKey()) + ", for " + std::to_string(splash.GetTimeOut()) +
             " ms, corner " + std::to_string(corner.x) + ' ' + std::to_string(corner.y));
+        this->splash = &splash;
         return RecordingPeers::CreateSplash(splash);
     }
     std::optional<int> ShowMessageBox(const TMessageBox& box) override {

@@ -224,7 +224,11 @@ TEST_F(App, WithoutAToolkitTheSystemWarns) {
     const NoSse noSse;
     EXPECT_EQ(app.InitInstance(), 1);
     gSetMessageBox(nullptr);
-    EXPECT_EQ(gSaid.substr(0, 22), "Error/Vornex EDA Tools");
+    EXPECT_EQ(
+        gSaid,
+        "Error/Vornex EDA Tools can only work on CPUs that are compatible with Pentium III or better and on "
+        "Windows 2000 or Windows XP or newer.(We detected that SSE SIMD instruction set is not present on "
+        "your system.)\n\nSome elements of this program could still work, but it will be unstable.");
 }
 
 TEST_F(App, TheSplashObeysTheHost) {
@@ -235,6 +239,16 @@ TEST_F(App, TheSplashObeysTheHost) {
     EXPECT_FALSE(app.IsSplashScreenVisible()) << "nothing to show yet";
     ASSERT_EQ(app.InitInstance(), 1);
     EXPECT_TRUE(app.IsSplashScreenVisible());
+    EXPECT_EQ(app.TApp::GetSplashScreenVersionXLocation(), 11u) << "as the splash has it";
+    EXPECT_EQ(app.TApp::GetSplashScreenVersionYLocation(), 22u);
+    EXPECT_EQ(app.TApp::GetSplashScreenVersionColor(), 33ul);
+    const TSplashScreen* splash = peers.splash;
+    ASSERT_NE(splash, nullptr);
+    const CStringU quiet = splash->GetStartupWaitMessage();
+    app.ShowStartupWaitMessage();
+    EXPECT_NE(splash->GetStartupWaitMessage(), quiet);
+    app.HideStartupWaitMessage();
+    EXPECT_EQ(splash->GetStartupWaitMessage(), quiet);
     app.HideSplashScreen();
     EXPECT_FALSE(app.IsSplashScreenVisible());
 }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 #include "tests/browser/RecordingHost.h"
@@ -21,9 +22,11 @@ class ThemedFrame : public CFrameWnd {
 public:
     ~ThemedFrame() override { DestroyWindow(); }
     bool dark = false;
+    std::function<void(UINT)> heard;  ///< what the host does when it is asked, or told
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (heard) heard(message);
         if (message == vapp_library_browser::WM_LN_ISDARKTHEME) return dark ? 1 : 0;
         return CFrameWnd::WindowProc(message, wParam, lParam);
     }

@@ -113,6 +113,72 @@ TEST_F(TLibraryBrowserEnd, InsideOfAnyLineIsSurvived) {
     }
 }
 
+TEST_F(TLibraryBrowserEnd, InsideOfAnyMessageIsSurvived) {
+    struct Case {
+        UINT message;
+        std::function<void()> action;
+    };
+    const Case cases[] = {
+        {WM_LN_HOSTNOTIFY, [this] { Cells().GetReport().ClickedByUser(1, {}); }},
+        {WM_LN_ISDARKTHEME, [this] { Refresh(); }},
+        {WM_LN_ISDARKTHEME, [this] { PaintLibraries(); }},
+        {WM_LN_ISDARKTHEME, [this] { PaintCells(); }},
+        {WM_LN_COLCHOOSERSHOWN, [this] { Cells().SetFocus(); }},
+    };
+    m_host.AddCommand("column");
+    for (const Case& test : cases) {
+        for (const bool again : {false, true}) {
+            SCOPED_TRACE(std::to_string(test.message) + (again ? ", made again at once" : ""));
+            ShowAll();
+            ASSERT_EQ(m_browser.GetRowCount(), 3);
+            int times = 0;
+            m_frame.heard = [&](UINT message) {
+                if (message != test.message || ++times > 1) return;
+                m_browser.DestroyWindow();
+                if (again) static_cast<void>(m_browser.Initialize(&m_frame, m_host.GetInterp(), nullptr));
+            };
+            test.action();
+            m_frame.heard = nullptr;
+            EXPECT_GE(times, 1) << "nobody was asked";
+            m_browser.DestroyWindow();
+            EXPECT_TRUE(m_document.GetViews().empty());
+        }
+    }
+}
+
+std::function<void()> gHookAction;
+
+TEST_F(TLibraryBrowserEnd, InsideOfTheHookIsSurvived) {
+    const std::function<void()> actions[] = {
+        [this] { PaintLibraries(); },
+        [this] { PaintCells(); },
+        [this] { Preview().DisplayNewPreview(); },
+        [this] { m_browser.RequestCellListViewDelayedPopulate(UpdateAlways), m_browser.Populate(); },
+    };
+    m_host.AddCommand("column");
+    for (std::size_t action = 0; action < std::size(actions); ++action) {
+        // In the course of a line the hook comes once for each name.
+        for (const int call : {1, 2, 3}) {
+            SCOPED_TRACE(std::to_string(action) + ", call " + std::to_string(call));
+            ShowAll();
+            int times = 0;
+            gHookAction = [&] {
+                if (++times == call) m_browser.DestroyWindow();
+            };
+            vapp::gSetTclSanitizeInputUPointer([](const CStringU& name) {
+                gHookAction();
+                return name;
+            });
+            actions[action]();
+            vapp::gSetTclSanitizeInputUPointer(nullptr);
+            EXPECT_GE(times, 1);
+            m_browser.DestroyWindow();
+            EXPECT_TRUE(m_document.GetViews().empty());
+        }
+    }
+    gHookAction = nullptr;
+}
+
 TEST_F(TLibraryBrowserEnd, WithTheFrameInsideOfALineIsSurvived) {
     ShowAll();
     m_host.Handle("database all_libs", [this](Tcl_Interp*) {

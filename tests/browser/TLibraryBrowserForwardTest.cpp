@@ -104,10 +104,14 @@ TEST_F(TLibraryBrowserForwardTest, TheSchematicEditorHasNoChoiceOfDesigns) {
 }
 
 TEST_F(TLibraryBrowserForwardTest, ThePreviewShowsWhatTheHostGives) {
-    m_browser.SetPreview(false, "inv", nullptr);
+    int pixels = 0;
+    const auto bitmap = reinterpret_cast<HBITMAP>(&pixels);
+    m_browser.SetPreview(false, "inv", bitmap);
     EXPECT_EQ(Preview().GetCaption().GetWindowText(), CString("inv"));
+    EXPECT_EQ(Preview().GetPicture().GetImage(), bitmap);
     m_browser.SetPreview(true, "ignored", nullptr);
     EXPECT_TRUE(Preview().GetCaption().GetWindowText().IsEmpty());
+    EXPECT_EQ(Preview().GetPicture().GetImage(), nullptr);
 }
 
 // --- The cell pane -------------------------------------------------------------------------------------
@@ -146,7 +150,7 @@ TEST_F(TLibraryBrowserForwardTest, ColumnsOfTheHost) {
     m_host.AddCommand("column");
     m_host.AnswerStart("column", "text");
     const int before = Cells().GetReport().GetColumns().GetCount();
-    m_browser.AddCellViewListColumn("By command", "column", true, false);
+    m_browser.AddCellViewListColumn("By command", "column", false, true);
     m_browser.AddCellViewListColumn(
         "By function", [](const TLibCellView& cell) { return cell.cell; }, true, true);
     auto& columns = Cells().GetReport().GetColumns();
@@ -157,6 +161,8 @@ TEST_F(TLibraryBrowserForwardTest, ColumnsOfTheHost) {
     EXPECT_EQ(command->GetCaption(), CString("By command"));
     EXPECT_EQ(command->GetCellText(m_view), CStringU("text"));
     EXPECT_EQ(function->GetCellText(m_view), CStringU("inv"));
+    EXPECT_FALSE(command->GetDefaultVisible(TCellNamesReportCtrl::Setup1));
+    EXPECT_TRUE(function->GetDefaultVisible(TCellNamesReportCtrl::Setup1));
     EXPECT_FALSE(function->GetDefaultVisible(TCellNamesReportCtrl::Setup3));
 }
 
@@ -181,9 +187,13 @@ TEST_F(TLibraryBrowserForwardTest, TabsAndExcludedViews) {
 }
 
 TEST_F(TLibraryBrowserForwardTest, SettingsOfTheCellList) {
+    m_app.WriteProfileString("LibraryNavigator", "ShowVias", "false");
     m_browser.SerializeSetup(false);
+    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "ShowVias", "none"), CString("false"))
+        << "read only";
+    m_app.WriteProfileString("LibraryNavigator", "ShowVias", "overwritten");
     m_browser.SerializeSetup(true);
-    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "ShowVias", "none"), CString("true"));
+    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "ShowVias", "none"), CString("false"));
 }
 
 TEST_F(TLibraryBrowserForwardTest, DocumentUpdatesReachThePanes) {

@@ -75,9 +75,34 @@ TEST_F(TLibraryBrowserTest, HostileHeightsAreSurvived) {
     m_app.WriteProfileInt("LibraryNavigator", "toolLibrariesPaneHeight", -5);
     m_app.WriteProfileInt("LibraryNavigator", "toolCellsPaneHeight", 2147483647);
     Initialize();
-    m_frame.MoveWindow({0, 0, 100, 100});
-    m_frame.MoveWindow({0, 0, 1000, 1000});
-    EXPECT_GE(Libraries().GetRect().Height(), 0);
+    for (const int height : {100, 1000}) {
+        m_frame.MoveWindow({0, 0, 1000, height});
+        EXPECT_EQ(Libraries().GetRect().Height(), 0);
+        EXPECT_LE(Cells().GetRect().bottom, height);
+        EXPECT_GT(Cells().GetRect().Height(), height / 2);
+        EXPECT_GE(Preview().GetRect().Height(), 0);
+    }
+}
+
+TEST_F(TLibraryBrowserTest, HeightsAreThoseOnTheScreenThoughTheFrameIsSmall) {
+    Initialize();
+    m_frame.MoveWindow({0, 0, 400, 100});
+    const int shown[] = {Libraries().GetWindowRect().Height(), Cells().GetWindowRect().Height(),
+                         Preview().GetWindowRect().Height()};
+    ASSERT_LT(shown[0], 200) << "what was wanted doesn't fit";
+    m_browser.DestroyWindow();
+    EXPECT_EQ(m_app.GetProfileInt("LibraryNavigator", "toolLibrariesPaneHeight", -1), shown[0]);
+    EXPECT_EQ(m_app.GetProfileInt("LibraryNavigator", "toolCellsPaneHeight", -1), shown[1]);
+    EXPECT_EQ(m_app.GetProfileInt("LibraryNavigator", "toolPreviewPaneHeight", -1), shown[2]);
+}
+
+TEST_F(TLibraryBrowserTest, AllHeightsAreReadBeforeTheFirstPaneComes) {
+    Initialize();
+    m_browser.DestroyWindow();
+    m_frame.dark = false;
+    TLibraryBrowser other;
+    EXPECT_FALSE(other.Initialize(nullptr, m_host.GetInterp(), nullptr)) << "no window to stand in";
+    EXPECT_EQ(other.GetRowCount(), 0);
 }
 
 TEST_F(TLibraryBrowserTest, ADocumentGetsEachPaneOnce) {
@@ -176,4 +201,7 @@ TEST_F(TLibraryBrowserTest, TheExcludedViewsAreASettingWithADefault) {
                       "symbol_xform"));
     m_app.WriteProfileString("LibraryNavigator", "ExcludeViewNames", "");
     EXPECT_TRUE(m_browser.GetExcludeViewNames().IsEmpty()) << "set to nothing is set";
+    m_app.WriteProfileString("LibraryNavigator", "ExcludeViewNames", "verst\xC3\xA4rker");
+    EXPECT_EQ(CStringU(m_browser.GetExcludeViewNames()), CStringU(u"verst\u00E4rker"))
+        << "in the active code page, as other narrow texts";
 }

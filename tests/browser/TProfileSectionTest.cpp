@@ -36,11 +36,28 @@ TEST_F(TProfileSectionTest, ABoolThatIsFalseByDefaultIsTrueForItsSpellingsOnly) 
 }
 
 TEST_F(TProfileSectionTest, ABoolThatIsTrueByDefaultIsFalseForItsSpellingsOnly) {
-    for (const char* text : {"false", "FALSE", "no", "No", "0", "n", "N"}) {
+    for (const char* text : {"false", "FALSE", "no", "No", "NO", "nO", "0", "n", "N"}) {
         EXPECT_FALSE(ReadBool(text, true)) << text;
     }
     for (const char* text : {"f", "off", "no ", "", "00", "true", "x"})
         EXPECT_TRUE(ReadBool(text, true)) << text;
+}
+
+TEST_F(TProfileSectionTest, ABoolThatIsKeptAsANumberIsItsDigit) {
+    const auto read = [this](int stored, bool defaultValue) {
+        m_app.WriteProfileInt("LibraryNavigator", "Flag", stored);
+        bool value = !defaultValue;
+        TProfileSection(false).ExchangeBool("Flag", value, defaultValue);
+        return value;
+    };
+    EXPECT_TRUE(read(1, false));
+    EXPECT_FALSE(read(0, false));
+    EXPECT_TRUE(read(1, true));
+    EXPECT_FALSE(read(0, true));
+    for (const int other : {2, -1, 10}) {
+        EXPECT_FALSE(read(other, false)) << other;
+        EXPECT_TRUE(read(other, true)) << other;
+    }
 }
 
 TEST_F(TProfileSectionTest, AMissingBoolIsTheDefault) {

@@ -10,7 +10,7 @@ std::string gShown;
 
 TEST(MessageBox, TheHostsFunctionShowsIt) {
     gSetMessageBox([](const char* text, const char* caption) { gShown = std::string(caption) + '/' + text; });
-    vapp_platform::ShowMessageBox("text", "caption");
+    vapp_platform::ShowMessageBox("text", "caption", vapp_platform::BoxStyle::Plain);
     gSetMessageBox(nullptr);
     EXPECT_EQ(gShown, "caption/text");
 }

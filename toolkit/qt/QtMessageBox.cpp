@@ -61,6 +61,8 @@ int gShowMessageBox(const TMessageBox& box) {
     QWidget* owner = box.GetOwner() != nullptr ? gWidgetOf(*box.GetOwner()) : nullptr;
     // The owner's widget may end while the user thinks, and takes the box with it.
     const QPointer<QMessageBox> shown = new QMessageBox(owner);
+    // Nobody could answer what stands behind the splash.
+    if (owner == nullptr) shown->setWindowFlag(Qt::WindowStaysOnTopHint);
     shown->setObjectName(QStringLiteral("messageBox"));
     shown->setTextFormat(Qt::PlainText);
     shown->setWindowTitle(gToQString(box.GetTitle()));

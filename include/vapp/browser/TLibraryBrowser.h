@@ -52,7 +52,8 @@ public:
 
     /// Makes the three panes with the heights of the last time and connects them. Nothing is owned; the
     /// interpreter must outlive the navigator's use of it, the chooser may be null.
-    /// False, with nothing done, if the panes exist already.
+    /// False, with nothing done, if the panes exist already; false too if the parent is no window, and then
+    /// the chooser is the new one all the same.
     bool Initialize(CFrameWnd* parent, Tcl_Interp* interp, CXTPReportSubListControl* columnChooser);
     /// Writes or reads the settings of the cell list; reading comes when all its columns exist.
     void SerializeSetup(bool store);
@@ -60,7 +61,7 @@ public:
     void AddViewsToDoc(CDocument* document) const;
     /// For the schematic editor: no choice of designs; the tab of the cell list goes into its lines.
     void ModifyForQEdit();
-    /// The setting of the view names that hosts hide from the cell list.
+    /// The setting of the view names that hosts hide from the cell list, in the active code page.
     [[nodiscard]] CString GetExcludeViewNames() const;
 
     // --- Refresh ---------------------------------------------------------------------------------------

@@ -1,0 +1,17 @@
+/// @file
+/// Questions to the main window, each of them a call of the host.
+#include "browser/MainWindow.h"
+
+#include "vapp/browser/HostCallScope.h"
+#include "vapp/toolkit/CWinAppEx.h"
+#include "vapp/toolkit/CWnd.h"
+
+namespace vapp_library_browser {
+
+LRESULT AskMainWindow(UINT message, WPARAM wParam) {
+    CWnd* window = gGetMainWnd();
+    const HostCallScope scope;
+    return window != nullptr ? window->SendMessage(message, wParam) : 0;
+}
+
+}  // namespace vapp_library_browser
