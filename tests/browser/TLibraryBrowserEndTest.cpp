@@ -122,7 +122,8 @@ TEST_F(TLibraryBrowserEnd, InsideOfAnyMessageIsSurvived) {
         {WM_LN_HOSTNOTIFY, [this] { Cells().GetReport().ClickedByUser(1, {}); }},
         {WM_LN_ISDARKTHEME, [this] { Refresh(); }},
         {WM_LN_ISDARKTHEME, [this] { PaintLibraries(); }},
-        {WM_LN_ISDARKTHEME, [this] { PaintCells(); }},
+        {WM_LN_ISDARKTHEME,
+         [this] { m_browser.RequestCellListViewDelayedPopulate(UpdateAlways), m_browser.Populate(); }},
         {WM_LN_COLCHOOSERSHOWN, [this] { Cells().SetFocus(); }},
     };
     m_host.AddCommand("column");

@@ -152,18 +152,19 @@ TEST_F(TLibraryBrowserForwardTest, ColumnsOfTheHost) {
     const int before = Cells().GetReport().GetColumns().GetCount();
     m_browser.AddCellViewListColumn("By command", "column", false, true);
     m_browser.AddCellViewListColumn(
-        "By function", [](const TLibCellView& cell) { return cell.cell; }, true, true);
+        "By function", [](const TLibCellView& cell) { return cell.cell; }, true, false);
     auto& columns = Cells().GetReport().GetColumns();
     ASSERT_EQ(columns.GetCount(), before + 2);
-    auto* command = dynamic_cast<TCellNamesReportCtrl::TColumn*>(columns.GetAt(before));
-    auto* function = dynamic_cast<TCellNamesReportCtrl::TColumn*>(columns.GetAt(before + 1));
+    auto* command = dynamic_cast<TCellNamesReportCtrl::TCustomColumn*>(columns.GetAt(before));
+    auto* function = dynamic_cast<TCellNamesReportCtrl::TCustomColumn*>(columns.GetAt(before + 1));
     ASSERT_TRUE(command != nullptr && function != nullptr);
     EXPECT_EQ(command->GetCaption(), CString("By command"));
     EXPECT_EQ(command->GetCellText(m_view), CStringU("text"));
     EXPECT_EQ(function->GetCellText(m_view), CStringU("inv"));
-    EXPECT_FALSE(command->GetDefaultVisible(TCellNamesReportCtrl::Setup1));
-    EXPECT_TRUE(function->GetDefaultVisible(TCellNamesReportCtrl::Setup1));
-    EXPECT_FALSE(function->GetDefaultVisible(TCellNamesReportCtrl::Setup3));
+    EXPECT_FALSE(command->GetSortForward());
+    EXPECT_FALSE(command->GetDefaultVisible(TCellNamesReportCtrl::Setup3));
+    EXPECT_TRUE(function->GetSortForward());
+    EXPECT_TRUE(function->GetDefaultVisible(TCellNamesReportCtrl::Setup3));
 }
 
 TEST_F(TLibraryBrowserForwardTest, FilterTypesAndTheirReset) {

@@ -96,13 +96,12 @@ TEST_F(TLibraryBrowserTest, HeightsAreThoseOnTheScreenThoughTheFrameIsSmall) {
     EXPECT_EQ(m_app.GetProfileInt("LibraryNavigator", "toolPreviewPaneHeight", -1), shown[2]);
 }
 
-TEST_F(TLibraryBrowserTest, AllHeightsAreReadBeforeTheFirstPaneComes) {
+TEST_F(TLibraryBrowserTest, AFrameWithoutAWindowIsNoPlaceForPanes) {
+    CFrameWnd frame;
+    EXPECT_FALSE(m_browser.Initialize(&frame, m_host.GetInterp(), nullptr));
+    EXPECT_EQ(m_browser.GetRowCount(), 0);
+    EXPECT_EQ(m_browser.GetLibraryView(), nullptr);
     Initialize();
-    m_browser.DestroyWindow();
-    m_frame.dark = false;
-    TLibraryBrowser other;
-    EXPECT_FALSE(other.Initialize(nullptr, m_host.GetInterp(), nullptr)) << "no window to stand in";
-    EXPECT_EQ(other.GetRowCount(), 0);
 }
 
 TEST_F(TLibraryBrowserTest, ADocumentGetsEachPaneOnce) {

@@ -385,7 +385,7 @@ TEST_F(ReportSetupTest, TakesAnyNumberForAWidthOrAPlace) {
 }
 
 TEST_F(ReportSetupTest, ANumberInPlaceOfAWordAndAWordInPlaceOfANumberAreDefaults) {
-    m_app.WriteProfileInt("LibraryNavigator", "ShowHiddenCells", 1);
+    m_app.WriteProfileInt("LibraryNavigator", "ShowHiddenCells", 2);
     m_app.WriteProfileInt("LibraryNavigator", "ActiveSetup", 2);
     m_app.WriteProfileInt("LibraryNavigator", "ViewFilter", 3);
     m_app.WriteProfileString("LibraryNavigator\\Setup1\\Columns\\Cell", "Width", "wide");
