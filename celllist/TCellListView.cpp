@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 
-#include "browser/MainWindow.h"
 #include "celllist/FilterHistory.h"
 #include "celllist/FilterImages.h"
 #include "vapp/browser/Messages.h"

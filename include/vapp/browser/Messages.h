@@ -25,6 +25,10 @@ inline constexpr std::int64_t cnHintSelectedMaster = 110;
 /// Background of lists in the dark theme.
 inline constexpr COLORREF cnDarkBackground = 0x2D2D2D;
 
+/// Sends a message to the main window and gives its answer; 0 without a main window. The host's code runs in it
+/// and may end the navigator's window: the panes outlive the call all the same.
+VAPP_EXPORT LRESULT AskMainWindow(UINT message, WPARAM wParam = 0);
+
 /// What the main window answers to WM_LN_ISDARKTHEME; false without a main window.
 [[nodiscard]] VAPP_EXPORT bool gIsDarkTheme();
 
