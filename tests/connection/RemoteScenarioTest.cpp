@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "tests/connection/LoginProxy.h"
 #include "tests/connection/LoopbackServer.h"
 #include "tests/platform/ChildRoles.h"
 #include "vapp/connection/RemoteDeployment.h"
@@ -16,6 +17,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using connection_test::LoginProxyOption;
 using connection_test::LoopbackServer;
 
 constexpr const char* csFolder = ".vornex/v2019_2_0_b13862";
@@ -36,6 +38,10 @@ std::string ContentOf(const fs::path& file) {
     return content.str();
 }
 
+void Lay(const fs::path& file, const std::string& content = {}) {
+    std::ofstream(file, std::ios::binary) << content;
+}
+
 fs::path OwnFolder() {
     return fs::path(platform_test::OwnProgram()).parent_path();
 }
@@ -48,17 +54,22 @@ protected:
         fs::create_directories(files);
         for (const char* name : csFiles) {
             // Other runs read them at the same moment.
-            if (!fs::exists(files / name)) std::ofstream(files / name) << "the file " << name << "\n";
+            if (!fs::exists(files / name)) Lay(files / name, "the file " + std::string(name) + "\n");
         }
     }
 
     [[nodiscard]] fs::path Deployed() const { return m_server.Home() / csFolder; }
 
-    /// Uploads to a target; what the client said.
+    /// The access of an uploaded file, as the server tells it: this side may know nothing of it.
+    [[nodiscard]] std::string ModeOf(const std::string& name) const {
+        return m_server.OutputThere("stat -c %a " + std::string(csFolder) + "/" + name);
+    }
+    /// Uploads to a target; what the client said, without the carriage returns that it writes on Windows.
     static std::string Upload(const std::string& target) {
         std::string heard;
         EXPECT_TRUE(uploadWorkerScripts(
             AsText(target), [&](const CStringU& piece) { heard += Text(piece); }, false));
+        std::erase(heard, '\r');
         return heard;
     }
     [[nodiscard]] bool IsThere(const std::string& path) const {
@@ -95,9 +106,9 @@ protected:
     }
 
     /// A folder for a server of this test's own.
-    static fs::path ServerFolder(const std::string& ending = {}) {
+    static fs::path ServerFolder() {
         const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
-        return OwnFolder() / ("run-" + std::string(test->name()) + ending);
+        return OwnFolder() / ("run-" + std::string(test->name()));
     }
 
     const LoopbackServer m_server{ServerFolder()};
@@ -110,14 +121,14 @@ TEST_F(RemoteScenarioTest, AnUploadArrivesWithItsContentsAndModes) {
         EXPECT_NE(heard.find(" " + std::string(name) + "\n"), std::string::npos) << heard;
     }
     for (const char* name : {"evi_worker", "trion_worker", "esi_worker.py"})
-        EXPECT_EQ(fs::status(Deployed() / name).permissions(), fs::perms::owner_all) << name;
+        EXPECT_EQ(ModeOf(name), "700\n") << name;
     for (const char* name : {"connection.py", "argparse.py"})
-        EXPECT_NE(fs::status(Deployed() / name).permissions(), fs::perms::owner_all) << name;
+        EXPECT_EQ(ModeOf(name), "600\n") << name;
 }
 
 TEST_F(RemoteScenarioTest, ASecondUploadReplacesWhatIsThere) {
     Upload(m_server.Target());
-    std::ofstream(Deployed() / "connection.py") << "spoilt";
+    Lay(Deployed() / "connection.py", "spoilt");
     fs::remove(Deployed() / "argparse.py");
     Upload(m_server.Target());
     EXPECT_EQ(ContentOf(Deployed() / "connection.py"), "the file connection.py\n");
@@ -125,23 +136,23 @@ TEST_F(RemoteScenarioTest, ASecondUploadReplacesWhatIsThere) {
 }
 
 TEST_F(RemoteScenarioTest, AFileIsThereUnderItsWholeNameOnly) {
-    fs::create_directories(m_server.Home() / "work");
-    std::ofstream(m_server.Home() / "work" / "evi_worker2") << "";
-    std::ofstream(m_server.Home() / "work" / "my_evi_worker") << "";
-    EXPECT_FALSE(IsThere("work/evi_worker"));
-    std::ofstream(m_server.Home() / "work" / "evi_worker") << "";
-    EXPECT_TRUE(IsThere("work/evi_worker"));
-    EXPECT_TRUE(IsThere((m_server.Home() / "work" / "evi_worker").string()));
-    EXPECT_FALSE(IsThere("work/EVI_WORKER"));
+    fs::create_directories(m_server.Home() / "place");
+    Lay(m_server.Home() / "place" / "evi_worker2");
+    Lay(m_server.Home() / "place" / "my_evi_worker");
+    EXPECT_FALSE(IsThere("place/evi_worker"));
+    Lay(m_server.Home() / "place" / "evi_worker");
+    EXPECT_TRUE(IsThere("place/evi_worker"));
+    EXPECT_TRUE(IsThere(m_server.HomeThere() + "/place/evi_worker"));
+    EXPECT_FALSE(IsThere("place/EVI_WORKER"));
     EXPECT_FALSE(IsThere("evi_worker"));
-    EXPECT_TRUE(IsThere("work"));
+    EXPECT_TRUE(IsThere("place"));
     EXPECT_FALSE(IsThere("nowhere/evi_worker"));
 }
 
 TEST_F(RemoteScenarioTest, BlanksInNamesAreNoHindranceAndInFoldersTheyAre) {
     fs::create_directories(m_server.Home() / "a folder");
-    std::ofstream(m_server.Home() / "my evi_worker") << "";
-    std::ofstream(m_server.Home() / "a folder" / "inside") << "";
+    Lay(m_server.Home() / "my evi_worker");
+    Lay(m_server.Home() / "a folder" / "inside");
     EXPECT_TRUE(IsThere("my evi_worker"));
     // What stands behind a blank looks like a whole name.
     EXPECT_TRUE(IsThere("evi_worker"));
@@ -177,7 +188,7 @@ TEST_F(RemoteScenarioTest, AVerboseRunTellsOfTheLogin) {
     std::string heard;
     EXPECT_TRUE(runFtp(
         AsText(m_server.Target()), "pwd\n", [&](const CStringU& piece) { heard += Text(piece); }, true));
-    EXPECT_NE(heard.find("Remote directory is " + m_server.Home().string()), std::string::npos) << heard;
+    EXPECT_NE(heard.find("Remote directory is " + m_server.HomeThere()), std::string::npos) << heard;
     EXPECT_NE(heard.find("Host key fingerprint is:"), std::string::npos) << heard;
 }
 
@@ -191,9 +202,7 @@ TEST_F(RemoteScenarioTest, APipeWorkerTalksThroughTheLogin) {
 }
 
 TEST_F(RemoteScenarioTest, TheBannerOfAServerStaysOutOfTheStream) {
-    const LoopbackServer server(ServerFolder("-banner"), "Authorised users only\n");
-    ASSERT_EQ(server.WhyNot(), "");
-    TPipeModule module(Remote(server.Target(), "printf WORKER_KEY; exec cat"));
+    TPipeModule module(Remote(m_server.TargetWithBanner(), "printf WORKER_KEY; exec cat"));
     std::vector<wchar_t> environment;
     CStringU message;
     ASSERT_TRUE(module.InitConnection(environment, message)) << Text(message);
@@ -211,14 +220,11 @@ TEST_F(RemoteScenarioTest, NoiseOfAShellInPlaceOfTheKeywordIsQuoted) {
 }
 
 TEST_F(RemoteScenarioTest, ATcpWorkerConnectsBackFromTheLogin) {
-    // The environment stays on this side of a login; here the other side is this machine and can look.
-    const std::string command =
-        "for p in /proc/[0-9]*; do if tr '\\0' ' ' <$p/cmdline 2>/dev/null | grep -q '[p]link.exe -batch "
-        ".*TAG" +
-        std::to_string(reinterpret_cast<std::uintptr_t>(&m_server)) +
-        "'; then a=$(tr '\\0' '\\n' <$p/environ | sed -n 's/^TCONNECT_ADDRESS=localhost://p'); fi; done; "
-        "exec bash -c 'exec 3<>/dev/tcp/127.0.0.1/'$a'; printf WORKER_KEY >&3; cat <&3 >&3'";
-    TTCPModule module(Remote(m_server.Target(), command));
+    // The environment stays on this side of a login, where the proxy reads it.
+    const std::string target =
+        LoginProxyOption(m_server.Port(), m_server.Home() / "port") + m_server.TargetWithoutAddress();
+    TTCPModule module(Remote(
+        target, "exec bash -c 'exec 3<>/dev/tcp/127.0.0.1/$(cat port); printf WORKER_KEY >&3; cat <&3 >&3'"));
     std::vector<wchar_t> environment;
     CStringU message;
     ASSERT_TRUE(module.InitConnection(environment, message)) << Text(message);
