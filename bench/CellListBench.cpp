@@ -3,7 +3,9 @@
 /// ways to sort, and beside an item model; how much memory a row takes; what painting costs beside the bare
 /// evaluation of its lines. Ratios to the walk of the same run are counters of each bench.
 ///
-///     bench_celllist [--rows=1000000]
+///     bench_celllist [--rows=1000000] [--filter]
+///
+/// With --filter it measures the sub-string alone.
 #include <malloc.h>
 #include <strings.h>
 #include <tcl.h>
@@ -20,6 +22,7 @@
 #include <set>
 #include <string_view>
 
+#include "bench/CellFilterBench.h"
 #include "bench/CellListBench.h"
 #include "tests/browser/TclInterpreter.h"
 #include "vapp/browser/TLibraryBrowser.h"
@@ -264,10 +267,15 @@ void operator delete(void* memory, std::size_t /*size*/) noexcept {
 
 int main(int argumentCount, char** arguments) {
     std::size_t count = 1000000;
+    bool filterAlone = false;
     for (int at = 1; at < argumentCount; ++at) {
         if (std::string_view(arguments[at]).starts_with("--rows="))
             count = std::strtoul(arguments[at] + 7, nullptr, 10);
+        filterAlone = filterAlone || std::string_view(arguments[at]) == "--filter";
     }
+    BenchFilter("shared cells", BenchRows::Sorted, count);
+    BenchFilter("distinct cells", BenchRows::Distinct, count);
+    if (filterAlone) return 0;
     Painting();
     Population("sorted", BenchRows::Sorted, count, false);
     Population("shuffled", BenchRows::Shuffled, count, true);

@@ -15,10 +15,11 @@ struct BenchRow {
 
 /// How the names look and in which order the rows come.
 enum class BenchRows {
-    Sorted,         ///< zero-padded numbers, in the order in which the list shows them
-    Shuffled,       ///< the same, in random order
-    Unpadded,       ///< numbers without leading zeros, shuffled
-    SharedShuffled  ///< each library has the same cells, shuffled
+    Sorted,          ///< zero-padded numbers, in the order in which the list shows them
+    Shuffled,        ///< the same, in random order
+    Unpadded,        ///< numbers without leading zeros, shuffled
+    SharedShuffled,  ///< each library has the same cells, shuffled
+    Distinct         ///< each row has a cell of its own, in order
 };
 
 /// Triples of 40 libraries and 3 views.

@@ -21,12 +21,13 @@ std::vector<BenchRow> MakeBenchRows(BenchRows kind, std::size_t count) {
     std::vector<BenchRow> rows;
     rows.reserve(count);
     for (unsigned triple = 0; rows.size() < count; ++triple) {
-        const unsigned place = triple / 3;
+        const unsigned place = kind == BenchRows::Distinct ? triple : triple / 3;
         const unsigned library = place % cnLibraries;
         const unsigned cell = kind == BenchRows::SharedShuffled ? place / cnLibraries : place;
         rows.push_back({Numbered("lib_", library, 2),
                         Numbered("cell_", cell, kind == BenchRows::Unpadded ? 1 : 7), views[triple % 3]});
     }
-    if (kind != BenchRows::Sorted) std::shuffle(rows.begin(), rows.end(), std::mt19937(1));
+    if (kind != BenchRows::Sorted && kind != BenchRows::Distinct)
+        std::shuffle(rows.begin(), rows.end(), std::mt19937(1));
     return rows;
 }

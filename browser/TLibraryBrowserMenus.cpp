@@ -1,6 +1,6 @@
 /// @file
 /// The facade's part in the menus of the lists. A host may call these whenever it likes; they count while a
-/// list builds its menu, and no list does so yet.
+/// list asks it for items of its own, and no list does so yet.
 #include "vapp/browser/TLibraryBrowser.h"
 
 namespace vapp_library_browser {

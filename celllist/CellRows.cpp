@@ -186,14 +186,6 @@ void CellRows::ArrangeByKeys(const RowKeys& keys, std::span<const NameCriterion>
     Arrange(criteria, false);
 }
 
-void CellRows::Keep(const std::function<bool(std::size_t row)>& test) {
-    std::size_t kept = 0;
-    for (std::size_t row = 0; row < m_rows.size(); ++row) {
-        if (test(row)) m_rows[kept++] = m_rows[row];
-    }
-    m_rows.resize(kept);
-}
-
 void CellRows::Arrange(std::span<const SortCriterion> criteria, bool dropEqual) {
     const std::vector<std::uint32_t> order = SortRowNumbers(m_rows.size(), criteria, dropEqual);
     std::vector<Row> arranged;

@@ -12,7 +12,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -77,7 +76,14 @@ public:
     /// difference keep their order.
     void ArrangeByKeys(const RowKeys& keys, std::span<const NameCriterion> criteria);
     /// Keeps the rows for which the test is true. It is asked in the order of the rows.
-    void Keep(const std::function<bool(std::size_t row)>& test);
+    template <typename Test>
+    void Keep(const Test& test) {
+        std::size_t kept = 0;
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if (test(row)) m_rows[kept++] = m_rows[row];
+        }
+        m_rows.resize(kept);
+    }
 
 private:
     using Row = std::array<std::uint32_t, cnRoleCount>;

@@ -73,6 +73,7 @@ void TCellListView::OnCreate() {
     CreateItem(m_status, cnStatus);
     m_filterButton.SetImageResource(cnFilterImageEmpty);
     m_tabs.SetMinWidthText("WWW");
+    m_filterEdit.SetCueText(WindowText("__$$Translatable$$_Filter cells"));
     while (m_tabs.GetItemCount() < cnTabCount)
         m_tabs.InsertItem(m_tabs.GetItemCount(), "");
     SetAccessibleName(WindowText("__$$Translatable$$_Cell list"));

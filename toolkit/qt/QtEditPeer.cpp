@@ -2,6 +2,7 @@
 /// The edit: what the user types goes to the control, and comes back as the control took it.
 #include "toolkit/qt/QtEditPeer.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -26,9 +27,22 @@ void QtEditPeer::Changed(UINT changes) {
     QtPeer::Changed(changes);
     if (Widget() == nullptr) return;
     if ((changes & cnChangeText) != 0) ApplyText();
+    // Who is sent here to type wants to replace what is there.
+    if ((changes & cnChangeFocus) != 0) static_cast<QLineEdit*>(Widget())->selectAll();
     if ((changes & cnChangeLook) != 0) {
         static_cast<QLineEdit*>(Widget())->setPlaceholderText(gToQString(m_edit.GetCueText()));
     }
+}
+
+// A line of text has no use of its own for these two keys.
+bool QtEditPeer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == Widget() && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        const QtBusyScope busy;
+        if (key == Qt::Key_Down && m_edit.KeyByPeer(TKey::Down, {})) return true;
+        if (key == Qt::Key_Escape && m_edit.KeyByPeer(TKey::Escape, {})) return true;
+    }
+    return QtPeer::eventFilter(watched, event);
 }
 
 void QtEditPeer::ApplyText() {

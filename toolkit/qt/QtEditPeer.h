@@ -13,6 +13,7 @@ public:
     explicit QtEditPeer(CEdit& edit);
 
     void Changed(UINT changes) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ApplyText();

@@ -59,6 +59,16 @@ void QtListControl::ContextClick(int row) {
     m_list.ContextClickedByUser(row);
 }
 
+void QtListControl::ContextMenu(CPoint client) {
+    m_list.ContextMenuByPeer(m_list.ClientToScreen(client));
+}
+
+void QtListControl::DoubleClick(CPoint /*client*/) {}
+
+bool QtListControl::Find() {
+    return m_list.KeyByPeer(TKey::Find, {});
+}
+
 void QtListControl::Key(TKey key, TModifiers modifiers) {
     m_list.KeyPressedByUser(key, modifiers);
 }

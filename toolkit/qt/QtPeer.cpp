@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QThread>
 #include <algorithm>
 
@@ -89,6 +90,9 @@ bool QtPeer::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Move:
             ReportRect();
             break;
+        case QEvent::KeyPress:
+            return static_cast<QKeyEvent*>(event)->matches(QKeySequence::Find) &&
+                   m_window.KeyByPeer(TKey::Find, {.control = true});
         case QEvent::FocusIn:
             m_window.FocusedByPeer(true);
             break;

@@ -15,6 +15,7 @@
 #include "toolkit/qt/QtFormPeer.h"
 #include "toolkit/qt/QtFramePeer.h"
 #include "toolkit/qt/QtListPeer.h"
+#include "toolkit/qt/QtMenu.h"
 #include "toolkit/qt/QtMessageBox.h"
 #include "toolkit/qt/QtReportPeer.h"
 #include "toolkit/qt/QtRowAccessible.h"
@@ -101,6 +102,10 @@ std::optional<int> QtPeerFactory::ShowMessageBox(const TMessageBox& box) {
     // Without its application object Qt shows nothing; on other threads it must not.
     if (qApp == nullptr || QThread::currentThread() != qApp->thread()) return std::nullopt;
     return gShowMessageBox(box);
+}
+
+UINT QtPeerFactory::TrackMenu(const CMenu& menu, CWnd& owner, CPoint screen, TMenuAlign align) {
+    return gTrackMenu(menu, owner, screen, align);
 }
 
 std::vector<CRect> QtPeerFactory::MonitorAreas() const {

@@ -4,6 +4,7 @@
 #include "toolkit/qt/QtReportHeader.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
@@ -220,7 +221,23 @@ void QtReportHeader::mouseDoubleClickEvent(QMouseEvent* event) {
         emit FitWanted(edge);
     } else {
         mousePressEvent(event);
+        if (m_report == nullptr || ColumnAt(event->position().toPoint().x()) != nullptr) return;
+        const QtBusyScope busy;
+        m_report->DoubleClickedByUser(ClientPoint(event->position().toPoint()));
     }
+}
+
+void QtReportHeader::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    if (m_report == nullptr) return;
+    EndDrag();
+    const QtBusyScope busy;
+    m_report->ContextMenuByPeer(m_report->ClientToScreen(ClientPoint(event->pos())));
+}
+
+CPoint QtReportHeader::ClientPoint(const QPoint& point) const {
+    const QPoint client = mapToParent(point);
+    return {client.x(), client.y()};
 }
 
 void QtReportHeader::leaveEvent(QEvent* /*event*/) {

@@ -10,6 +10,7 @@
 
 #include "toolkit/qt/QtColumnPlaces.h"
 #include "vapp/toolkit/BasicTypes.h"
+#include "vapp/toolkit/CPoint.h"
 
 class CXTPReportControl;
 
@@ -35,6 +36,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     enum class TDrag { None, Pressed, Resizing, Moving };
@@ -55,6 +57,7 @@ private:
     /// The column that the dragged one would take the place of, or null.
     [[nodiscard]] CXTPReportColumn* DropTarget(int x) const;
     void EndDrag();
+    [[nodiscard]] CPoint ClientPoint(const QPoint& point) const;
 
     CXTPReportControl* m_report;
     QPalette m_colors;

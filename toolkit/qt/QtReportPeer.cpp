@@ -77,6 +77,18 @@ void QtReportControl::ContextClick(int row) {
     m_report.ContextClickedByUser(row);
 }
 
+void QtReportControl::ContextMenu(CPoint client) {
+    m_report.ContextMenuByPeer(m_report.ClientToScreen(client));
+}
+
+void QtReportControl::DoubleClick(CPoint client) {
+    m_report.DoubleClickedByUser(client);
+}
+
+bool QtReportControl::Find() {
+    return m_report.KeyByPeer(TKey::Find, {});
+}
+
 void QtReportControl::Key(TKey key, TModifiers modifiers) {
     m_report.KeyPressedByUser(key, modifiers);
 }

@@ -30,6 +30,9 @@ public:
     void Reserve(CSize bars) override;
     void Click(int row, TModifiers modifiers) override;
     void ContextClick(int row) override;
+    void ContextMenu(CPoint client) override;
+    void DoubleClick(CPoint client) override;
+    bool Find() override;
     void Key(TKey key, TModifiers modifiers) override;
     void Type(const CStringU& text, std::int64_t milliseconds) override;
     void Scroll(int topRow, int scrollX) override;

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "vapp/text/CStringU.h"
+#include "vapp/toolkit/CPoint.h"
 #include "vapp/toolkit/CSize.h"
 #include "vapp/toolkit/InputTypes.h"
 #include "vapp/toolkit/RowSelection.h"
@@ -38,6 +39,11 @@ public:
     virtual void Reserve(CSize bars) = 0;
     virtual void Click(int row, TModifiers modifiers) = 0;
     virtual void ContextClick(int row) = 0;
+    /// The menu of what is at a client point, asked for by mouse or key.
+    virtual void ContextMenu(CPoint client) = 0;
+    virtual void DoubleClick(CPoint client) = 0;
+    /// The user wants to look for something; true if that has led somewhere.
+    virtual bool Find() = 0;
     virtual void Key(TKey key, TModifiers modifiers) = 0;
     virtual void Type(const CStringU& text, std::int64_t milliseconds) = 0;
     virtual void Scroll(int topRow, int scrollX) = 0;

@@ -4,6 +4,7 @@
 #include "toolkit/qt/QtRowView.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -270,6 +271,27 @@ void QtRowView::mouseReleaseEvent(QMouseEvent* event) {
 void QtRowView::mouseDoubleClickEvent(QMouseEvent* event) {
     // To the rules of selection the second press is a press like any other.
     mousePressEvent(event);
+    if (m_control == nullptr || event->button() != Qt::LeftButton) return;
+    const QtBusyScope busy;
+    m_control->DoubleClick(ClientPoint(event->position().toPoint()));
+}
+
+// By key, the menu stands at the focused row, where the user looks.
+void QtRowView::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    if (m_control == nullptr) return;
+    const QtBusyScope busy;
+    QPoint point = event->pos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const QRect row = RowRect(std::max(m_control->FocusedRow(), m_control->TopRow()));
+        point = {row.left() + 1, std::clamp(row.center().y(), 0, std::max(viewport()->height() - 1, 0))};
+    }
+    m_control->ContextMenu(ClientPoint(point));
+}
+
+CPoint QtRowView::ClientPoint(const QPoint& viewportPoint) const {
+    const QPoint point = viewport()->mapTo(this, viewportPoint);
+    return {point.x(), point.y()};
 }
 
 void QtRowView::keyPressEvent(QKeyEvent* event) {
@@ -292,6 +314,8 @@ void QtRowView::keyPressEvent(QKeyEvent* event) {
         if (entry->key == TKey::Right) horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
     } else if (IsTyping(*event)) {
         event->accept();
+        if (event->text() == QLatin1String("/") && m_control->Find()) return;
+        if (m_control == nullptr) return;
         Type(event->text());
     }
 }

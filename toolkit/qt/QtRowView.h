@@ -68,12 +68,14 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void ApplyBar(QScrollBar& bar, int last, int page, int step, int value);
     void MirrorSelection();
     void Type(const QString& text);
     [[nodiscard]] int DragTarget(int y) const;
+    [[nodiscard]] CPoint ClientPoint(const QPoint& viewportPoint) const;
 
     QtRowControl* m_control;
     bool m_applyingBars = false;

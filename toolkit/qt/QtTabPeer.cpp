@@ -10,7 +10,36 @@
 
 namespace vapp_qt {
 
-QtTabPeer::QtTabPeer(CTabCtrl& tabs) : QtPeer(tabs, new QTabBar(gClientWidgetAbove(tabs))), m_tabs(tabs) {
+namespace {
+
+// A strip whose tabs can be hit also while they have no or short texts.
+class TabWidget : public QTabBar {
+public:
+    using QTabBar::QTabBar;
+
+    void SetMinWidthText(const QString& text) {
+        m_minWidthText = text;
+        setIconSize(iconSize());  // makes Qt lay the tabs out anew
+        updateGeometry();
+    }
+
+protected:
+    [[nodiscard]] QSize tabSizeHint(int index) const override {
+        return QTabBar::tabSizeHint(index).expandedTo({MinWidth(), 0});
+    }
+    [[nodiscard]] QSize minimumTabSizeHint(int index) const override {
+        return QTabBar::minimumTabSizeHint(index).expandedTo({MinWidth(), 0});
+    }
+
+private:
+    [[nodiscard]] int MinWidth() const { return fontMetrics().horizontalAdvance(m_minWidthText); }
+
+    QString m_minWidthText;
+};
+
+}  // namespace
+
+QtTabPeer::QtTabPeer(CTabCtrl& tabs) : QtPeer(tabs, new TabWidget(gClientWidgetAbove(tabs))), m_tabs(tabs) {
     auto* bar = static_cast<QTabBar*>(Widget());
     bar->setShape(QTabBar::RoundedSouth);
     bar->setExpanding(false);
@@ -25,6 +54,9 @@ QtTabPeer::QtTabPeer(CTabCtrl& tabs) : QtPeer(tabs, new QTabBar(gClientWidgetAbo
 
 void QtTabPeer::Changed(UINT changes) {
     QtPeer::Changed(changes);
+    auto* bar = static_cast<TabWidget*>(Widget());
+    if (bar != nullptr && (changes & cnChangeLook) != 0)
+        bar->SetMinWidthText(gToQString(m_tabs.GetMinWidthText()));
     if ((changes & (cnChangeItems | cnChangeSelection)) != 0) ApplyTabs();
 }
 

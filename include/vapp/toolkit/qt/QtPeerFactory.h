@@ -33,6 +33,7 @@ public:
 
     std::unique_ptr<Peer> CreateSplash(TSplashScreen& splash) override;
     std::optional<int> ShowMessageBox(const TMessageBox& box) override;
+    UINT TrackMenu(const CMenu& menu, CWnd& owner, CPoint screen, TMenuAlign align) override;
     [[nodiscard]] std::vector<CRect> MonitorAreas() const override;
     [[nodiscard]] CPoint CursorPosition() const override;
     [[nodiscard]] ClipboardPeer* GetClipboard() override;

@@ -1,0 +1,84 @@
+/// @file
+/// Menus on the screen: what they show, and what comes back.
+#include "toolkit/qt/QtMenu.h"
+
+#include <QTest>
+
+#include "tests/qt/PopupAnswer.h"
+#include "tests/qt/QtTestFrame.h"
+
+namespace {
+
+class QtMenuTest : public testing::Test {
+protected:
+    QtMenuTest() {
+        menu.Append(1, "&First");
+        menu.AppendSeparator();
+        menu.Append(2, gMenuTextOf("a&b"));
+        menu.AppendPopup("More").Append(3, "third");
+    }
+    UINT Track(TMenuAlign align = TMenuAlign::Left) {
+        return menu.Track(shown.form, shown.form.ClientToScreen({50, 60}), align);
+    }
+
+    ShownFrame shown;
+    CMenu menu;
+};
+
+}  // namespace
+
+TEST_F(QtMenuTest, ShowsItsItems) {
+    menu.Check(1, true);
+    menu.Enable(2, false);
+    menu.SetDefault(1);
+    const PopupAnswer answer([](QMenu& popup) {
+        const QList<QAction*> actions = popup.actions();
+        ASSERT_EQ(actions.size(), 4);
+        EXPECT_EQ(actions[0]->text(), "&First");
+        EXPECT_TRUE(actions[0]->isChecked());
+        EXPECT_EQ(popup.defaultAction(), actions[0]);
+        EXPECT_TRUE(actions[1]->isSeparator());
+        EXPECT_EQ(actions[2]->text(), "a&&b");
+        EXPECT_FALSE(actions[2]->isEnabled());
+        ASSERT_NE(actions[3]->menu(), nullptr);
+        EXPECT_EQ(actions[3]->menu()->actions().first()->text(), "third");
+    });
+    EXPECT_EQ(Track(), 0u) << "a menu that was left";
+}
+
+TEST_F(QtMenuTest, GivesTheCommandThatWasPickedByKeys) {
+    const PopupAnswer answer([](QMenu& popup) {
+        QTest::keyClick(&popup, Qt::Key_Down);
+        QTest::keyClick(&popup, Qt::Key_Down);
+        QTest::keyClick(&popup, Qt::Key_Return);
+    });
+    EXPECT_EQ(Track(), 2u);
+}
+
+TEST_F(QtMenuTest, GivesTheCommandOfASubMenu) {
+    const PopupAnswer answer([](QMenu& popup) { popup.actions()[3]->menu()->actions().first()->trigger(); });
+    EXPECT_EQ(Track(), 3u);
+}
+
+TEST_F(QtMenuTest, OpensOnEitherSideOfItsPoint) {
+    const QPoint point = gWidgetOf(shown.form)->mapToGlobal(QPoint(50, 60));
+    {
+        const PopupAnswer answer([point](QMenu& popup) { EXPECT_EQ(popup.pos(), point); });
+        EXPECT_EQ(Track(), 0u);
+    }
+    const PopupAnswer answer([point](QMenu& popup) {
+        EXPECT_LT(popup.pos().x(), point.x());
+        EXPECT_EQ(popup.pos().y(), point.y());
+    });
+    EXPECT_EQ(Track(TMenuAlign::Right), 0u);
+}
+
+TEST_F(QtMenuTest, SurvivesTheEndOfItsOwner) {
+    const PopupAnswer answer([this](QMenu& popup) {
+        popup.close();
+        shown.frame.DestroyWindow();
+    });
+    EXPECT_EQ(Track(), 0u);
+    CWnd without;
+    EXPECT_EQ(menu.Track(without, {}), 0u) << "no widget, no menu";
+}

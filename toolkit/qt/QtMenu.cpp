@@ -1,0 +1,54 @@
+/// @file
+/// The menu is made anew for each showing, in the font and colours of the moment.
+#include "toolkit/qt/QtMenu.h"
+
+#include <QMenu>
+#include <QPointer>
+
+#include "toolkit/qt/QtText.h"
+#include "vapp/toolkit/CWnd.h"
+#include "vapp/toolkit/qt/QtPeerFactory.h"
+
+namespace vapp_qt {
+
+namespace {
+
+// `picked` must live as long as the menu is open.
+void AddItems(QMenu& shown, const CMenu& menu, UINT& picked) {
+    for (int position = 0; position < menu.GetItemCount(); ++position) {
+        const CMenu::TItem& item = *menu.GetItem(position);
+        if (item.kind == CMenu::TItem::TKind::Separator) {
+            shown.addSeparator();
+        } else if (item.subMenu) {
+            AddItems(*shown.addMenu(gToQString(item.text)), *item.subMenu, picked);
+        } else {
+            QAction* action = shown.addAction(gToQString(item.text));
+            action->setObjectName(QStringLiteral("command%1").arg(item.id));
+            action->setEnabled(item.isEnabled);
+            action->setCheckable(item.isChecked);
+            action->setChecked(item.isChecked);
+            if (item.isDefault) shown.setDefaultAction(action);
+            QObject::connect(action, &QAction::triggered, &shown, [&picked, id = item.id] { picked = id; });
+        }
+    }
+}
+
+}  // namespace
+
+UINT gTrackMenu(const CMenu& menu, const CWnd& owner, CPoint screen, TMenuAlign align) {
+    QWidget* const widget = gWidgetOf(owner);
+    if (widget == nullptr) return 0;
+    UINT picked = 0;
+    // The owner's widget may end while the user looks, and takes the menu with it.
+    const QPointer<QMenu> shown = new QMenu(widget);
+    shown->setObjectName(QStringLiteral("popupMenu"));
+    AddItems(*shown, menu, picked);
+    const CPoint client = owner.ScreenToClient(screen);
+    QPoint corner = widget->mapToGlobal(QPoint(client.x, client.y));
+    if (align == TMenuAlign::Right) corner.rx() -= shown->sizeHint().width();
+    shown->exec(corner);
+    delete shown.data();
+    return picked;
+}
+
+}  // namespace vapp_qt
