@@ -11,6 +11,9 @@ namespace navigator {
 
 namespace {
 
+/// What a version of Windows has as its platform.
+constexpr std::uint32_t cnWindows = 2;
+
 std::string Line(const char* name, const std::string& value) {
     return std::string(name) + ": " + value + '\n';
 }
@@ -27,7 +30,7 @@ std::string VersionLines(const TOsInfo& machine) {
     const TVersionInfo& version = machine.m_versionInfo;
     std::string text = Line("system", machine.GetOsName());
     // Where the system calls itself something else than what runs it, both help.
-    if (version.dwMajorVersion != 0 && machine.GetOsName() != machine.GetWindowsName())
+    if (version.dwPlatformId == cnWindows && machine.GetOsName() != machine.GetWindowsName())
         text += Line("as seen by Windows programs", machine.GetWindowsName());
     text += Line("system version", std::to_string(version.dwMajorVersion) + '.' +
                                        std::to_string(version.dwMinorVersion) + '.' +

@@ -67,6 +67,7 @@ public:
     [[nodiscard]] NavigatorFrame& Frame() { return m_frame; }
     [[nodiscard]] vapp_library_browser::TLibraryBrowser& Browser() { return *m_browser; }
     [[nodiscard]] DesignStore& Store() { return m_store; }
+    [[nodiscard]] UserCommand& User() { return m_user; }
     [[nodiscard]] HostCommands& Commands() { return m_commands; }
     [[nodiscard]] Tcl_Interp* Interp() const { return m_interp.get(); }
 

@@ -63,6 +63,7 @@ QtShell::~QtShell() {
         KeepPlace();
         m_navigator.KeepLastView();
     }
+    m_navigator.User().SetConsoleHandler(nullptr);
     // The window may live on for a moment; the console in it has nothing to talk to any more.
     delete m_dock;
     QObject::disconnect(m_idle);
@@ -89,6 +90,8 @@ void QtShell::AddConsole(QMainWindow& window) {
     m_dock->setObjectName(QStringLiteral("consoleDock"));
     m_consolePane = new ConsolePane(m_console, m_dock);
     m_dock->setWidget(m_consolePane);
+    m_navigator.User().SetConsoleHandler(
+        [this](const std::string& text) { m_consolePane->Run(QString::fromStdString(text)); });
     window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
     auto* const action = new QAction(QObject::tr("Tcl &console"), m_dock);
     action->setCheckable(true);
@@ -198,7 +201,7 @@ std::optional<std::string> QtShell::Screenshot(const std::string& file) {
     FirstLook();
     for (int round = 0; round < cnSettlingRounds; ++round) {
         QApplication::processEvents();
-        m_navigator.Populate();
+        OnIdle();
     }
     QApplication::processEvents();
     QWidget* const window = gWidgetOf(m_navigator.Frame());

@@ -52,10 +52,10 @@ void PaintName(QPainter& painter) {
     font.setWeight(QFont::DemiBold);
     painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(QRectF(38, 150, 300, 50), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Library"));
+    painter.drawText(QRectF(38, 138, 300, 50), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Library"));
     font.setWeight(QFont::Light);
     painter.setFont(font);
-    painter.drawText(QRectF(38, 188, 400, 50), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Navigator"));
+    painter.drawText(QRectF(38, 184, 400, 50), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Navigator"));
 }
 
 }  // namespace

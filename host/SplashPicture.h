@@ -11,7 +11,7 @@ inline constexpr int cnSplashWidth = 518;
 inline constexpr int cnSplashHeight = 302;
 /// Where the version's text begins, and its colour, red in the low byte.
 inline constexpr unsigned cnSplashVersionX = 40;
-inline constexpr unsigned cnSplashVersionY = 236;
+inline constexpr unsigned cnSplashVersionY = 240;
 inline constexpr unsigned long cnSplashVersionColor = 0xF0DCC8;
 
 /// Paints it with so many device pixels for a logical one. Needs a QGuiApplication, for the letters.

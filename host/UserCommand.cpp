@@ -87,6 +87,7 @@ const SubCommandRow<UserCommand> UserCommand::csSubCommands[] = {
      0,
      0,
      &UserCommand::State},
+    {{"type", "user type TEXT", "Types a text into the console and sends it."}, 1, 1, &UserCommand::Type},
     {{nullptr, nullptr, nullptr}, 0, 0, nullptr}};
 
 UserCommand::UserCommand(Tcl_Interp* interp, CFrameWnd& frame, vapp_library_browser::TLibraryBrowser& browser,
@@ -218,6 +219,12 @@ int UserCommand::State(Tcl_Interp* interp, TclWords) {
     Put(state, "heights", heights);
     Put(state, "window", RectList(m_frame.GetRect()));
     Tcl_SetObjResult(interp, state);
+    return TCL_OK;
+}
+
+int UserCommand::Type(Tcl_Interp* interp, TclWords words) {
+    if (!m_console) return gTclFailure(interp, "there is no console");
+    m_console(std::string(gTextOf(words[0])));
     return TCL_OK;
 }
 

@@ -4,6 +4,8 @@
 
 #include <functional>
 #include <span>
+#include <string>
+#include <utility>
 
 #include "host/CommandTable.h"
 #include "host/TclCommand.h"
@@ -22,6 +24,11 @@ public:
     UserCommand(Tcl_Interp* interp, CFrameWnd& frame, vapp_library_browser::TLibraryBrowser& browser,
                 std::function<void()> settle);
 
+    /// Called with each text that a script types into the console.
+    void SetConsoleHandler(std::function<void(const std::string&)> handler) {
+        m_console = std::move(handler);
+    }
+
     /// All sub-commands, by name.
     static std::span<const CommandHelp> Help();
 
@@ -34,6 +41,7 @@ private:
     int Resize(Tcl_Interp* interp, TclWords words);
     int Settle(Tcl_Interp* interp, TclWords words);
     int State(Tcl_Interp* interp, TclWords words);
+    int Type(Tcl_Interp* interp, TclWords words);
 
     int ClickLibrary(Tcl_Interp* interp, Tcl_Obj* library, bool isAdding);
     int ClickHeader(Tcl_Interp* interp, Tcl_Obj* caption, bool isAdding);
@@ -42,6 +50,7 @@ private:
     CFrameWnd& m_frame;
     vapp_library_browser::TLibraryBrowser& m_browser;
     std::function<void()> m_settle;
+    std::function<void(const std::string&)> m_console;
     TclCommand m_command;
 };
 

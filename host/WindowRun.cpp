@@ -17,6 +17,7 @@
 #include "vapp/toolkit/qt/QtBitmap.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 #include "vapp/toolkit/qt/QtProfileStore.h"
+#include "vapp/toolkit/qt/QtTheme.h"
 
 namespace navigator {
 
@@ -118,6 +119,8 @@ int gRunWindow(Options options, const std::filesystem::path& sample, int argc, c
     }
     const QApplication application(argc, argv);
     QtPeerFactory::Install();
+    // Boxes of the start have the look of the window.
+    gApplyTheme(options.isDark);
     FitIntoScreen(options);
     std::vector<CString> troubles;
     const SplashResource splash;

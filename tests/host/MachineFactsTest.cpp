@@ -23,5 +23,14 @@ TEST(MachineFacts, TellWhatTheMachineIs) {
     EXPECT_EQ('\n', facts.back());
 }
 
+TEST(MachineFacts, WhatWindowsCallsItselfIsToldWhereThereIsWindows) {
+    TOsInfo machine;
+    machine.m_versionInfo.dwPlatformId = 0;
+    EXPECT_THAT(navigator::gMachineFacts(machine), testing::Not(HasSubstr("Windows programs")));
+    machine.m_versionInfo.dwPlatformId = 2;
+    const bool isOther = machine.GetOsName() != machine.GetWindowsName();
+    EXPECT_EQ(isOther, navigator::gMachineFacts(machine).find("Windows programs") != std::string::npos);
+}
+
 }  // namespace
 }  // namespace navigator_test

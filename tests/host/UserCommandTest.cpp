@@ -95,6 +95,14 @@ TEST_F(UserCommandTest, PlacesAreThoseOfTheParts) {
                           "[lindex [user place header Cell] 0] + [lindex [user place header Cell] 2]}"));
 }
 
+TEST_F(UserCommandTest, TypesIntoTheConsoleIfThereIsOne) {
+    EXPECT_EQ("ERROR: there is no console", Answer("user type {set x 1}"));
+    std::string typed;
+    m_navigator.User().SetConsoleHandler([&typed](const std::string& text) { typed = text; });
+    EXPECT_EQ("", Answer("user type {set x 1}"));
+    EXPECT_EQ("set x 1", typed);
+}
+
 TEST_F(UserCommandTest, WhatIsNotThereIsASentence) {
     EXPECT_EQ("ERROR: there is no library \"nowhere\"", Answer("user click library nowhere"));
     EXPECT_EQ("ERROR: there is no row 3", Answer("user click row 3"));
