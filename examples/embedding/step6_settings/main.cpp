@@ -28,13 +28,14 @@ class ToolStore final : public ProfileStore {
 public:
     explicit ToolStore(Settings& settings) : m_settings(settings) {}
 
-    std::optional<CString> ReadText(const CString& section, const CString& key) const override {
+    [[nodiscard]] std::optional<CString> ReadText(const CString& section, const CString& key) const override {
         return Read<CString>(section, key);
     }
     void WriteText(const CString& section, const CString& key, const CString& value) override {
         m_settings[{section, key}] = value;
     }
-    std::optional<std::int32_t> ReadInteger(const CString& section, const CString& key) const override {
+    [[nodiscard]] std::optional<std::int32_t> ReadInteger(const CString& section,
+                                                          const CString& key) const override {
         return Read<std::int32_t>(section, key);
     }
     void WriteInteger(const CString& section, const CString& key, std::int32_t value) override {
@@ -43,7 +44,7 @@ public:
 
 private:
     template <typename Kind>
-    std::optional<Kind> Read(const CString& section, const CString& key) const {
+    [[nodiscard]] std::optional<Kind> Read(const CString& section, const CString& key) const {
         const auto found = m_settings.find({section, key});
         const Kind* value = found != m_settings.end() ? std::get_if<Kind>(&found->second) : nullptr;
         return value != nullptr ? std::optional(*value) : std::nullopt;

@@ -30,12 +30,13 @@ class ToolWords final : public CCommandLineInfo {
 public:
     void ParseParam(const CStringU& word, bool isSwitch, bool isLast) override {
         const std::string text = word.Payload();
-        if (isSwitch && text.starts_with("settings="))
+        if (isSwitch && text.starts_with("settings=")) {
             settings = text.substr(9);
-        else if (isSwitch && text.starts_with("picture="))
+        } else if (isSwitch && text.starts_with("picture=")) {
             picture = text.substr(8);
-        else
+        } else {
             CCommandLineInfo::ParseParam(word, isSwitch, isLast);
+        }
     }
     std::string settings;
     std::string picture;
