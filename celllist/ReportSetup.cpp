@@ -1,5 +1,7 @@
 /// @file
 /// The three setups: which columns show, where and how wide, and how that and the list's options are kept.
+///
+/// NATIVE: captions are in the active code page, names of sections in UTF-8.
 #include <array>
 #include <map>
 
@@ -76,8 +78,8 @@ void TReport::SerializeColumns(bool write) {
     for (int position = 0; position < columns.GetCount(); ++position) {
         CXTPReportColumn& column = *columns.GetAt(position);
         auto* own = dynamic_cast<TColumn*>(&column);
-        const TProfileSection section(write,
-                                      m_activeSetup.StripMarker() + "\\Columns\\" + column.GetCaption());
+        const CStringU path = m_activeSetup + CStringU("\\Columns\\") + CStringU(column.GetCaption());
+        const TProfileSection section(write, path.StripMarker());
         bool visible = column.IsVisible();
         int order = position;
         int width = column.GetWidth();

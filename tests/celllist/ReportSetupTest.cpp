@@ -1,4 +1,5 @@
 #include "tests/celllist/CellListFixture.h"
+#include "vapp/text/ActiveCodePage.h"
 
 namespace {
 
@@ -447,6 +448,14 @@ TEST_F(ReportSetupTest, KeepsTheLayoutOfAColumnWhateverItsCaption) {
     width = 100;
     for (int item = 3; item < Report().GetColumns().GetCount(); ++item)
         EXPECT_EQ(Report().GetColumns().Find(item)->GetWidth(), width++) << item;
+}
+
+TEST_F(ReportSetupTest, SectionsAreUtf8WhateverTheCodePage) {
+    gSetActiveCodePage(1252);
+    Report().AddColumn(CStringU("M\xC3\xBCller", TextEncoding::Utf8Auto), "state", true, false);
+    Report().SerializeSetup(true);
+    gSetActiveCodePage(0);
+    EXPECT_EQ(Integer("LibraryNavigator\\Setup1\\Columns\\M\xC3\xBCller", "Width"), 50);
 }
 
 // Columns that a host adds twice share their section: the later position wins when read.
