@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "text/QuotedList.h"
 #include "text/Tokenizer.h"
 #include "vapp/text/CStringU.h"
 
@@ -31,6 +32,10 @@ struct OursPeer {
                 size += Size(token);
             });
             return size;
+        } else if constexpr (What == Change::QuotedList) {
+            CStringArray items;
+            vapp_text::SplitQuoted(text.Stored(), items);
+            return vapp_text::JoinQuoted(items).View().size();
         } else {
             return Size(Changed<What>(text));
         }
@@ -46,16 +51,25 @@ private:
         if constexpr (What == Change::Unquote) return text.WithoutQuotes();
         if constexpr (What == Change::Lower) return text.ToLower();
         if constexpr (What == Change::Upper) return text.ToUpper();
+        if constexpr (What == Change::TrimSet) return text.TrimmedLeft(m_set);
         Text changed = text;
         if constexpr (What == Change::ReplaceChar) changed.Replace(u'_', u'-');
         if constexpr (What == Change::ReplaceText) changed.Replace(m_old, m_new);
+        if constexpr (What == Change::ReplaceCharNoCase) changed.ReplaceNoCase(u'X', u'-');
+        if constexpr (What == Change::ReplaceTextNoCase) changed.ReplaceNoCase(m_old, m_asLong);
         return changed;
     }
 
     const Text m_comma{","};
     const Text m_old{"_x"};
     const Text m_new{"-by-"};
+    const Text m_asLong{"-y"};
+    const Text m_set{"bns_"};
 };
+
+constexpr char Folded(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte;
+}
 
 struct StdPeer {
     using Text = std::string;
@@ -71,12 +85,40 @@ struct StdPeer {
                 at = text.find_first_not_of(',', end);
             }
             return size;
+        } else if constexpr (What == Change::QuotedList) {
+            return Joined(Split(text)).size();
         } else {
             return Changed<What>(text).size();
         }
     }
 
 private:
+    [[nodiscard]] static std::vector<Text> Split(const Text& text) {
+        std::vector<Text> items;
+        for (std::size_t at = text.find('"'); at < text.size(); at = text.find('"', at)) {
+            Text item;
+            for (++at; at < text.size() && text[at] != '"'; ++at) {
+                if (text[at] == '\\' && ++at == text.size()) break;
+                item += text[at];
+            }
+            if (at++ < text.size()) items.push_back(std::move(item));
+        }
+        return items;
+    }
+    [[nodiscard]] static Text Joined(const std::vector<Text>& items) {
+        Text text;
+        for (const Text& item : items) {
+            if (!text.empty()) text += ',';
+            text += '"';
+            for (const char byte : item) {
+                if (byte == '"' || byte == '\\') text += '\\';
+                text += byte;
+            }
+            text += '"';
+        }
+        return text;
+    }
+
     template <Change What>
     [[nodiscard]] static Text Changed(const Text& text) {
         if constexpr (What == Change::Trim) {
@@ -87,6 +129,17 @@ private:
             Text quoted;
             quoted.reserve(text.size() + 2);
             return quoted.append(1, '"').append(text).append(1, '"');
+        } else if constexpr (What == Change::TrimSet) {
+            return text.substr(std::min(text.find_first_not_of("bns_"), text.size()));
+        } else if constexpr (What == Change::ReplaceTextNoCase) {
+            Text changed = text;
+            const std::string_view wanted = "_x";
+            for (auto at = changed.begin(); at != changed.end();) {
+                at = std::search(at, changed.end(), wanted.begin(), wanted.end(),
+                                 [](char a, char b) { return Folded(a) == Folded(b); });
+                if (at != changed.end()) at = std::copy_n("-y", 2, at);
+            }
+            return changed;
         } else if constexpr (What == Change::Unquote) {
             return text.substr(1, text.size() - 2);
         } else if constexpr (What == Change::ReplaceText) {
@@ -98,6 +151,7 @@ private:
             Text changed = text;
             for (char& byte : changed) {
                 if constexpr (What == Change::ReplaceChar) byte = byte == '_' ? '-' : byte;
+                if constexpr (What == Change::ReplaceCharNoCase) byte = Folded(byte) == 'x' ? '-' : byte;
                 if constexpr (What == Change::Lower) {
                     if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte + 32);
                 }
@@ -171,27 +225,19 @@ private:
 
 }  // namespace
 
-std::vector<std::string> TextsFor(Change change, Script script) {
+std::vector<std::string> TextsFor(Change change, Script script, bool lines) {
+    const std::size_t least = lines ? 100 : change == Change::Tokens ? 200 : 1;
+    const std::string between = change == Change::Tokens ? "," : lines ? "." : "";
+    const bool list = change == Change::QuotedList;
     std::vector<std::string> texts;
-    std::string list;
+    std::string text;
     for (const auto& [name, other] : bench_names::Pairs(script, bench_names::Meeting::Random)) {
-        switch (change) {
-            case Change::Trim:
-                texts.push_back("  " + name + " \t");
-                break;
-            case Change::Unquote:
-                texts.push_back('"' + name + '"');
-                break;
-            case Change::Tokens:
-                list += name;
-                list += texts.size() % 3 == 0 ? ",," : ",";
-                if (list.size() < 200) break;
-                texts.push_back(std::exchange(list, {}));
-                break;
-            default:
-                texts.push_back(name);
-                break;
-        }
+        text += list ? (text.empty() ? "\"" : ",\"") + name + '"' : name + between;
+        if (change == Change::Tokens && texts.size() % 3 == 0) text += between;
+        if (text.size() < least) continue;
+        if (change == Change::Trim) text = "  " + text + " \t";
+        if (change == Change::Unquote) text = '"' + text + '"';
+        texts.push_back(std::exchange(text, {}));
     }
     return texts;
 }
@@ -199,6 +245,8 @@ std::vector<std::string> TextsFor(Change change, Script script) {
 void RegisterChangePeers() {
     RegisterChanges<OursPeer>("CStringU");
     RegisterChanges<StdPeer>("std_string", true);
+    RegisterMoreChanges<OursPeer>("CStringU");
+    RegisterMoreChanges<StdPeer>("std_string", true);
     RegisterChanges<IcuPeer>("UnicodeString");
     RegisterChanges<IcuUtf8Peer>("UnicodeString_utf8");
 }

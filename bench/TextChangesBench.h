@@ -17,18 +17,33 @@
 namespace text_bench {
 
 /// What is done to the texts.
-enum class Change { Trim, Quote, Unquote, ReplaceChar, ReplaceText, Lower, Upper, Tokens };
+enum class Change {
+    Trim,
+    Quote,
+    Unquote,
+    ReplaceChar,
+    ReplaceText,
+    Lower,
+    Upper,
+    Tokens,
+    TrimSet,            ///< the characters of a set off the left end
+    ReplaceCharNoCase,  ///< in either case
+    ReplaceTextNoCase,  ///< in either case, by one as long
+    QuotedList,         ///< read, and written again
+};
 
 /// Texts for a change, as UTF-8, always the same ones: blanks around them, quotes, commas in them.
-[[nodiscard]] std::vector<std::string> TextsFor(Change change, bench_names::Script script);
+/// Names are mostly short enough for a std::string to hold them in itself; with `lines` each text is several
+/// of them, 100 characters and more.
+[[nodiscard]] std::vector<std::string> TextsFor(Change change, bench_names::Script script, bool lines);
 
 /// Times `Peer`, which has a type Text, Make from UTF-8, and `std::size_t Run<Change>(const Text&)`, the
 /// number of characters of the result or of all tokens. The counter "chars" must agree between peers.
 template <typename Peer, Change What>
-void TimeChanges(benchmark::State& state, bench_names::Script script) {
+void TimeChanges(benchmark::State& state, bench_names::Script script, bool lines) {
     const Peer peer;
     std::vector<typename Peer::Text> texts;
-    for (const std::string& text : TextsFor(What, script))
+    for (const std::string& text : TextsFor(What, script, lines))
         texts.push_back(peer.Make(text));
     std::size_t chars = 0;
     for (const auto& text : texts)
@@ -46,10 +61,12 @@ void RegisterChange(const std::string& group, const std::string& name, bool asci
     using bench_names::Script;
     for (const Script script : {Script::Ascii, Script::NonAscii}) {
         if (asciiOnly && script != Script::Ascii) continue;
-        const std::string kind = script == Script::Ascii ? "ascii" : "nonascii";
-        benchmark::RegisterBenchmark(
-            (group + "/" + kind + "/" + name).c_str(),
-            [script](benchmark::State& state) { TimeChanges<Peer, What>(state, script); });
+        for (const bool lines : {false, true}) {
+            const std::string kind = script == Script::Ascii ? "/ascii" : "/nonascii";
+            benchmark::RegisterBenchmark(
+                (group + kind + (lines ? "lines/" : "/") + name).c_str(),
+                [script, lines](benchmark::State& state) { TimeChanges<Peer, What>(state, script, lines); });
+        }
     }
 }
 
@@ -64,6 +81,15 @@ void RegisterChanges(const std::string& name, bool asciiOnly = false) {
     RegisterChange<Peer, Change::Lower>("lower", name, asciiOnly);
     RegisterChange<Peer, Change::Upper>("upper", name, asciiOnly);
     RegisterChange<Peer, Change::Tokens>("tokens", name, asciiOnly);
+}
+
+/// Registers a peer for the changes that only ours and the standard string's peers have.
+template <typename Peer>
+void RegisterMoreChanges(const std::string& name, bool asciiOnly = false) {
+    RegisterChange<Peer, Change::TrimSet>("trimset", name, asciiOnly);
+    RegisterChange<Peer, Change::ReplaceCharNoCase>("replacecharnocase", name, asciiOnly);
+    RegisterChange<Peer, Change::ReplaceTextNoCase>("replacetextnocase", name, asciiOnly);
+    RegisterChange<Peer, Change::QuotedList>("quotedlist", name, asciiOnly);
 }
 
 /// Our operations beside the standard string's and ICU's.
