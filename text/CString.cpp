@@ -7,6 +7,8 @@
 
 #include "vapp/text/CString.h"
 
+#include <ext/atomicity.h>
+
 #include <algorithm>
 #include <cstring>
 #include <functional>
@@ -14,10 +16,15 @@
 #include <memory>
 #include <new>
 
+#include "text/BlockCache.h"
+
 namespace {
 
 // Header, bytes and NUL together must have a size that an int can count.
 constexpr std::size_t cnMaxLength = static_cast<std::size_t>(std::numeric_limits<int>::max()) - 64;
+
+// The room that an assigned text may leave unused, beside as much as it has itself.
+constexpr std::size_t cnSpareRoom = 64;
 
 int CheckedLength(std::size_t length) {
     if (length > cnMaxLength) throw std::bad_alloc();
@@ -28,32 +35,37 @@ std::size_t ClampedToZero(int count) {
     return count > 0 ? static_cast<std::size_t>(count) : 0;
 }
 
+// Counts owners; gives their number before. A locked operation costs as much as a short text's copy, so that
+// a program of one thread is spared it, as by the standard library's own counted pointers.
+int AddShares(std::atomic<int>& shares, int added) {
+    if (!__gnu_cxx::__is_single_threaded()) return shares.fetch_add(added, std::memory_order_acq_rel);
+    const int before = shares.load(std::memory_order_relaxed);
+    shares.store(before + added, std::memory_order_relaxed);
+    return before;
+}
+
 }  // namespace
 
 constinit CString::EmptyBuffer CString::s_empty{{{1}, 0, 0}, '\0'};
 
-char* CString::Allocate(int capacity) {
+inline char* CString::Allocate(int capacity, int length) {
     static_assert(offsetof(EmptyBuffer, nul) == sizeof(Header), "the bytes follow their header");
     const std::size_t size = sizeof(Header) + static_cast<std::size_t>(capacity) + 1;
-    char* const bytes = std::allocator<char>().allocate(size);
-    new (bytes) Header{{1}, 0, capacity};
+    char* const bytes = vapp_text::TakeBlock(size);
+    new (bytes) Header{{1}, length, capacity};
     char* const text = bytes + sizeof(Header);
-    *text = '\0';
+    text[length] = '\0';
     return text;
 }
 
-void CString::Release() noexcept {
+void CString::ReleaseBlock() noexcept {
     Header& header = GetHeader();
-    if (header.capacity == 0) return;
     // The last owner must see what the others did to the buffer before they let go of it. A sole owner stays
     // alone, since only it could share the buffer, so that it needs no locked operation.
-    if (header.shares.load(std::memory_order_acquire) != 1 &&
-        header.shares.fetch_sub(1, std::memory_order_acq_rel) != 1) {
-        return;
-    }
+    if (header.shares.load(std::memory_order_acquire) != 1 && AddShares(header.shares, -1) != 1) return;
     const std::size_t size = sizeof(Header) + static_cast<std::size_t>(header.capacity) + 1;
     header.~Header();
-    std::allocator<char>().deallocate(m_text - sizeof(Header), size);
+    vapp_text::GiveBlock(m_text - sizeof(Header), size);
 }
 
 void CString::SetLength(int length) noexcept {
@@ -69,13 +81,12 @@ void CString::MakeWritable(std::size_t capacity, bool grow) {
     const std::size_t held = ClampedToZero(header.capacity);
     if (held > 0 && held >= capacity && !IsShared()) return;
 
-    std::size_t wanted = std::max({capacity, length, std::size_t{1}});
+    std::size_t wanted = std::max(std::max(capacity, length), std::size_t{1});
     if (grow) wanted = std::max(wanted, std::min(length + length / 2, cnMaxLength));
-    char* const text = Allocate(CheckedLength(wanted));
+    char* const text = Allocate(CheckedLength(wanted), static_cast<int>(length));
     std::memcpy(text, m_text, length);
     Release();
     m_text = text;
-    SetLength(static_cast<int>(length));
 }
 
 bool CString::OwnsBytesAt(const char* text) const noexcept {
@@ -88,23 +99,54 @@ CString::CString(const char* text) : CString(ViewOf(text)) {}
 CString::CString(const char* text, int length)
     : CString(text != nullptr ? std::string_view(text, ClampedToZero(length)) : std::string_view()) {}
 
-CString::CString(std::string_view text) : m_text(EmptyText()) {
-    if (text.empty()) return;
-    m_text = Allocate(CheckedLength(text.size()));
-    std::memcpy(m_text, text.data(), text.size());
-    SetLength(static_cast<int>(text.size()));
+CString::CString(TUnfilled /*way*/, std::size_t length) : m_text(EmptyText()) {
+    if (length == 0) return;
+    const int checked = CheckedLength(length);
+    m_text = Allocate(checked, checked);
 }
 
-CString::CString(char character, int count) : m_text(EmptyText()) {
-    if (count < 1) return;
-    m_text = Allocate(CheckedLength(static_cast<std::size_t>(count)));
-    std::memset(m_text, character, static_cast<std::size_t>(count));
-    SetLength(count);
+CString::CString(std::string_view text) : CString(TUnfilled(), text.size()) {
+    if (!text.empty()) std::memcpy(m_text, text.data(), text.size());
+}
+
+CString::CString(char character, int count) : CString(TUnfilled(), ClampedToZero(count)) {
+    if (count > 0) std::memset(m_text, character, ClampedToZero(count));
 }
 
 CString::CString(const CString& other) noexcept : m_text(other.m_text) {
     Header& header = GetHeader();
-    if (header.capacity != 0) header.shares.fetch_add(1, std::memory_order_relaxed);
+    if (header.capacity != 0) AddShares(header.shares, 1);
+}
+
+// Whether an assigned text of so many bytes is written where this one lies. A buffer that is too wide for it
+// is given up: a text that lives on is not to hold the room of one that was there for a moment.
+bool CString::Suits(std::size_t length) const noexcept {
+    const std::size_t held = ClampedToZero(GetHeader().capacity);
+    return length > 0 && held >= length && held <= 2 * length + cnSpareRoom && !IsShared();
+}
+
+CString& CString::Assign(std::string_view text) {
+    if (!Suits(text.size())) {
+        CString(text).Swap(*this);
+        return *this;
+    }
+    std::memmove(m_text, text.data(), text.size());
+    SetLength(static_cast<int>(text.size()));
+    return *this;
+}
+
+CString& CString::Assign(std::string_view front, std::string_view text) {
+    const std::size_t length = front.size() + text.size();
+    if (!Suits(length)) {
+        CString joined =
+            Filled(length, [&](char* out) { text.copy(out + front.copy(out, front.size()), text.size()); });
+        Swap(joined);
+        return *this;
+    }
+    if (!text.empty()) std::memmove(m_text + front.size(), text.data(), text.size());
+    front.copy(m_text, front.size());
+    SetLength(static_cast<int>(length));
+    return *this;
 }
 
 CString& CString::operator=(const CString& other) noexcept {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "text/ReplaceBytes.h"
 #include "vapp/text/CString.h"
 
 namespace {
@@ -93,12 +94,42 @@ int CString::Remove(char character) {
     return static_cast<int>(removed);
 }
 
+// Writes the form of every byte from `first`, which is inside of the text, to the end: where the text lies,
+// or else, where it is shared, on the way into a buffer of its own.
+template <typename Form>
+void CString::MapFrom(std::size_t first, const Form& form) {
+    const std::string_view text = View();
+    const char* const behind = text.data() + text.size();
+    if (!IsShared()) {
+        std::transform(text.data() + first, behind, m_text + first, form);
+        return;
+    }
+    CString mapped(TUnfilled(), text.size());
+    text.copy(mapped.m_text, first);
+    std::transform(text.data() + first, behind, mapped.m_text + first, form);
+    Swap(mapped);
+}
+
+// Gives every byte its form; what already has it stays shared.
+template <typename Form>
+CString& CString::MakeForm(const Form& form) {
+    const char* const behind = m_text + GetLength();
+    const char* first = m_text;
+    while (first != behind && form(*first) == *first)
+        ++first;
+    if (first != behind) MapFrom(static_cast<std::size_t>(first - m_text), form);
+    return *this;
+}
+
 int CString::Replace(char oldCharacter, char newCharacter) {
-    const auto replaced = std::count(m_text, m_text + GetLength(), oldCharacter);
-    if (replaced == 0 || oldCharacter == newCharacter) return static_cast<int>(replaced);
+    const std::size_t first = View().find(oldCharacter);
+    if (first == std::string_view::npos) return 0;
+    if (oldCharacter == newCharacter) {
+        return static_cast<int>(std::count(m_text + first, m_text + GetLength(), oldCharacter));
+    }
     MakeWritable(0, false);
-    std::replace(m_text, m_text + GetLength(), oldCharacter, newCharacter);
-    return static_cast<int>(replaced);
+    return static_cast<int>(
+        vapp_text::ReplaceBytes(m_text + first, View().size() - first, oldCharacter, newCharacter));
 }
 
 int CString::Replace(const char* oldText, const char* newText) {
@@ -106,19 +137,25 @@ int CString::Replace(const char* oldText, const char* newText) {
     const std::string_view inserted = ViewOf(newText);
     if (searched.empty()) return 0;
     const std::string_view source = View();
-    int replaced = 0;
-    std::size_t from = 0;
-    CString result;
-    for (std::size_t hit = source.find(searched); hit != std::string_view::npos;
-         hit = source.find(searched, from)) {
-        result.Append(source.substr(from, hit - from)).Append(inserted);
-        from = hit + searched.size();
-        ++replaced;
-    }
-    if (replaced == 0) return 0;
-    result.Append(source.substr(from));
+    const std::size_t first = source.find(searched);
+    std::size_t hits = 0;
+    for (std::size_t at = first; at != std::string_view::npos;
+         at = source.find(searched, at + searched.size()))
+        ++hits;
+    if (hits == 0) return 0;
+    CString result = Filled(source.size() - hits * searched.size() + hits * inserted.size(), [&](char* out) {
+        std::size_t from = 0;
+        std::size_t hit = first;
+        for (std::size_t left = hits; left > 0; --left) {
+            out += source.copy(out, hit - from, from);
+            out += inserted.copy(out, inserted.size());
+            from = hit + searched.size();
+            if (left > 1) hit = source.find(searched, from);
+        }
+        source.copy(out, source.size() - from, from);
+    });
     Swap(result);
-    return replaced;
+    return static_cast<int>(hits);
 }
 
 CString& CString::KeepRange(std::size_t first, std::size_t behind) {
@@ -166,17 +203,9 @@ CString& CString::TrimRight(const char* set) {
 }
 
 CString& CString::MakeLower() {
-    if (std::any_of(m_text, m_text + GetLength(), [](char byte) { return LowerAscii(byte) != byte; })) {
-        MakeWritable(0, false);
-        std::transform(m_text, m_text + GetLength(), m_text, LowerAscii);
-    }
-    return *this;
+    return MakeForm([](char byte) { return LowerAscii(byte); });
 }
 
 CString& CString::MakeUpper() {
-    if (std::any_of(m_text, m_text + GetLength(), [](char byte) { return UpperAscii(byte) != byte; })) {
-        MakeWritable(0, false);
-        std::transform(m_text, m_text + GetLength(), m_text, UpperAscii);
-    }
-    return *this;
+    return MakeForm([](char byte) { return UpperAscii(byte); });
 }

@@ -45,14 +45,7 @@ TEncodedSize MeasureEncoded(std::u16string_view units) {
     return size;
 }
 
-CString WithMarker(std::string_view bytes) {
-    const std::string_view kept = bytes.substr(0, INT_MAX - 1);
-    CString text;
-    char* const out = text.GetBufferSetLength(static_cast<int>(kept.size() + 1));
-    *out = vapp_text::cnTextMarker;
-    kept.copy(out + 1, kept.size());
-    return text;
-}
+constexpr std::string_view csMarker(&vapp_text::cnTextMarker, 1);
 
 }  // namespace
 
@@ -124,20 +117,20 @@ CStringU& CStringU::Assign(const char* text, TextEncoding encoding, int length) 
             break;
         case TextEncoding::Utf8Auto:
             if (!AllAscii(bytes) && IsAsciiByte(bytes.front())) {
-                m_stored = WithMarker(bytes);
+                m_stored.Assign(csMarker, bytes);
                 return *this;
             }
             break;
         case TextEncoding::Utf8:
             if (!bytes.empty() && IsAsciiByte(bytes.front())) {
-                m_stored = WithMarker(bytes);
+                m_stored.Assign(csMarker, bytes);
                 return *this;
             }
             break;
         case TextEncoding::Raw:
             break;
     }
-    m_stored = CString(bytes);
+    m_stored.Assign(bytes);
     return *this;
 }
 
@@ -159,17 +152,11 @@ CStringU& CStringU::AssignWide(std::u16string_view text) {
     const TEncodedSize size = MeasureEncoded(units);
     const bool marked = size.nonAscii && units.front() < 0x80U;
     const std::size_t stored = size.bytes + static_cast<std::size_t>(marked);
-    CString result;
-    // A size that an int can't hold saturates, and the allocator refuses it.
-    const int length = static_cast<int>(std::min<std::size_t>(stored, INT_MAX));
-    if (length > 0) {
-        char* out = result.GetBufferSetLength(length);
+    m_stored = CString::Filled(stored, [&](char* out) {
         if (marked) *out++ = vapp_text::cnTextMarker;
-        for (const char16_t unit : units) {
+        for (const char16_t unit : units)
             out += EncodeChar(unit, out);
-        }
-    }
-    m_stored = std::move(result);
+    });
     return *this;
 }
 
@@ -198,7 +185,7 @@ CStringU& CStringU::AssignAnsiAuto(const char* text, unsigned codePage, int leng
 CStringU& CStringU::AssignMarked(const CString& utf8) {
     const std::string_view bytes = Bytes(utf8.GetString(), -1);
     if (!bytes.empty() && IsAsciiByte(bytes.front())) {
-        m_stored = WithMarker(bytes);
+        m_stored.Assign(csMarker, bytes);
     } else if (bytes.size() == utf8.View().size()) {
         m_stored = utf8;
     } else {

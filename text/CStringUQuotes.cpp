@@ -6,7 +6,6 @@
 /// is not quoted here, whereas one that begins with U+201C and ends with a plain quote is. Texts stored by
 /// hosts depend on it.
 
-#include <climits>
 #include <string_view>
 
 #include "text/AsciiBytes.h"
@@ -22,31 +21,36 @@ constexpr bool IsQuoteChar(char16_t unit) noexcept {
 /// What stands between the first and the last character; nothing where one of them is no quote character, or
 /// where they are the same.
 struct TQuoted {
-    explicit TQuoted(std::string_view text) {
-        if (text.empty()) return;
+    explicit TQuoted(std::string_view text)
+        : holds(text.size() > 1 && text.front() == '"' && text.back() == '"'),
+          first(1),
+          behind(static_cast<std::int64_t>(text.size()) - 1) {
+        if (!holds) FindAny(text);
+    }
+
+    bool holds;
+    std::int64_t first;
+    std::int64_t behind;
+
+private:
+    void FindAny(std::string_view text) {
         const char* walk = text.data();
-        if (!IsQuoteChar(vapp_text::DecodeNext(walk))) return;
+        if (text.empty() || !IsQuoteChar(vapp_text::DecodeNext(walk))) return;
         first = walk - text.data();
         behind = vapp_text::StepBackward(text.data(), static_cast<std::int64_t>(text.size()));
         holds = behind >= first && IsQuoteChar(vapp_text::PeekChar(text.data() + behind));
     }
-
-    bool holds = false;
-    std::int64_t first = 0;
-    std::int64_t behind = 0;
 };
 
 CString Surrounded(std::string_view payload, bool marked) {
-    const std::string_view kept = payload.substr(0, INT_MAX - 3);
     const std::size_t marker = marked ? 1 : 0;
-    CString text;
-    char* const out = text.GetBufferSetLength(static_cast<int>(kept.size() + 2 + marker));
-    if (marked) *out = vapp_text::cnTextMarker;
-    char* const quoted = out + marker;
-    quoted[0] = '"';
-    kept.copy(quoted + 1, kept.size());
-    quoted[kept.size() + 1] = '"';
-    return text;
+    return CString::Filled(payload.size() + 2 + marker, [&](char* out) {
+        if (marked) *out = vapp_text::cnTextMarker;
+        char* const quoted = out + marker;
+        quoted[0] = '"';
+        payload.copy(quoted + 1, payload.size());
+        quoted[payload.size() + 1] = '"';
+    });
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 /// The four replacements of a CStringU: of a character and of a text, with and without case.
 ///
 /// What is all ASCII is replaced byte by byte, but by ReplaceNoCase of texts. Everything else goes by
-/// characters: the text becomes UTF-16, is replaced there, and comes back classified anew; an overlong NUL in
-/// it ends it on that way.
+/// characters, and comes back classified anew; an overlong NUL in it ends it on that way. For texts that way
+/// leads through UTF-16.
 ///
 /// The surprise is ReplaceNoCase of texts. It searches a folded copy that is never edited, but applies each
 /// hit to the text that is: with a new text of another length every hit behind the first lands off its place,
@@ -19,6 +19,7 @@
 
 #include "text/Codec.h"
 #include "text/Fold.h"
+#include "text/MappedText.h"
 #include "text/Search.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
@@ -27,14 +28,30 @@ namespace {
 
 using vapp_text::FoldChar;
 
-int ReplaceUnit(std::u16string& units, char16_t oldUnit, char16_t newUnit) {
-    int replaced = 0;
-    for (char16_t& unit : units) {
-        if (unit != oldUnit) continue;
-        unit = newUnit;
-        ++replaced;
+// An ASCII byte is no part of another character, so that FindChar finds the first one, if nothing before.
+bool HoldsByte(std::string_view payload, char16_t unit) {
+    return unit < 0x80U && payload.find(static_cast<char>(unit)) != std::string_view::npos;
+}
+
+// What is stored of a text once each of its units is changed by `change`, which gives the number of its
+// replacements; they are summed up in `replaced`. Text outside of ASCII goes straight from bytes to bytes.
+template <typename Change>
+CString WithChangedUnits(const CStringU& text, int& replaced, const Change& change) {
+    if (!text.HasNonAscii()) {
+        std::u16string units = text.ToWide();
+        for (char16_t& unit : units)
+            replaced += change(unit);
+        return CStringU(std::u16string_view(units)).Stored();
     }
-    return replaced;
+    const auto counted = [&](char16_t unit) {
+        replaced += change(unit);
+        return unit;
+    };
+    const vapp_text::TMappedSize size = vapp_text::MeasureMapped(text.Payload(), counted);
+    return vapp_text::Mapped(text.Payload(), size, [&](char16_t unit) {
+        static_cast<void>(change(unit));
+        return unit;
+    });
 }
 
 int ReplaceText(std::u16string& units, std::u16string_view oldText, std::u16string_view newText) {
@@ -92,10 +109,13 @@ int CStringU::Replace(char16_t oldUnit, char16_t newUnit) {
         if (!IsAsciiUnit(oldUnit)) return 0;
         return m_stored.Replace(static_cast<char>(oldUnit), static_cast<char>(newUnit));
     }
-    if (FindChar(oldUnit, true, Begin()) == End()) return 0;
-    std::u16string units = ToWide();
-    const int replaced = ReplaceUnit(units, oldUnit, newUnit);
-    AssignWide(std::u16string_view(units));
+    if (!HoldsByte(PayloadView(), oldUnit) && FindChar(oldUnit, true, Begin()) == End()) return 0;
+    int replaced = 0;
+    m_stored = WithChangedUnits(*this, replaced, [=](char16_t& unit) {
+        const bool hit = unit == oldUnit;
+        unit = hit ? newUnit : unit;
+        return static_cast<int>(hit);
+    });
     return replaced;
 }
 
@@ -107,11 +127,19 @@ int CStringU::ReplaceNoCase(char16_t oldUnit, char16_t newUnit) {
         return ReplaceAsciiNoCase(static_cast<char>(lower), static_cast<char>(newUnit));
     }
     if (FindChar(oldUnit, false, Begin()) == End()) return 0;
-    std::u16string units = ToWide();
-    int replaced = ReplaceUnit(units, oldUnit, newUnit);
-    if (lower != oldUnit) replaced += ReplaceUnit(units, lower, newUnit);
-    if (upper != oldUnit) replaced += ReplaceUnit(units, upper, newUnit);
-    AssignWide(std::u16string_view(units));
+    int replaced = 0;
+    m_stored = WithChangedUnits(*this, replaced, [=](char16_t& unit) {
+        int ofUnit = 0;
+        const auto replace = [&](char16_t form) {
+            if (unit != form) return;
+            unit = newUnit;
+            ++ofUnit;
+        };
+        replace(oldUnit);
+        if (lower != oldUnit) replace(lower);
+        if (upper != oldUnit) replace(upper);
+        return ofUnit;
+    });
     return replaced;
 }
 

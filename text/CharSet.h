@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <string>
 
@@ -34,6 +35,13 @@ public:
     [[nodiscard]] bool Holds(char16_t unit) const noexcept {
         if (unit < 0x80U) return ((m_ascii[unit / cnBits] >> (unit % cnBits)) & 1U) != 0;
         return std::binary_search(m_others.begin(), m_others.end(), unit);
+    }
+
+    /// The one ASCII character of the set; 0 for none or for more.
+    [[nodiscard]] char OnlyAscii() const noexcept {
+        if (std::popcount(m_ascii[0]) + std::popcount(m_ascii[1]) != 1) return '\0';
+        return static_cast<char>(m_ascii[0] != 0 ? std::countr_zero(m_ascii[0])
+                                                 : std::countr_zero(m_ascii[1]) + static_cast<int>(cnBits));
     }
 
 private:

@@ -13,6 +13,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <utility>
 
 #include "text/CharSet.h"
@@ -27,7 +28,9 @@ public:
     TTokenizer(CStringU text, const CStringU& separators, bool caseSensitive = false)
         : m_text(std::move(text)),
           m_separators(separators.Payload(), !caseSensitive),
-          m_fold(!caseSensitive) {}
+          m_fold(!caseSensitive),
+          m_plain(IsPlain(m_text)),
+          m_onlySeparator(WithoutCase(m_separators.OnlyAscii())) {}
 
     /// The next token at or behind the byte offset `pos`, which moves behind the token and the separators
     /// that follow it. When no token is left: empty text, and `pos` is the text's end; a NUL inside of the
@@ -39,24 +42,36 @@ public:
     /// The end that `pos` reaches.
     [[nodiscard]] std::int64_t GetByteLength() const noexcept { return m_text.GetByteLength(); }
 
-    /// Hands out all tokens in order.
+    /// Hands out all tokens in order, each as a `const CStringU&` that lasts for the call: one text, filled
+    /// again and again where nobody keeps a share of it.
     template <typename Use>
     void ForEachToken(const Use& use) const {
+        CStringU token;
         std::int64_t pos = SkipSeparators(0);
-        while (pos < GetByteLength())
-            use(NextToken(pos));
+        while (pos < GetByteLength()) {
+            ReadToken(pos, token);
+            use(std::as_const(token));
+        }
     }
 
 private:
     [[nodiscard]] bool IsSeparator(char16_t unit) const noexcept {
         return m_separators.Holds(m_fold ? FoldChar(unit) : unit);
     }
+    [[nodiscard]] static bool IsPlain(const CStringU& text) noexcept;
+    [[nodiscard]] char WithoutCase(char separator) const noexcept;
     template <bool Separators>
     [[nodiscard]] std::int64_t Skip(std::int64_t from) const noexcept;
+    template <bool Separators>
+    [[nodiscard]] std::size_t SkipPlain(std::string_view left) const noexcept;
+    // From an offset where no separator stands.
+    void ReadToken(std::int64_t& pos, CStringU& token) const;
 
     CStringU m_text;
     CharSet m_separators;
     bool m_fold;
+    bool m_plain;          // each byte is a character
+    char m_onlySeparator;  // the one of plain text that is searched for as it stands; 0 for none
 };
 
 }  // namespace vapp_text

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstring>
+#include <new>
 #include <thread>
 #include <type_traits>
 #include <unordered_set>
@@ -37,6 +39,48 @@ TEST(CString, ConstructorsTakeTextLengthAndRepeats) {
     EXPECT_EQ(CString('x', 4), "xxxx");
     EXPECT_EQ(CString(std::string_view("view")), "view");
     EXPECT_EQ(CString("a\0b", 3).GetLength(), 3);
+}
+
+TEST(CString, AFilledTextIsWhatWasWritten) {
+    const CString text = CString::Filled(3, [](char* out) { std::memcpy(out, "a\0b", 3); });
+    EXPECT_EQ(text, CString("a\0b", 3));
+    EXPECT_EQ(text.GetString()[3], '\0');
+    const CString none = CString::Filled(0, [](char*) { FAIL() << "there is nothing to write to"; });
+    EXPECT_EQ(none.GetString(), CString().GetString());
+    EXPECT_THROW(static_cast<void>(CString::Filled(std::size_t{INT_MAX}, [](char*) {})), std::bad_alloc);
+}
+
+TEST(CString, AnAssignedTextLiesInTheOldBufferWhereItFits) {
+    CString text("a name of some length");
+    const char* const buffer = text.GetString();
+    text.Assign("short");
+    EXPECT_EQ(text, "short");
+    EXPECT_EQ(text.GetString(), buffer);
+    text.Assign("\x80", text.View());
+    EXPECT_EQ(text, "\x80short") << "moved up in its own buffer";
+    EXPECT_EQ(text.GetString(), buffer);
+    text.Assign(text.View().substr(3));
+    EXPECT_EQ(text, "ort");
+    text.Assign("+", text.View());
+    text.Assign("a text that is longer than the buffer", text.View());
+    EXPECT_EQ(text, "a text that is longer than the buffer+ort");
+}
+
+TEST(CString, AnAssignedTextLeavesCopiesAndWideBuffersAlone) {
+    CString text("shared");
+    const CString copy = text;
+    text.Assign("other");
+    EXPECT_EQ(copy, "shared");
+    EXPECT_EQ(text, "other");
+    CString wide('x', 10000);
+    const char* const buffer = wide.GetString();
+    wide.Assign(wide.View().substr(0, 3));
+    EXPECT_EQ(wide, "xxx");
+    EXPECT_NE(wide.GetString(), buffer) << "a short text doesn't hold the room of a long one";
+    wide.Assign("");
+    EXPECT_EQ(wide.GetString(), CString().GetString());
+    wide.Assign({});
+    EXPECT_TRUE(wide.IsEmpty());
 }
 
 TEST(CString, CopiesShareUntilOneIsWritten) {

@@ -53,6 +53,17 @@ TEST(CharSet, ManyMembersAndManyOfOneAreAskedQuickly) {
     }
 }
 
+TEST(CharSet, NamesTheOneAsciiCharacterThatItHolds) {
+    for (char c = 1; c > 0 && c < 0x7F; ++c)
+        EXPECT_EQ(CharSet(std::string(3, c).c_str()).OnlyAscii(), c);
+    EXPECT_EQ(CharSet("\x7f").OnlyAscii(), '\x7f');
+    EXPECT_EQ(CharSet(text_test::Bytes(u"\u00e9,\u4e2d").c_str()).OnlyAscii(), ',');
+    EXPECT_EQ(CharSet("").OnlyAscii(), '\0');
+    EXPECT_EQ(CharSet(",;").OnlyAscii(), '\0');
+    EXPECT_EQ(CharSet("aA").OnlyAscii(), '\0');
+    EXPECT_EQ(CharSet("aA", true).OnlyAscii(), 'a');
+}
+
 TEST(CharSet, AnEmptySetHoldsNothing) {
     const CharSet set("");
     for (unsigned c = 0; c <= 0xFFFF; ++c)

@@ -119,6 +119,49 @@ TEST(Tokenizer, RandomTextsAgreeWithPlainUtf16) {
     }
 }
 
+// Plain text has ways of its own, one more for a single separator.
+TEST(Tokenizer, RandomPlainTextsAgreeWithPlainUtf16) {
+    std::mt19937 random = SeededRandom();
+    const std::u16string alphabet = u"aAbB,;\x01\x7f";
+    const auto plain = [&](std::size_t longest) {
+        std::u16string units;
+        for (std::size_t left = UpTo(random, longest); left > 0; --left)
+            units += alphabet[UpTo(random, alphabet.size() - 1)];
+        return units;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const std::u16string text = plain(24);
+        const std::u16string separators = plain(2) + (UpTo(random, 3) == 0 ? u"\u00e9" : u"");
+        const bool caseSensitive = UpTo(random, 1) == 0;
+        ASSERT_EQ(Tokens(CStringU(text.c_str()), CStringU(separators.c_str()), caseSensitive),
+                  Model(text, separators, caseSensitive))
+            << Shown(Bytes(text)) << " at " << Shown(Bytes(separators));
+    }
+}
+
+// It says that it is ASCII and is not: a lead byte takes the separator behind it for its second byte.
+TEST(Tokenizer, RawTextIsReadAsItDecodes) {
+    const CStringU text("a\xC3,b,c", TextEncoding::Raw);
+    std::vector<std::string> tokens;
+    TTokenizer(text, ",").ForEachToken([&](const CStringU& token) { tokens.push_back(Stored(token)); });
+    EXPECT_EQ(tokens, (std::vector<std::string>{"a\xC3,b", "c"}));
+}
+
+TEST(Tokenizer, ATokenThatIsKeptStaysWhatItWas) {
+    std::vector<CStringU> kept;
+    TTokenizer(CStringU(u"one,two,\u00e9three,fo\u00fcr,five"), ",").ForEachToken([&](const CStringU& token) {
+        kept.push_back(token);
+    });
+    EXPECT_EQ(kept, (std::vector<CStringU>{"one", "two", CStringU(u"\u00e9three"), CStringU(u"fo\u00fcr"),
+                                           "five"}));
+    const CStringU* first = nullptr;
+    TTokenizer("one,two", ",").ForEachToken([&](const CStringU& token) {
+        if (first == nullptr) first = &token;
+        EXPECT_EQ(first, &token) << "one text is filled again";
+        EXPECT_FALSE(token.Stored().IsShared());
+    });
+}
+
 TEST(Tokenizer, ATextOfSeparatorsAloneHasNoTokenToBeginWith) {
     const TTokenizer tokenizer(",,", ",");
     EXPECT_EQ(tokenizer.SkipSeparators(0), 2);

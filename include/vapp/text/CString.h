@@ -47,6 +47,18 @@ public:
     CString& operator=(const CString& other) noexcept;
     CString& operator=(CString&& other) noexcept;
     CString& operator=(const char* text);
+    /// Becomes a copy of the bytes of a view, in the buffer that it has if they fit well. The view may be a
+    /// part of this text.
+    CString& Assign(std::string_view text);
+    /// The same of two views, one behind the other; `front` is no part of this text.
+    CString& Assign(std::string_view front, std::string_view text);
+    /// A text of `length` bytes that `fill` writes, each of them, to the `char*` that it is called with.
+    template <std::invocable<char*> Fill>
+    [[nodiscard]] static CString Filled(std::size_t length, const Fill& fill) {
+        CString text(TUnfilled(), length);
+        if (length > 0) fill(text.m_text);
+        return text;
+    }
 
     /// The number of bytes before the terminating NUL.
     [[nodiscard]] int GetLength() const noexcept { return GetHeader().length; }
@@ -201,18 +213,29 @@ private:
         char nul;
     };
     static EmptyBuffer s_empty;
+    struct TUnfilled {};
+
+    CString(TUnfilled way, std::size_t length);
 
     [[nodiscard]] static char* EmptyText() noexcept { return &s_empty.nul; }
-    [[nodiscard]] static char* Allocate(int capacity);
+    [[nodiscard]] static char* Allocate(int capacity, int length);
     [[nodiscard]] Header& GetHeader() const noexcept {
         return *reinterpret_cast<Header*>(m_text - sizeof(Header));
     }
     [[nodiscard]] bool OwnsBytesAt(const char* text) const noexcept;
-    void Release() noexcept;
+    void Release() noexcept {
+        if (GetHeader().capacity != 0) ReleaseBlock();
+    }
+    void ReleaseBlock() noexcept;
+    [[nodiscard]] bool Suits(std::size_t length) const noexcept;
     void SetLength(int length) noexcept;
     void MakeWritable(std::size_t capacity, bool grow);
     [[nodiscard]] int CompareFolded(std::string_view other) const noexcept;
     void ReplaceRange(int first, int count, std::string_view text);
+    template <typename Form>
+    void MapFrom(std::size_t first, const Form& form);
+    template <typename Form>
+    CString& MakeForm(const Form& form);
     CString& KeepRange(std::size_t first, std::size_t behind);
     CString& TrimSet(std::string_view set, bool left, bool right);
 

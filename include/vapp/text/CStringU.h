@@ -101,6 +101,11 @@ public:
     /// Reads bytes as `encoding` says: exactly `length` of them, or up to the NUL where `length` is negative;
     /// never beyond a NUL. A null pointer gives empty text.
     CStringU& Assign(const char* text, TextEncoding encoding, int length = -1);
+    /// Takes bytes known to be ASCII, as the constructor with TAscii does.
+    CStringU& AssignAscii(std::string_view ascii) {
+        m_stored.Assign(ascii);
+        return *this;
+    }
     /// Encodes UTF-16, up to `count` units or the NUL, and puts the marker in front where it is due. A null
     /// pointer gives empty text.
     CStringU& AssignWide(const char16_t* text, int count = -1);
