@@ -95,8 +95,9 @@ void ForgetOthers(const NameTable& names, std::vector<NameAnswer>& answers) {
 }  // namespace
 
 std::vector<NameAnswer> SearchNames(const NameTable& names, std::string_view text, bool caseSensitive) {
-    if (text.empty() || !IsAscii(text)) return std::vector(names.Count(), NameAnswer::Unknown);
-    std::vector answers(names.Count(), NameAnswer::No);
+    const bool isForBytes = !text.empty() && IsAscii(text);
+    std::vector answers(names.Count(), isForBytes ? NameAnswer::No : NameAnswer::Unknown);
+    if (!isForBytes) return answers;
     const std::string_view bytes = names.AllBytes();
     if (caseSensitive) {
         if (!answers.empty()) MarkHits(bytes, text, names.Starts(), 0, answers);

@@ -10,6 +10,7 @@
 
 #include "celllist/FilterHistory.h"
 #include "celllist/FilterImages.h"
+#include "toolkit/DialogItems.h"
 #include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/TProfileSection.h"
 #include "vapp/celllist/TCellListView.h"
@@ -50,11 +51,18 @@ void TCellListView::FocusFilter() {
 
 void TCellListView::OnEditFilterChange() {
     const CString text = GetFilterText();
-    m_filterButton.SetImageResource(text.IsEmpty() ? cnFilterImageEmpty : cnFilterImageFilled);
+    ShowFilterButton(text.IsEmpty());
     SetNeedsPopulate(true);
     m_filterHistory->Note(text);
     CString history = m_filterHistory->ToText().StripMarker();
     SetCellFilterHistory(history);
+}
+
+// The name goes with the image: it is what the button does now.
+void TCellListView::ShowFilterButton(bool isEmpty) {
+    m_filterButton.SetAccessibleName(gTranslateWindowText(isEmpty ? "__$$Translatable$$_Recent filters"
+                                                                  : "__$$Translatable$$_Clear filter"));
+    m_filterButton.SetImageResource(isEmpty ? cnFilterImageEmpty : cnFilterImageFilled);
 }
 
 // --- The history -----------------------------------------------------------------------------------------

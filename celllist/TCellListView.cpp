@@ -6,7 +6,6 @@
 #include <array>
 
 #include "celllist/FilterHistory.h"
-#include "celllist/FilterImages.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TSymbolPreview.h"
@@ -43,7 +42,6 @@ struct ControlName {
 constexpr std::array cnNames = {
     ControlName{TCellListView::cnFilterCombo, "__$$Translatable$$_Filter type"},
     ControlName{TCellListView::cnFilterEdit, "__$$Translatable$$_Filter cells"},
-    ControlName{TCellListView::cnFilterButton, "__$$Translatable$$_Clear filter"},
     ControlName{TCellListView::cnReport, "__$$Translatable$$_Cells"},
     ControlName{TCellListView::cnTabs, "__$$Translatable$$_Column setups"},
     ControlName{TCellListView::cnStatus, "__$$Translatable$$_Number of cells"},
@@ -71,7 +69,7 @@ void TCellListView::OnCreate() {
     CreateItem(m_report, cnReport);
     CreateItem(m_tabs, cnTabs);
     CreateItem(m_status, cnStatus);
-    m_filterButton.SetImageResource(cnFilterImageEmpty);
+    ShowFilterButton(true);
     m_tabs.SetMinWidthText("WWW");
     m_filterEdit.SetCueText(WindowText("__$$Translatable$$_Filter cells"));
     while (m_tabs.GetItemCount() < cnTabCount)

@@ -74,8 +74,10 @@ TEST_F(PaneFilterTest, TheButtonClearsWhileThereIsText) {
         shown = true;
         return 101u;
     };
+    EXPECT_EQ(Button().GetAccessibleName(), "Recent filters");
     Type("abc");
     EXPECT_EQ(Button().GetImageResource(), 564u);
+    EXPECT_EQ(Button().GetAccessibleName(), "Clear filter");
     m_browser.Populate();
     Button().Click();
     EXPECT_EQ(Cells().GetFilterText(), "");

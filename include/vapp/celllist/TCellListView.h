@@ -129,6 +129,7 @@ protected:
     bool OnKey(CWnd& from, TKey key, TModifiers modifiers) override;
 
 private:
+    void ShowFilterButton(bool isEmpty);
     void LoadFilterHistory();
     void OfferFilterHistory();
     void FocusRows();
