@@ -24,13 +24,19 @@ ConsoleInput::ConsoleInput(InputHistory& history, QWidget* parent)
     : QPlainTextEdit(parent), m_history(history) {
     setObjectName(QStringLiteral("consoleInput"));
     setAccessibleName(tr("Tcl command"));
-    setPlaceholderText(tr("Tcl, for example: database all_libs"));
+    ShowHint(false);
     setLineWrapMode(NoWrap);
     // Tab goes on to the next pane, as everywhere in the window.
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QPlainTextEdit::blockCountChanged, this, [this] { FitHeight(); });
     FitHeight();
+}
+
+void ConsoleInput::ShowHint(bool isRunning) {
+    const QString hint =
+        isRunning ? tr("Running. Escape stops it.") : tr("Tcl, for example: database all_libs");
+    if (placeholderText() != hint) setPlaceholderText(hint);
 }
 
 void ConsoleInput::keyPressEvent(QKeyEvent* event) {

@@ -17,6 +17,9 @@ public:
     /// Called with each complete text, which has left the field then.
     void SetSendHandler(std::function<void(const QString&)> handler) { m_send = std::move(handler); }
 
+    /// Says in the empty field what can be done: type, or stop the line that is running.
+    void ShowHint(bool isRunning);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;

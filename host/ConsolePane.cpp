@@ -2,7 +2,9 @@
 
 #include "host/ConsolePane.h"
 
+#include <QApplication>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -52,15 +54,57 @@ ConsolePane::ConsolePane(TclConsole& console, QWidget* parent)
     layout->addWidget(m_input);
     setFocusProxy(m_input);
     m_input->SetSendHandler([this](const QString& text) { Run(text); });
+    m_console.SetBusyHandler([this] { return LetPaint(); });
+}
+
+ConsolePane::~ConsolePane() {
+    m_console.SetBusyHandler(nullptr);
 }
 
 void ConsolePane::Run(const QString& text) {
     Append(QStringLiteral("% ") + text, TInk::Sent);
+    m_isStopWanted = false;
     const ConsoleAnswer answer = m_console.Run(text.toStdString());
+    m_input->ShowHint(false);
     if (!answer.output.empty()) Append(TextOf(answer.output), TInk::Written);
     if (!answer.result.empty()) Append(TextOf(answer.result), answer.isError ? TInk::Error : TInk::Result);
     QScrollBar* const bar = m_output->verticalScrollBar();
     bar->setValue(bar->maximum());
+}
+
+bool ConsolePane::LetPaint() {
+    m_input->ShowHint(true);
+    qApp->installEventFilter(this);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(this);
+    return m_isStopWanted;
+}
+
+bool ConsolePane::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyPress:
+            if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) m_isStopWanted = true;
+            return true;
+        case QEvent::Close:
+            m_isStopWanted = true;
+            event->ignore();
+            return true;
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+        case QEvent::Shortcut:
+        case QEvent::InputMethod:
+        case QEvent::DragEnter:
+        case QEvent::Drop:
+            return true;
+        default:
+            return QWidget::eventFilter(watched, event);
+    }
 }
 
 void ConsolePane::FocusInput() {

@@ -16,6 +16,7 @@ class ConsolePane : public QWidget {
 public:
     /// @param console  outlives the pane
     explicit ConsolePane(TclConsole& console, QWidget* parent = nullptr);
+    ~ConsolePane() override;
 
     /// Runs a text as if it had been typed.
     void Run(const QString& text);
@@ -23,15 +24,19 @@ public:
     void FocusInput();
     [[nodiscard]] bool HasInputFocus() const;
     [[nodiscard]] QSize sizeHint() const override;
+    /// While a line runs: no input reaches any window; Escape, or closing a window, ends the line.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     enum class TInk { Sent, Written, Result, Error };
 
+    bool LetPaint();
     void Append(const QString& text, TInk ink);
 
     TclConsole& m_console;
     QPlainTextEdit* m_output;
     ConsoleInput* m_input;
+    bool m_isStopWanted = false;
 };
 
 }  // namespace navigator

@@ -65,7 +65,7 @@ QtShell::~QtShell() {
     }
     m_navigator.User().SetConsoleHandler(nullptr);
     // The window may live on for a moment; the console in it has nothing to talk to any more.
-    delete m_dock;
+    delete m_dock.data();
     QObject::disconnect(m_idle);
     m_navigator.Commands().SetPreviewHandler(nullptr);
     m_navigator.Browser().SetPreview(true, CStringU(), nullptr);

@@ -2,7 +2,9 @@
 /// Shows a Navigator on a screen by Qt, or off screen: pictures for the preview pane, refreshing when idle,
 /// watching the folders, menus, the console beside the panes, screenshots.
 
+#include <QDockWidget>
 #include <QImage>
+#include <QPointer>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,7 +18,6 @@
 #include "vapp/toolkit/qt/QtBitmap.h"
 
 class QAction;
-class QDockWidget;
 class QMainWindow;
 
 namespace navigator {
@@ -65,8 +66,9 @@ private:
     QtBitmap m_picture;
     TclConsole m_console;
     std::unique_ptr<MainMenu> m_menu;
-    ConsolePane* m_consolePane = nullptr;  ///< The window's.
-    QDockWidget* m_dock = nullptr;         ///< The window's.
+    // The window's, and gone with it.
+    QPointer<ConsolePane> m_consolePane;
+    QPointer<QDockWidget> m_dock;
     TclCommand m_exit;
     std::optional<int> m_exitStatus;
     bool m_isRunning = false;

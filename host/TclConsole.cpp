@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "host/OutputCapture.h"
+#include "host/TclCommand.h"
 
 namespace navigator {
 
@@ -52,6 +53,59 @@ Tcl_Obj* ToTcl(const std::string& text) {
 
 }  // namespace
 
+/// Tcl's limit of time, which is over again and again: each time the handler is asked, and puts it off. Only
+/// the outermost line has one, as there is one limit for the interpreter.
+class TclConsole::TimeLimit {
+public:
+    TimeLimit(Tcl_Interp* interp, const std::function<bool()>& busy) : m_interp(interp), m_busy(busy) {
+        if (!m_busy || Tcl_LimitTypeEnabled(m_interp, TCL_LIMIT_TIME) != 0) return;
+        m_isSet = true;
+        Tcl_LimitAddHandler(m_interp, TCL_LIMIT_TIME, &TimeLimit::IsOver, this, nullptr);
+        Tcl_LimitSetGranularity(m_interp, TCL_LIMIT_TIME, cnCommandsBetweenLooks);
+        PutOff();
+        Tcl_LimitTypeSet(m_interp, TCL_LIMIT_TIME);
+    }
+    ~TimeLimit() {
+        if (!m_isSet) return;
+        Tcl_LimitTypeReset(m_interp, TCL_LIMIT_TIME);
+        Tcl_LimitRemoveHandler(m_interp, TCL_LIMIT_TIME, &TimeLimit::IsOver, this);
+    }
+    TimeLimit(const TimeLimit&) = delete;
+    TimeLimit& operator=(const TimeLimit&) = delete;
+
+    [[nodiscard]] bool HasEnded() const { return m_hasEnded; }
+
+private:
+    static constexpr int cnCommandsBetweenLooks = 50;
+    static constexpr long cnMicroseconds = 150'000;
+
+    static void IsOver(ClientData data, Tcl_Interp*) {
+        auto* const self = static_cast<TimeLimit*>(data);
+        if (self->m_hasEnded) return;
+        // First of all, as lines that run inside of the handler must not find themselves out of time.
+        self->PutOff();
+        if (!self->m_busy()) return;
+        self->m_hasEnded = true;
+        Tcl_Time past{0, 0};
+        Tcl_LimitSetTime(self->m_interp, &past);
+    }
+
+    void PutOff() {
+        constexpr long cnSecond = 1'000'000;
+        Tcl_Time next{};
+        Tcl_GetTime(&next);
+        next.usec += cnMicroseconds;
+        next.sec += next.usec / cnSecond;
+        next.usec %= cnSecond;
+        Tcl_LimitSetTime(m_interp, &next);
+    }
+
+    Tcl_Interp* m_interp;
+    const std::function<bool()>& m_busy;
+    bool m_isSet = false;
+    bool m_hasEnded = false;
+};
+
 bool TclConsole::IsComplete(const std::string& text) {
     return Tcl_CommandComplete((text + "\n").c_str()) != 0;
 }
@@ -65,8 +119,14 @@ ConsoleAnswer TclConsole::Run(const std::string& text) {
         OutputCapture capture(interp);
         Tcl_Obj* const line = ToTcl(text);
         Tcl_IncrRefCount(line);
-        answer.isError = Tcl_EvalObjEx(interp, line, TCL_EVAL_GLOBAL | TCL_EVAL_DIRECT) != TCL_OK;
+        bool hasEnded = false;
+        {
+            const TimeLimit limit(interp, m_busy);
+            answer.isError = Tcl_EvalObjEx(interp, line, TCL_EVAL_GLOBAL | TCL_EVAL_DIRECT) != TCL_OK;
+            hasEnded = answer.isError && limit.HasEnded();
+        }
         Tcl_DecrRefCount(line);
+        if (hasEnded) Tcl_SetObjResult(interp, gTclText("stopped"));
         answer.result = gShortenedForConsole(FromTcl(Tcl_GetObjResult(interp)));
         answer.output = gShortenedForConsole(capture.Take());
         if (capture.Dropped() > 0)

@@ -1,11 +1,14 @@
 #pragma once
 /// The console without its pixels: lines of Tcl go in, and what they wrote and gave comes out. All runs in
-/// the host's own interpreter at global level, in the call: a line that runs long keeps the window waiting.
+/// the host's own interpreter at global level, in the call. While a line runs long, whoever shows the console
+/// is asked now and then whether it is to go on.
 
 #include <tcl.h>
 
 #include <cstddef>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "host/InputHistory.h"
 
@@ -25,14 +28,21 @@ public:
 
     /// Whether all braces, brackets and quotes that the text opens are closed.
     [[nodiscard]] static bool IsComplete(const std::string& text);
+    /// Called several times a second while a line runs, inside of it: to let the window paint, and to say
+    /// true if the line is to end. It ends with an error then that no `catch` holds up. A command that waits
+    /// for something by itself, like `exec`, is not asked before it comes back.
+    void SetBusyHandler(std::function<bool()> handler) { m_busy = std::move(handler); }
     /// Runs the text and takes it into the history. Output and result are shortened to what a window can
     /// show.
     ConsoleAnswer Run(const std::string& text);
     [[nodiscard]] InputHistory& History() { return m_history; }
 
 private:
+    class TimeLimit;
+
     Tcl_Interp* m_interp;
     InputHistory m_history;
+    std::function<bool()> m_busy;
 };
 
 /// Longest text, in bytes, and most lines of it that the console shows of one answer.

@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
+#include <QTimer>
 
 #include "tests/host/TestInterp.h"
 
@@ -96,6 +97,25 @@ TEST_F(ConsolePaneTest, OneEndlessLineIsShownWithoutAPause) {
     EXPECT_LT(clock.elapsed(), 20'000);
     RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
     EXPECT_THAT(Output(), HasSubstr(" bytes more"));
+}
+
+TEST_F(ConsolePaneTest, EscapeStopsALineAndOtherKeysMeanwhileAreNobodys) {
+    // Comes when events are handled for the first time, which is in the middle of the line.
+    QTimer::singleShot(
+        0, &m_pane, [this] {
+            EXPECT_EQ("Running. Escape stops it.", Field("consoleInput")->placeholderText().toStdString());
+            QTest::keyClicks(Field("consoleInput"), QStringLiteral("lost"));
+            EXPECT_FALSE(m_pane.close())
+                << "an end of the window in the middle of a line would be the end of it all";
+            QTest::keyClick(Field("consoleInput"), Qt::Key_Escape);
+        });
+    Field("consoleInput")->setPlainText(QStringLiteral("while 1 {}"));
+    QTest::keyClick(Field("consoleInput"), Qt::Key_Return);
+    EXPECT_EQ("% while 1 {}\nstopped", Output());
+    EXPECT_EQ("", Field("consoleInput")->toPlainText().toStdString());
+    EXPECT_TRUE(m_pane.isVisible());
+    Send("expr 6*7");
+    EXPECT_EQ("42", Field("consoleOutput")->document()->lastBlock().text().toStdString());
 }
 
 TEST_F(ConsolePaneTest, ASignThatEndsTextsIsShownAsASign) {

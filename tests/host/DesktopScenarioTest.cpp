@@ -153,6 +153,9 @@ TEST_F(DesktopTest, TheConsoleAnswersWhatIsTyped) {
     Type("database select logic inv symbol");
     Press({QStringLiteral("Return")});
     ASSERT_TRUE(Await(*m_first, "[dict get $s cell] eq {logic inv symbol}"));
+    Type("set ::typed endless; while 1 {}");
+    Press({QStringLiteral("Return"), QStringLiteral("Escape")});
+    ASSERT_TRUE(Await(*m_first, "[dict get $s typed] eq {endless}")) << "a line that never ends was stopped";
     Type("exit 5");
     Press({QStringLiteral("Return")});
     EXPECT_EQ(5, m_first->WaitForEnd()) << m_first->Errors();

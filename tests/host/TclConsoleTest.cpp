@@ -105,6 +105,43 @@ TEST_F(TclConsoleTest, WhatWasRunIsInTheHistory) {
     EXPECT_EQ("set x 1", m_console.History().Previous(""));
 }
 
+TEST_F(TclConsoleTest, ALineThatNeverEndsIsStoppedFromOutside) {
+    int asked = 0;
+    m_console.SetBusyHandler([&asked] { return ++asked == 3; });
+    for (const char* text : {"while 1 {}", "while 1 {catch {while 1 {set x 1}}}",
+                             "proc f {} {f2}; proc f2 {} {while 1 {incr ::n}}; f"}) {
+        asked = 0;
+        const ConsoleAnswer answer = Run(text);
+        EXPECT_TRUE(answer.isError) << text;
+        EXPECT_EQ("stopped", answer.result) << text;
+        EXPECT_EQ(3, asked) << text;
+        EXPECT_EQ("42", Run("expr {6 * 7}").result) << "and the next line has all its time";
+    }
+}
+
+TEST_F(TclConsoleTest, WhatIsAskedMeanwhileIsAnswered) {
+    std::string inside;
+    m_console.SetBusyHandler([&] {
+        inside = m_interp.Answer("set a 0; for {set i 0} {$i < 1000} {incr i} {incr a}; set a");
+        m_interp.Eval("set ::go 0");
+        return false;
+    });
+    const ConsoleAnswer answer = Run("set ::go 1; while {$::go} {}; set x done");
+    EXPECT_EQ("done", answer.result);
+    EXPECT_EQ("1000", inside);
+}
+
+TEST_F(TclConsoleTest, ALineInsideOfALineIsStoppedWithIt) {
+    int asked = 0;
+    bool wasErrorInside = false;
+    m_console.SetBusyHandler([&] {
+        if (++asked == 1) wasErrorInside = Run("expr 1").isError;
+        return asked == 2;
+    });
+    EXPECT_EQ("stopped", Run("while 1 {}").result);
+    EXPECT_FALSE(wasErrorInside);
+}
+
 TEST_F(TclConsoleTest, AFloodOfOutputIsCutAndCounted) {
     const ConsoleAnswer answer = Run("for {set i 0} {$i < 60000} {incr i} { puts \"line number $i\" }");
     EXPECT_THAT(answer.output, StartsWith("line number 0\nline number 1\n"));
