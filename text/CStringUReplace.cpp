@@ -1,9 +1,8 @@
 /// @file
 /// The four replacements of a CStringU: of a character and of a text, with and without case.
 ///
-/// What is all ASCII is replaced byte by byte, but by ReplaceNoCase of texts. Everything else goes by
-/// characters, and comes back classified anew; an overlong NUL in it ends it on that way. For texts that way
-/// leads through UTF-16.
+/// What is all ASCII is replaced byte by byte. Everything else goes by characters, and comes back classified
+/// anew; an overlong NUL in it ends it on that way. For texts that way leads through UTF-16.
 ///
 /// The surprise is ReplaceNoCase of texts. It searches a folded copy that is never edited, but applies each
 /// hit to the text that is: with a new text of another length every hit behind the first lands off its place,
@@ -17,6 +16,7 @@
 #include <string_view>
 #include <utility>
 
+#include "text/AsciiBytes.h"
 #include "text/Codec.h"
 #include "text/Fold.h"
 #include "text/MappedText.h"
@@ -75,27 +75,69 @@ std::u16string Folded(std::u16string units) {
 }
 
 /// A text under edits from left to right: what is done, and what is left of the original.
+template <typename Text>
 class DriftingEdit {
 public:
-    explicit DriftingEdit(std::u16string original) : m_original(std::move(original)) {}
+    explicit DriftingEdit(Text original) : m_original(std::move(original)) {}
 
-    [[nodiscard]] const std::u16string& Original() const { return m_original; }
+    [[nodiscard]] const Text& Original() const { return m_original; }
     /// Units of the text as it is now.
     [[nodiscard]] std::size_t Size() const { return m_done.size() + (m_original.size() - m_taken); }
 
     /// Replaces `count` units at an index of the text as it is now, at or behind the last edit.
-    void ReplaceAt(std::size_t index, std::size_t count, std::u16string_view inserted) {
+    void ReplaceAt(std::size_t index, std::size_t count,
+                   std::basic_string_view<typename Text::value_type> inserted) {
         const std::size_t kept = index - m_done.size();
         m_done.append(m_original, m_taken, kept).append(inserted);
         m_taken = std::min(m_taken + kept + count, m_original.size());
     }
-    [[nodiscard]] const std::u16string& Finish() { return m_done.append(m_original, m_taken); }
+    [[nodiscard]] const Text& Finish() { return m_done.append(m_original, m_taken); }
 
 private:
-    std::u16string m_original;
-    std::u16string m_done;
+    Text m_original;
+    Text m_done;
     std::size_t m_taken = 0;
 };
+
+// Text of which each byte is a character, and which ends at its end.
+bool IsPlain(const CStringU& text) {
+    const std::string_view payload = text.PayloadView();
+    return vapp_text::AllAscii(payload) && payload.find('\0') == std::string_view::npos;
+}
+
+std::size_t FindFolded(std::string_view text, std::string_view wanted, std::size_t from) {
+    if (from > text.size()) return std::string_view::npos;
+    const auto first = text.begin() + static_cast<std::ptrdiff_t>(from);
+    const auto folded = [](char byte) { return vapp_text::FoldAsciiChar(static_cast<unsigned char>(byte)); };
+    const auto hit = std::search(first, text.end(), wanted.begin(), wanted.end(),
+                                 [&](char left, char right) { return folded(left) == folded(right); });
+    return hit != text.end() ? static_cast<std::size_t>(hit - text.begin()) : std::string_view::npos;
+}
+
+// ReplaceNoCase of texts, all of them plain and `wanted` not empty, by bytes.
+int ReplacePlainNoCase(CString& text, std::string_view wanted, std::string_view inserted) {
+    const CString original = text;  // a share: hits are searched in what is never edited
+    std::size_t hit = FindFolded(original.View(), wanted, 0);
+    if (hit == std::string_view::npos) return 0;
+    const std::size_t step = inserted.empty() ? wanted.size() : inserted.size();
+    int replaced = 0;
+    if (inserted.size() == wanted.size()) {  // nothing drifts
+        char* const bytes = text.GetBuffer();
+        for (; hit != std::string_view::npos; hit = FindFolded(original.View(), wanted, hit + step)) {
+            inserted.copy(bytes + hit, inserted.size());
+            ++replaced;
+        }
+        text.ReleaseBuffer(original.GetLength());
+        return replaced;
+    }
+    DriftingEdit<std::string> edit{std::string(original.View())};
+    for (; hit <= edit.Size(); hit = FindFolded(original.View(), wanted, hit + step)) {
+        edit.ReplaceAt(hit, wanted.size(), inserted);
+        ++replaced;
+    }
+    text = CString(edit.Finish());
+    return replaced;
+}
 
 bool IsAsciiUnit(char16_t unit) {
     return unit < 0x80U;
@@ -179,6 +221,9 @@ int CStringU::Replace(const CStringU& oldText, const CStringU& newText) {
 }
 
 int CStringU::ReplaceNoCase(const CStringU& oldText, const CStringU& newText) {
+    if (!oldText.IsEmpty() && IsPlain(*this) && IsPlain(oldText) && IsPlain(newText)) {
+        return ReplacePlainNoCase(m_stored, CStringU(oldText).PayloadView(), CStringU(newText).PayloadView());
+    }
     if (vapp_text::FindTextNoCaseU(Payload(), oldText.Payload()) == vapp_text::cnNotFound) return 0;
     DriftingEdit edit(ToWide());
     const std::u16string searched = Folded(edit.Original());

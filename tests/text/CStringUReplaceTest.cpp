@@ -285,6 +285,36 @@ TReplaced ModelNoCase(std::u16string text, const std::u16string& oldText, const 
     return {count, text};
 }
 
+// ASCII is replaced by bytes, a way of its own.
+TEST(CStringUReplace, RandomAsciiTextsAgreeWithPlainModels) {
+    std::mt19937 random = SeededRandom();
+    const auto ascii = [&](std::size_t longest) {
+        std::u16string text;
+        for (std::size_t left = UpTo(random, longest); left > 0; --left)
+            text += u"aAbB_"[UpTo(random, 4)];
+        return text;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const std::u16string text = ascii(14);
+        const std::u16string oldText = ascii(3);
+        const std::u16string newText = ascii(4);
+        ASSERT_EQ(Replaced(text, oldText, newText), ReplaceModel(text, oldText, newText))
+            << Shown(Bytes(text));
+        ASSERT_EQ(ReplacedNoCase(text, oldText, newText), ModelNoCase(text, oldText, newText))
+            << Shown(Bytes(text)) << ": " << Shown(Bytes(oldText)) << " to " << Shown(Bytes(newText));
+    }
+}
+
+TEST(CStringUReplace, ATextReplacesItself) {
+    for (const bool caseSensitive : {true, false}) {
+        CStringU text("abc");
+        EXPECT_EQ(caseSensitive ? text.Replace(text, "xy") : text.ReplaceNoCase(text, "xy"), 1);
+        EXPECT_EQ(text, CStringU("xy"));
+        EXPECT_EQ(caseSensitive ? text.Replace("x", text) : text.ReplaceNoCase("X", text), 1);
+        EXPECT_EQ(text, CStringU("xyy"));
+    }
+}
+
 TEST(CStringUReplace, RandomTextsAgreeWithPlainModels) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 20000; ++round) {
