@@ -20,6 +20,7 @@
 #include "text/Codec.h"
 #include "text/Fold.h"
 #include "text/MappedText.h"
+#include "text/ReplaceBytes.h"
 #include "text/Search.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
@@ -185,19 +186,21 @@ int CStringU::ReplaceNoCase(char16_t oldUnit, char16_t newUnit) {
     return replaced;
 }
 
-// In one pass, so that a new character is never replaced in its turn.
+// The form that the new character is, if it is one, comes first, so that none is replaced and counted twice.
 int CStringU::ReplaceAsciiNoCase(char lower, char newByte) {
-    const auto isHit = [lower](char byte) {
-        return static_cast<char>(vapp_text::FoldAsciiChar(static_cast<unsigned char>(byte))) == lower;
-    };
+    const char upper = static_cast<char>(vapp_text::UpperChar(static_cast<unsigned char>(lower)));
     const std::string_view text = m_stored.View();
-    const auto hits = std::count_if(text.begin(), text.end(), isHit);
-    if (hits == 0) return 0;
+    if (text.find(lower) == std::string_view::npos && text.find(upper) == std::string_view::npos) return 0;
     const int length = m_stored.GetLength();
+    const std::size_t size = text.size();
     char* const bytes = m_stored.GetBuffer();
-    std::replace_if(bytes, bytes + length, isHit, newByte);
+    const char first = newByte == upper ? upper : lower;
+    std::size_t replaced = vapp_text::ReplaceBytes(bytes, size, first, newByte);
+    if (upper != lower) {
+        replaced += vapp_text::ReplaceBytes(bytes, size, first == upper ? lower : upper, newByte);
+    }
     m_stored.ReleaseBuffer(length);
-    return static_cast<int>(hits);
+    return static_cast<int>(replaced);
 }
 
 int CStringU::ReplaceCharacter(const CStringU& oldText, const CStringU& newText, bool caseSensitive) {
