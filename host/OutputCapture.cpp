@@ -55,7 +55,7 @@ std::string OutputCapture::Take() {
 }
 
 void OutputCapture::Begin(Channel& channel) {
-    const Tcl_Channel found = Tcl_GetChannel(m_interp, channel.name, nullptr);
+    Tcl_Channel found = Tcl_GetChannel(m_interp, channel.name, nullptr);
     if (found == nullptr) {
         Tcl_ResetResult(m_interp);
         return;
@@ -74,7 +74,7 @@ void OutputCapture::End(Channel& channel) {
     const std::string encoding = std::exchange(channel.encoding, {});
     if (encoding.empty() || Tcl_InterpDeleted(m_interp) != 0) return;
     RunQuietly(m_interp, std::string("chan pop ") + channel.name);
-    const Tcl_Channel found = Tcl_GetChannel(m_interp, channel.name, nullptr);
+    Tcl_Channel found = Tcl_GetChannel(m_interp, channel.name, nullptr);
     if (found != nullptr) Tcl_SetChannelOption(m_interp, found, "-encoding", encoding.c_str());
 }
 

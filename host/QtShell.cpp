@@ -11,6 +11,7 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QMainWindow>
+#include <QScreen>
 #include <QStatusBar>
 #include <utility>
 
@@ -175,7 +176,10 @@ void QtShell::RestorePlace() {
     if (window == nullptr || !gReadWindowPlacement(&placement, csWindowPlace)) return;
     ClipOrCenterRectToMonitor(&placement.normal, cnMonitorClip);
     window->move(placement.normal.left, placement.normal.top);
-    window->resize(placement.normal.Width(), placement.normal.Height());
+    // A smaller screen than the last time: the window fits into it, and its panes stay within reach.
+    const QScreen* const screen = QGuiApplication::screenAt(window->pos());
+    const QSize size(placement.normal.Width(), placement.normal.Height());
+    window->resize(screen != nullptr ? size.boundedTo(screen->availableSize()) : size);
     if (placement.isMaximized) window->setWindowState(window->windowState() | Qt::WindowMaximized);
 }
 

@@ -32,7 +32,7 @@ std::size_t CharacterBegin(std::string_view text, std::size_t at) {
 std::string FromTcl(Tcl_Obj* object) {
     int length = 0;
     const char* const text = Tcl_GetStringFromObj(object, &length);
-    const Tcl_Encoding utf8 = Tcl_GetEncoding(nullptr, "utf-8");
+    Tcl_Encoding utf8 = Tcl_GetEncoding(nullptr, "utf-8");
     Tcl_DString external;
     Tcl_UtfToExternalDString(utf8, text, length, &external);
     std::string bytes(Tcl_DStringValue(&external), static_cast<std::size_t>(Tcl_DStringLength(&external)));
@@ -42,7 +42,7 @@ std::string FromTcl(Tcl_Obj* object) {
 }
 
 Tcl_Obj* ToTcl(const std::string& text) {
-    const Tcl_Encoding utf8 = Tcl_GetEncoding(nullptr, "utf-8");
+    Tcl_Encoding utf8 = Tcl_GetEncoding(nullptr, "utf-8");
     Tcl_DString internal;
     Tcl_ExternalToUtfDString(utf8, text.data(), static_cast<int>(text.size()), &internal);
     Tcl_Obj* const object = Tcl_NewStringObj(Tcl_DStringValue(&internal), Tcl_DStringLength(&internal));

@@ -204,9 +204,10 @@ int UserCommand::State(Tcl_Interp* interp, TclWords) {
     for (const CStringIU& library : m_browser.GetSelectedLibrariesSet())
         Tcl_ListObjAppendElement(nullptr, libraries, TextObject(library));
     Tcl_Obj* const heights = Tcl_NewListObj(0, nullptr);
-    for (int row = 0; row < m_browser.GetRowCount(); ++row)
-        Tcl_ListObjAppendElement(nullptr, heights,
-                                 Tcl_NewIntObj(m_browser.GetPane(row, 0)->GetRect().Height()));
+    for (int row = 0; row < m_browser.GetRowCount(); ++row) {
+        const int height = m_browser.GetPane(row, 0)->GetRect().Height();
+        Tcl_ListObjAppendElement(nullptr, heights, Tcl_NewIntObj(height));
+    }
     const vapp_library_browser::TLibCellView focused = m_browser.GetFocusedCell();
     const std::array<Tcl_Obj*, 3> names{TextObject(focused.library), TextObject(focused.cell),
                                         TextObject(focused.view)};

@@ -45,6 +45,13 @@ std::unique_ptr<ProfileStore> OpenSettings(std::vector<CString>& troubles) {
     });
 }
 
+/// Off screen there is no desktop that a window could tell its sizes, and Qt says so for each of them.
+void TellAllButSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (text.contains(QLatin1String("propagateSizeHints"))) return;
+    std::cerr << qFormatLogMessage(type, context, text).toStdString() << '\n';
+    if (type == QtFatalMsg) std::abort();
+}
+
 /// A script may be one that nobody watches: then the terminal alone is told.
 int Refuse(const Options& options) {
     const std::string limit = std::to_string(options.instances);
@@ -132,6 +139,7 @@ int gRunWindow(Options options, const std::filesystem::path& sample, int argc, c
 
 int gTakePicture(const Options& options, const std::filesystem::path& sample, int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(&TellAllButSizeHints);
     qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     const QApplication application(argc, argv);
     NavigatorApp app(options);

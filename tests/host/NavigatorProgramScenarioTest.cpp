@@ -139,7 +139,7 @@ TEST(NavigatorProgram, AScriptDrivesAWholeVisitAndFindsAllAsItWas) {
                                   "  user settle\n"
                                   "  user click header View\n"
                                   "  user click header View\n"
-                                  "  user resize 700 860\n"
+                                  "  user resize 390 720\n"
                                   "  user drag bar 0 -60\n"
                                   "  user drag bar 1 -40\n"
                                   "  user settle\n"
@@ -150,7 +150,7 @@ TEST(NavigatorProgram, AScriptDrivesAWholeVisitAndFindsAllAsItWas) {
     const Ended first = RunProgramIn(environment, {QStringLiteral("--script"), PathOf(visit)});
     ASSERT_EQ(0, first.status) << first.errors;
     EXPECT_THAT(first.output, AllOf(HasSubstr("design sample libraries logic order {View decreasing}"),
-                                    HasSubstr(" heights {"), HasSubstr(" 700 860}")));
+                                    HasSubstr(" heights {"), HasSubstr(" 390 720}")));
     const Ended second = RunProgramIn(environment, {QStringLiteral("--script"), PathOf(look)});
     ASSERT_EQ(0, second.status) << second.errors;
     // The cell that had the focus is the user's affair: it is chosen anew.

@@ -159,6 +159,17 @@ TEST_F(QtShellTest, APlaceOutsideOfAllMonitorsIsBroughtBack) {
     EXPECT_EQ(QSize(500, 600), run.Window()->size());
 }
 
+TEST_F(QtShellTest, AWindowLargerThanTheScreenOfTodayIsMadeToFit) {
+    {
+        QtProfileStore::InFile(m_settings.c_str(), nullptr)
+            ->WriteText("WindowPlacement", "WindowPos", "normal 100 100 5000 4000");
+    }
+    Run run(*this);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(screen.size(), run.Window()->size());
+    EXPECT_EQ(screen.topLeft(), run.Window()->pos());
+}
+
 TEST_F(QtShellTest, TheConsoleIsWhereItWasAndHiddenIfItWas) {
     {
         Run first(*this);
