@@ -8,10 +8,10 @@
 
 namespace vapp_library_browser {
 
-LRESULT AskMainWindow(UINT message, WPARAM wParam) {
+LRESULT AskMainWindow(UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* window = gGetMainWnd();
     const HostCallScope scope;
-    return window != nullptr ? window->SendMessage(message, wParam) : 0;
+    return window != nullptr ? window->SendMessage(message, wParam, lParam) : 0;
 }
 
 bool gIsDarkTheme() {

@@ -22,8 +22,6 @@
 #include "vapp/celllist/TCellNamesReportCtrl.h"
 #include "vapp/text/Translate.h"
 #include "vapp/toolkit/CMenu.h"
-#include "vapp/toolkit/CWinAppEx.h"
-#include "vapp/toolkit/TMessageBox.h"
 
 namespace vapp_library_browser {
 
@@ -40,11 +38,6 @@ constexpr std::array cnNotForSchematicEditor = {ShowHiddenCells, ShowVias, Color
 
 CStringU Translated(const char* key) {
     return {vlang::gTranslate(key), TextEncoding::Utf8Auto};
-}
-
-bool IsColumnChooserShown() {
-    CWnd* mainWnd = gGetMainWnd();
-    return mainWnd != nullptr && mainWnd->SendMessage(WM_LN_COLCHOOSERSHOWN) != 0;
 }
 
 }  // namespace
@@ -116,26 +109,35 @@ void TReport::ShowViewNameMenu(CPoint screen, const std::set<CStringIU>& views) 
 }
 
 void TReport::ShowCellMenu(CPoint screen, const std::set<CStringIU>& views) {
+    // A host that asks for a menu while it is filling one has that one.
+    if (IsBuildingMenu()) return;
     const std::unique_ptr<CMenu> menu = MakeCellMenu();
+    // Found before the host adds items, whose numbers are its own affair.
+    CMenu* const viewNames = menu->FindOwner(AllViewNames);
     const TLibraryView* view = m_pane.GetLibraryView();
     if (view != nullptr && view->GetQEdit()) {
         for (const UINT command : cnNotForSchematicEditor)
             menu->Delete(command);
     }
+    AskHostForItems(*menu);
     CheckCellMenu(*menu);
-    CreateViewNameFilterMenu(menu->FindOwner(AllViewNames), views);
+    if (!IsWindow()) return;
+    CreateViewNameFilterMenu(viewNames, views);
     const UINT picked = menu->Track(*this, screen);
     if (picked == 0 || !IsWindow() || OnMenuCommand(picked)) return;
-    if (!ProcessViewNameFilterMenu(static_cast<int>(picked), views)) {
-        TMessageBox(gGetMainWnd(), CStringU(), Translated("__$$Translatable$$_Not yet implemented."),
-                    MB_OK | MB_ICONINFORMATION)
-            .DoModal();
-    }
+    RunMenuPick(picked, views);
+}
+
+// Handlers are the host's to give anew for each menu, those of the two fixed items too.
+void TReport::AskHostForItems(CMenu& menu) {
+    if (TLibraryView* view = m_pane.GetLibraryView()) view->ClearCommandHandlers();
+    const THostMenu::TScope building(m_hostMenu, menu, FirstHostCommand);
+    AskMainWindow(WM_LN_BUILDCELLMENU);
 }
 
 void TReport::CheckCellMenu(CMenu& menu) const {
     menu.Enable(SelectAll, AreAnyCellsSelected());
-    menu.Check(ColumnChooser, IsColumnChooserShown());
+    menu.Check(ColumnChooser, AskMainWindow(WM_LN_COLCHOOSERSHOWN) != 0);
     for (const UINT command : cnOptionCommands)
         menu.Check(command, IsOptionOn(m_options, command));
     menu.Check(cnSetupCommands[static_cast<std::size_t>(GetActiveSetupIndex())], true);

@@ -20,7 +20,6 @@ namespace {
 constexpr UINT cnDialog = 388;
 constexpr int cnTabCount = 3;
 constexpr int cnMargin = 4;
-constexpr WPARAM cnSelectionChanged = 1;
 // The answer of `database filter` is read as a byte, and hosts rely on it.
 constexpr int cnFilterAnswerMask = 0xFF;
 
@@ -124,7 +123,7 @@ void TCellListView::OnCbnCloseupFilterCombo() {
 
 // With a refresh due, the rows that the host would ask about are not those that the user has selected.
 void TCellListView::OnReportSelectionChanged() {
-    if (!m_needsPopulate) AskMainWindow(WM_LN_HOSTNOTIFY, cnSelectionChanged);
+    if (!m_needsPopulate) AskMainWindow(WM_LN_HOSTNOTIFY, cnNotifySelectionChanged);
     if (m_previewView != nullptr) m_previewView->DisplayNewPreview();
 }
 
@@ -147,6 +146,9 @@ bool TCellListView::OnNotify(Notification& notification, LRESULT& result) {
         OnReportSortOrderChanged();
     } else if (notification.from == &m_tabs && notification.code == cnTabSelectionChanged) {
         m_report.OnSwitchSetupTab(m_tabs.GetCurSel());
+    } else if (notification.from == &m_tabs && notification.code == cnTabContextClicked) {
+        const auto& click = static_cast<const NotifyTabClick&>(notification);
+        OnTabRClick(click.tab, click.screen);
     } else {
         return CFormView::OnNotify(notification, result);
     }

@@ -76,11 +76,6 @@ CStringU TCellNamesReportCtrl::GetTypeAheadText(int row) const {
     return GetCell(row).cell;
 }
 
-void TCellNamesReportCtrl::OnDoubleClick(CPoint point) {
-    CXTPReportControl::OnDoubleClick(point);
-    if (!HitTestRow(point) && HeaderHitTest(point) == nullptr) m_pane.EmptyFilterText();
-}
-
 TCellNamesReportCtrl::TColCellName* TCellNamesReportCtrl::FindCellColumn() const {
     for (int position = 0; position < GetColumns().GetCount(); ++position) {
         if (auto* column = dynamic_cast<TColCellName*>(GetColumns().GetAt(position))) return column;

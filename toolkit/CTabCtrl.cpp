@@ -52,6 +52,15 @@ void CTabCtrl::PickedByUser(int index) {
     NotifyParent(notification);
 }
 
+void CTabCtrl::ContextClickedByUser(int index, CPoint screen) {
+    if (index < 0 || index >= GetItemCount()) return;
+    NotifyTabClick click;
+    click.code = cnTabContextClicked;
+    click.tab = index;
+    click.screen = screen;
+    NotifyParent(click);
+}
+
 std::unique_ptr<Peer> CTabCtrl::CreatePeer(PeerFactory& factory) {
     return factory.CreateTab(*this);
 }

@@ -16,7 +16,7 @@ namespace {
 
 class SystemClipboard final : public ClipboardPeer {
 public:
-    [[nodiscard]] bool SetText(std::u16string_view wide, std::string_view narrow) override {
+    [[nodiscard]] bool SetText(std::u16string_view wide, std::optional<std::string_view> narrow) override {
         return vapp_platform::SetSystemClipboardText(wide, narrow);
     }
     [[nodiscard]] std::u16string GetText() const override { return vapp_platform::GetSystemClipboardText(); }
@@ -35,6 +35,10 @@ ClipboardPeer& CurrentClipboard() {
 
 bool SetClipboardText(const CStringU& text) {
     return CurrentClipboard().SetText(text.ToWide(), text.ToAnsi(vapp_platform::SystemCodePage()).View());
+}
+
+bool SetClipboardUnicodeText(const CStringU& text) {
+    return CurrentClipboard().SetText(text.ToWide(), std::nullopt);
 }
 
 CStringU GetClipboardText() {

@@ -2,6 +2,7 @@
 /// A clipboard that lasts as long as the process: for programs without windows, and for tests.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,9 +11,9 @@
 /// Keeps both forms. Never fails.
 class MemoryClipboard final : public ClipboardPeer {
 public:
-    [[nodiscard]] bool SetText(std::u16string_view wide, std::string_view narrow) override {
+    [[nodiscard]] bool SetText(std::u16string_view wide, std::optional<std::string_view> narrow) override {
         m_wide = wide;
-        m_narrow = narrow;
+        m_narrow = narrow.value_or(std::string_view());
         return true;
     }
     [[nodiscard]] std::u16string GetText() const override { return m_wide; }

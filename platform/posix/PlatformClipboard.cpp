@@ -8,7 +8,8 @@ bool HasSystemClipboard() noexcept {
     return false;
 }
 
-bool SetSystemClipboardText(std::u16string_view /*wide*/, std::string_view /*narrow*/) noexcept {
+bool SetSystemClipboardText(std::u16string_view /*wide*/,
+                            std::optional<std::string_view> /*narrow*/) noexcept {
     return false;
 }
 

@@ -87,12 +87,12 @@ bool HasSystemClipboard() noexcept {
     return true;
 }
 
-bool SetSystemClipboardText(std::u16string_view wide, std::string_view narrow) noexcept {
+bool SetSystemClipboardText(std::u16string_view wide, std::optional<std::string_view> narrow) noexcept {
     const OpenedClipboard clipboard;
     if (!clipboard.IsOpen()) return false;
     EmptyClipboard();
     const bool wideTaken = Put(CF_UNICODETEXT, wide);
-    const bool narrowTaken = Put(CF_TEXT, narrow);
+    const bool narrowTaken = !narrow || Put(CF_TEXT, *narrow);
     return wideTaken && narrowTaken;
 }
 

@@ -52,3 +52,33 @@ TEST(CTabCtrl, TellsItsPeerOfTheTextThatLimitsTheWidth) {
     EXPECT_EQ(tabs.GetMinWidthText(), "WWW");
     EXPECT_EQ(peers.Of(tabs).changes.size(), 1u);
 }
+
+TEST(CTabCtrl, TellsItsParentForWhichTabAMenuIsWanted) {
+    class Parent : public CWnd {
+    public:
+        ~Parent() override { DestroyWindow(); }
+        int tab = -1;
+        CPoint screen;
+
+    protected:
+        bool OnNotify(Notification& notification, LRESULT& result) override {
+            EXPECT_EQ(notification.code, cnTabContextClicked);
+            const auto& click = static_cast<const NotifyTabClick&>(notification);
+            tab = click.tab;
+            screen = click.screen;
+            result = 0;
+            return true;
+        }
+    };
+    Parent parent;
+    parent.Create(nullptr, 0);
+    CTabCtrl tabs;
+    ASSERT_TRUE(tabs.Create(&parent, 7));
+    tabs.InsertItem(0, "a");
+    tabs.ContextClickedByUser(1, {3, 4});
+    tabs.ContextClickedByUser(-1, {3, 4});
+    EXPECT_EQ(parent.tab, -1);
+    tabs.ContextClickedByUser(0, {3, 4});
+    EXPECT_EQ(parent.tab, 0);
+    EXPECT_EQ(parent.screen, CPoint(3, 4));
+}

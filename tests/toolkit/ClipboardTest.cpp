@@ -15,7 +15,8 @@ namespace {
 
 class FailingClipboard final : public ClipboardPeer {
 public:
-    [[nodiscard]] bool SetText(std::u16string_view /*wide*/, std::string_view /*narrow*/) override {
+    [[nodiscard]] bool SetText(std::u16string_view /*wide*/,
+                               std::optional<std::string_view> /*narrow*/) override {
         ++attempts;
         return false;
     }
@@ -88,6 +89,15 @@ TEST_F(ClipboardTest, OnlyTheUnicodeFormIsRead) {
     const PeersWithClipboard peers(clipboard);
     ASSERT_TRUE(clipboard.SetText(u"wide", "narrow"));
     EXPECT_EQ(GetClipboardText(), CStringU("wide"));
+}
+
+TEST_F(ClipboardTest, ATextCanGoAsUnicodeAlone) {
+    MemoryClipboard clipboard;
+    const PeersWithClipboard peers(clipboard);
+    ASSERT_TRUE(SetClipboardText("old"));
+    EXPECT_TRUE(SetClipboardUnicodeText("new"));
+    EXPECT_EQ(GetClipboardText(), CStringU("new"));
+    EXPECT_EQ(clipboard.GetNarrowText(), "");
 }
 
 TEST_F(ClipboardTest, ATextEndsAtItsFirstNul) {

@@ -40,12 +40,13 @@ QClipboard* DesktopClipboard() {
 
 // Whether the desktop took it is asked by reading it back: not every platform of Qt tells who owns its
 // clipboard.
-bool QtClipboard::SetText(std::u16string_view wide, std::string_view narrow) {
+bool QtClipboard::SetText(std::u16string_view wide, std::optional<std::string_view> narrow) {
     QClipboard* const clipboard = DesktopClipboard();
     if (clipboard == nullptr) return false;
     const QByteArray unicodeForm = QStringView(wide).toUtf8();
-    const QByteArray narrowForm(narrow.data(), static_cast<qsizetype>(narrow.size()));
-    const QString narrowType = NarrowType(gGetSystemCodePage());
+    const QByteArray narrowForm =
+        narrow ? QByteArray(narrow->data(), static_cast<qsizetype>(narrow->size())) : unicodeForm;
+    const QString narrowType = narrow ? NarrowType(gGetSystemCodePage()) : QString(csUnicodeType);
     auto data = std::make_unique<QMimeData>();
     data->setData(narrowType, narrowForm);
     data->setData(csUnicodeType, unicodeForm);

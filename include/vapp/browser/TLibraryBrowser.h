@@ -129,8 +129,8 @@ public:
     // --- Menus -----------------------------------------------------------------------------------------
     //
     // For the host to call while it answers WM_LN_BUILDCELLMENU, WM_LN_BUILDLIBRARYMENU or
-    // WM_LN_BUILDTABMENU, when a list builds its menu. At any other time they do nothing. No list asks the
-    // host for items yet (the cell list shows its own alone), so that for now they never do anything.
+    // WM_LN_BUILDTABMENU, when a list builds its menu. At any other time they do nothing, but for the default
+    // command, which counts whenever it is set.
 
     /// Adds an item that runs a host command, with the next free number.
     void AddCellListMenuCommand(const CString& text, const CStringU& command,

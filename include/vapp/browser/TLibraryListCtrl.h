@@ -7,6 +7,7 @@
 #pragma once
 
 #include "vapp/Export.h"
+#include "vapp/browser/THostMenu.h"
 #include "vapp/toolkit/CListCtrl.h"
 
 namespace vapp_library_browser {
@@ -27,6 +28,22 @@ public:
     /// colour and the others in blue, reserved libraries on a tint, those with unsaved changes also bold.
     /// cnNoColor stands for the desktop's own colour of the place. Empty for a row that isn't there.
     [[nodiscard]] ListItemLook DrawItem(int index) override;
+
+    // The host's items, for the time in which it answers WM_LN_BUILDLIBRARYMENU; see THostMenu.
+    [[nodiscard]] bool IsBuildingMenu() const { return m_hostMenu.IsOpen(); }
+    [[nodiscard]] UINT GetNextLibraryListPopupCmdId() const { return m_hostMenu.GetNextId(); }
+    void AddLibraryListMenuItem(UINT id, const CString& text, bool disabled, bool checked, bool isDefault) {
+        m_hostMenu.AddItem(id, text, disabled, checked, isDefault);
+    }
+    void BeginLibraryListSubmenu(const CString& text) { m_hostMenu.BeginSubmenu(text); }
+    void EndLibraryListSubmenu() { m_hostMenu.EndSubmenu(); }
+
+protected:
+    /// Asks the host to fill a menu, shows it, and runs what the user picks.
+    void OnContextMenu(CWnd& from, CPoint screen) override;
+
+private:
+    THostMenu m_hostMenu;
 };
 
 }  // namespace vapp_library_browser

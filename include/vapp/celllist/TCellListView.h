@@ -95,6 +95,10 @@ public:
     /// The current tab.
     [[nodiscard]] int GetSetupTab() const { return m_tabs.GetCurSel(); }
     void SetCellTabsText(int tab, const CString& text) { m_tabs.SetItemText(tab, text); }
+    /// Adds an item to the menu of a tab while the host answers WM_LN_BUILDTABMENU; nothing at other times.
+    void AddCellTabsMenuItem(const CString& text, bool checked);
+    /// A separator, which counts as an item where WM_LN_TABMENUPICK tells an item's number.
+    void AddCellTabsMenuSeparator();
 
     // --- Selection -------------------------------------------------------------------------------------
 
@@ -116,6 +120,9 @@ public:
     void OnCbnCloseupFilterCombo();
     /// Selection or focus changed: tells the main window, unless a refresh is due, and the preview.
     void OnReportSelectionChanged();
+    /// The user asked for the menu of a tab: selects the tab, lets the host fill a menu, tells it what was
+    /// picked, and shows the tab's setup with rows that are fetched anew, also if nothing was picked.
+    void OnTabRClick(int tab, CPoint screen);
     /// The user sorted by a header: refreshes at once.
     void OnReportSortOrderChanged();
 
@@ -130,6 +137,7 @@ protected:
 
 private:
     void ShowFilterButton(bool isEmpty);
+    static void TellTabPick(int tab, UINT item, const CMenu& menu);
     void LoadFilterHistory();
     void OfferFilterHistory();
     void FocusRows();
@@ -143,6 +151,7 @@ private:
     TLibraryView* m_libraryView = nullptr;
     TSymbolPreview* m_previewView = nullptr;
     std::unique_ptr<FilterHistory> m_filterHistory;
+    CMenu* m_tabsMenu = nullptr;
     bool m_needsPopulate = true;
 };
 

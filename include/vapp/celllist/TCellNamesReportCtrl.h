@@ -28,7 +28,9 @@
 #include <vector>
 
 #include "vapp/Export.h"
+#include "vapp/browser/THostMenu.h"
 #include "vapp/browser/TLibCellView.h"
+#include "vapp/browser/TLibraryBrowserTclInterfaceStyle.h"
 #include "vapp/text/CStringIU.h"
 #include "vapp/toolkit/CXTPReportControl.h"
 
@@ -301,13 +303,30 @@ public:
     /// once. False, with nothing done, for any other: a host's, a view's name.
     bool OnMenuCommand(UINT command);
 
+    // --- The host's part of the menu of rows -----------------------------------------------------------
+    //
+    // For the time in which the host answers WM_LN_BUILDCELLMENU; see THostMenu. Its items come in front of
+    // the fixed ones.
+
+    [[nodiscard]] bool IsBuildingMenu() const { return m_hostMenu.IsOpen(); }
+    [[nodiscard]] UINT GetNextCellListPopupCmdId() const { return m_hostMenu.GetNextId(); }
+    void AddCellListMenuItem(UINT id, const CString& text, bool disabled, bool checked, bool isDefault) {
+        m_hostMenu.AddItem(id, text, disabled, checked, isDefault);
+    }
+    void AddCellListMenuSeparator() { m_hostMenu.AddSeparator(); }
+    void BeginCellListSubmenu(const CString& title) { m_hostMenu.BeginSubmenu(title); }
+    void EndCellListSubmenu() { m_hostMenu.EndSubmenu(); }
+    /// The command that a double click on a cell runs, at any time; empty for none.
+    void SetCellListDefaultMenuCommand(const CStringU& command, TLibraryBrowserTclInterfaceStyle style);
+
     [[nodiscard]] TCellListView& GetPane() const { return m_pane; }
 
     void OnColumnsChanged(int change, CXTPReportColumn* column) override;
     [[nodiscard]] CStringU GetTypeAheadText(int row) const override;
 
 protected:
-    /// On neither a row nor a header: empties the pane's sub-string.
+    /// On the focused row: tells the host, and runs its default command if there is one. On neither a row nor
+    /// a header: empties the pane's sub-string.
     void OnDoubleClick(CPoint point) override;
     /// Shows the menu of the rows, or that of the view names over the header of these; over any other header
     /// none, nor without a design or where the host doesn't answer with its triples.
@@ -334,7 +353,10 @@ private:
     [[nodiscard]] std::optional<std::set<CStringIU>> AskViewNames() const;
     void ShowViewNameMenu(CPoint screen, const std::set<CStringIU>& views);
     void ShowCellMenu(CPoint screen, const std::set<CStringIU>& views);
+    void AskHostForItems(CMenu& menu);
     void CheckCellMenu(CMenu& menu) const;
+    void RunMenuPick(UINT id, const std::set<CStringIU>& views);
+    void RunDefaultCommand();
     void UseSetup(TColSetup setup);
     void EditExcludeViews();
     [[nodiscard]] TColCellName* FindCellColumn() const;
@@ -344,6 +366,9 @@ private:
     TOptions m_options;
     CStringU m_activeSetup;
     CStringU m_excludeViews;
+    THostMenu m_hostMenu;
+    CStringU m_defaultCommand;
+    TLibraryBrowserTclInterfaceStyle m_defaultCommandStyle = StyleCommandOnly;
     int m_columnCounter = 0;
     bool m_populated = false;
     bool m_populating = false;

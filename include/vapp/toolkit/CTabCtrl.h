@@ -27,6 +27,9 @@ public:
     void SetCurSel(int index);
     /// The user picked a tab: selects and notifies the parent (cnTabSelectionChanged) if it is another one.
     void PickedByUser(int index);
+    /// The user asked for the menu of a tab, at a point of the screen: tells the parent
+    /// (cnTabContextClicked).
+    void ContextClickedByUser(int index, CPoint screen);
 
 protected:
     std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;

@@ -16,5 +16,9 @@
 /// where the clipboard holds UTF-16: a toolkit whose clipboard holds UTF-8 makes U+FFFD of it.
 VAPP_EXPORT bool SetClipboardText(const CStringU& text);
 
+/// Puts a text on the clipboard as Unicode alone; programs that know no Unicode see what the system makes of
+/// it, if anything. True if it was taken.
+VAPP_EXPORT bool SetClipboardUnicodeText(const CStringU& text);
+
 /// The Unicode text on the clipboard; empty text for none, and for any failure.
 [[nodiscard]] VAPP_EXPORT CStringU GetClipboardText();

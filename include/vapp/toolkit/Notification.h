@@ -3,6 +3,7 @@
 #pragma once
 
 #include "vapp/toolkit/BasicTypes.h"
+#include "vapp/toolkit/CPoint.h"
 
 class CWnd;
 
@@ -16,6 +17,7 @@ enum : UINT {
     cnEditChanged = 0x0300,             ///< the text of an edit control changed
     cnButtonClicked = 0,                ///< a button was pressed
     cnTabSelectionChanged = 0xFDD9,     ///< the user picked another tab
+    cnTabContextClicked = 0xFFFB,       ///< the user asked for the menu of a tab (NotifyTabClick)
     cnReportSelectionChanged = 0x0301,  ///< the selection or the focused row of a report changed
     cnReportSortOrderChanged = 0x0302,  ///< the user sorted by a header
 };
@@ -36,6 +38,12 @@ struct NotifyListItem : Notification {
     UINT changed = 0;   ///< what changed, cnListChangedState among it
     UINT oldState = 0;  ///< state bits before
     UINT newState = 0;  ///< state bits after
+};
+
+/// The user asked for the menu of a tab.
+struct NotifyTabClick : Notification {
+    int tab = -1;
+    CPoint screen;  ///< where, on the screen
 };
 
 /// An empty list asks what to show; the parent fills the text and answers 1.
