@@ -8,6 +8,7 @@
 #include "celllist/CellRows.h"
 #include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/TProfileSection.h"
+#include "vapp/celllist/CLibCellViewOleDataSource.h"
 #include "vapp/celllist/TCellListView.h"
 
 namespace vapp_library_browser {
@@ -17,6 +18,8 @@ namespace {
 constexpr UINT cnRowIcons = 104;
 constexpr int cnRowIconWidth = 22;
 constexpr COLORREF cnRowIconMask = 0xFFFF00;
+// Rows can be dragged out; the list itself takes nothing.
+constexpr UINT cnDragPermissions = 6;
 
 }  // namespace
 
@@ -37,6 +40,7 @@ void TCellNamesReportCtrl::Init() {
     SetImageList(cnRowIcons, cnRowIconWidth, cnRowIconMask);
     GetPaintManager().SetNoItemsText("");
     AddBuiltInColumns();
+    EnableDragDrop(CLibCellViewOleDataSource::ClipboardFormatLibCellView, cnDragPermissions);
     SetFullColumnScrolling(false);
     SetFreezeColumnsCount(1);
 }

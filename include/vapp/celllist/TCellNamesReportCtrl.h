@@ -35,11 +35,13 @@
 #include "vapp/toolkit/CXTPReportControl.h"
 
 class CMenu;
+class COleDataSource;
 
 namespace vapp_library_browser {
 
 class CellRows;
 class CellSet;
+class CLibCellViewOleDataSource;
 class TCellListView;
 struct CellQuery;
 struct RowOrder;
@@ -303,6 +305,23 @@ public:
     /// once. False, with nothing done, for any other: a host's, a view's name.
     bool OnMenuCommand(UINT command);
 
+    // --- Dragging --------------------------------------------------------------------------------------
+
+    /// The user begins to drag at a client point; bit 1 of the flags says that it is by the right button.
+    /// True if it ended with a drop.
+    virtual bool OnBeginDrag(CPoint point, unsigned flags);
+    /// Drags the row under a client point; false, with nothing done, without one or while the rows are not
+    /// complete.
+    bool QueryDragAndDrop(bool rightButton, CPoint point);
+    /// Drags a cell view, as a CLibCellViewOleData, to be copied or linked, and waits for the end: true if it
+    /// was dropped. `start` is the row's rectangle. False, with nothing done, in the course of another drag.
+    bool StartDragAndDrop(bool rightButton, const TLibCellView& cell, const CRect* start);
+    [[nodiscard]] bool IsInDragDrop() const { return m_inDragDrop; }
+    /// The effect that a drop would have here: none.
+    [[nodiscard]] virtual UINT OnDragOver(const COleDataSource& /*source*/, CPoint /*point*/) { return 0; }
+    /// Takes nothing.
+    virtual int OnDrop(const COleDataSource& /*source*/, CPoint /*point*/) { return 0; }
+
     // --- The host's part of the menu of rows -----------------------------------------------------------
     //
     // For the time in which the host answers WM_LN_BUILDCELLMENU; see THostMenu. Its items come in front of
@@ -369,11 +388,13 @@ private:
     THostMenu m_hostMenu;
     CStringU m_defaultCommand;
     TLibraryBrowserTclInterfaceStyle m_defaultCommandStyle = StyleCommandOnly;
+    std::unique_ptr<CLibCellViewOleDataSource> m_dataSource;
     int m_columnCounter = 0;
     bool m_populated = false;
     bool m_populating = false;
     bool m_postponed = false;
     bool m_ignoreSelectionChange = false;
+    bool m_inDragDrop = false;
 };
 
 }  // namespace vapp_library_browser

@@ -1,0 +1,50 @@
+/// @file
+/// COleDataSource: what is being dragged.
+///
+/// Data stands under the name of its format and keeps its type: it is for receivers in this process, which
+/// take it as it is. Nothing is turned into bytes. The drag itself is the business of a toolkit adapter,
+/// which installs a function for it; with none, nothing can be dragged anywhere.
+#pragma once
+
+#include <any>
+#include <functional>
+#include <map>
+
+#include "vapp/Export.h"
+#include "vapp/text/CString.h"
+#include "vapp/toolkit/BasicTypes.h"
+#include "vapp/toolkit/CRect.h"
+
+// What a drop does; several may be offered.
+inline constexpr UINT cnDropNone = 0;
+inline constexpr UINT cnDropCopy = 1;
+inline constexpr UINT cnDropMove = 2;
+inline constexpr UINT cnDropLink = 4;
+
+/// Typed data under names of formats. Window thread only.
+class VAPP_EXPORT COleDataSource {
+public:
+    /// Shows the drag and waits for its end: the one effect of the drop, or none.
+    using TDragRunner = std::function<UINT(COleDataSource& source, UINT effects, const CRect& start)>;
+
+    COleDataSource();
+    COleDataSource(const COleDataSource&) = delete;
+    COleDataSource& operator=(const COleDataSource&) = delete;
+    virtual ~COleDataSource();
+
+    /// Keeps data under a format's name, in place of any that was there.
+    void CacheData(const CString& format, std::any data);
+    /// The data of a format, or null.
+    [[nodiscard]] const std::any* GetData(const CString& format) const;
+
+    /// Drags, until the user drops or gives up. The drag begins once the pointer has left `start`, in the
+    /// coordinates of the control that was hit. The effect of the drop; none where nobody can show drags, and
+    /// for an effect that was not offered.
+    UINT DoDragDrop(UINT effects, const CRect& start);
+
+    /// Installs an adapter's function for all sources, or none by an empty one.
+    static void InstallDragRunner(TDragRunner runner);
+
+private:
+    std::map<CString, std::any> m_data;
+};
