@@ -6,6 +6,8 @@
 /// outside of the editor mode and up to three in it.
 #pragma once
 
+#include <optional>
+
 #include "vapp/Export.h"
 #include "vapp/browser/THostMenu.h"
 #include "vapp/toolkit/CListCtrl.h"
@@ -38,12 +40,28 @@ public:
     void BeginLibraryListSubmenu(const CString& text) { m_hostMenu.BeginSubmenu(text); }
     void EndLibraryListSubmenu() { m_hostMenu.EndSubmenu(); }
 
+    // --- The tip, for whoever shows it: a tool as large as the list -----------------------------------
+
+    /// Number of the timer that looks whether the pointer has left the rows, and its milliseconds.
+    static constexpr UINT cnTipTimer = 1499;
+    static constexpr UINT cnTipTimerMilliseconds = 500;
+    /// The path of the library under the pointer, also sent to the host as a status text; starts the timer.
+    /// Nothing over no row.
+    [[nodiscard]] std::optional<CStringU> OnToolTipNotify();
+    /// To be called each time the timer's milliseconds have passed while it runs: once the pointer is over no
+    /// row, ends the timer and clears the status text.
+    void OnTipTimer();
+    [[nodiscard]] bool IsTipTimerRunning() const { return m_tipTimerRuns; }
+
 protected:
     /// Asks the host to fill a menu, shows it, and runs what the user picks.
     void OnContextMenu(CWnd& from, CPoint screen) override;
 
 private:
+    [[nodiscard]] int RowUnderCursor() const;
+
     THostMenu m_hostMenu;
+    bool m_tipTimerRuns = false;
 };
 
 }  // namespace vapp_library_browser
