@@ -52,17 +52,18 @@ void CExcludeDlg::OnCreate() {
 
 int CExcludeDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    CStringU names;
-    TProfileSection(false).ExchangeText(csExcludeViewNamesKey, names, csDefaultExcludeViewNames);
-    m_excludeViews = names.ToAnsi();
+    TProfileSection(false).ExchangeText(csExcludeViewNamesKey, m_setting, csDefaultExcludeViewNames);
+    m_excludeViews = m_setting.ToAnsi();
     m_edit.SetWindowText(m_excludeViews);
     return 1;
 }
 
 void CExcludeDlg::OnOK() {
     m_excludeViews = m_edit.GetWindowText();
-    CStringU names(m_excludeViews);
-    TProfileSection(true).ExchangeText(csExcludeViewNamesKey, names, CStringU());
+    // What the code page doesn't have was shown as a question mark: as long as nobody touches the text, it is
+    // kept.
+    if (m_excludeViews != m_setting.ToAnsi()) m_setting = CStringU(m_excludeViews);
+    TProfileSection(true).ExchangeText(csExcludeViewNamesKey, m_setting, CStringU());
     CDialog::OnOK();
 }
 

@@ -95,6 +95,8 @@ TEST_F(InstanceManager, WithoutANameTheProgramFileIsTheName) {
     COXInstanceManager second(nullptr);
     second.SetMaxAllowedInstances(1);
     EXPECT_EQ(second.CheckMaxAllowedInstances(), 0) << "the same process";
+    EXPECT_EQ(OtherInstance("", 1).Answer(), "1") << "another of the same program";
+    EXPECT_EQ(OtherInstance(name, 1).Answer(), "0") << "one by another name";
 }
 
 }  // namespace

@@ -14,7 +14,8 @@ namespace app_test {
 namespace {
 
 int BeAnInstance(const std::vector<std::string>& arguments) {
-    COXInstanceManager manager(arguments.at(0).c_str());
+    const std::string& name = arguments.at(0);
+    COXInstanceManager manager(name.empty() ? nullptr : name.c_str());
     manager.SetMaxAllowedInstances(static_cast<std::uint32_t>(std::stoul(arguments.at(1))));
     std::fputc('0' + manager.CheckMaxAllowedInstances(), stdout);
     std::fflush(stdout);

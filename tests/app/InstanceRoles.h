@@ -15,7 +15,7 @@ void AddInstanceRoles();
 
 class OtherInstance {
 public:
-    /// Starts it, and waits until it has said its answer.
+    /// Starts it, and waits until it has said its answer. Without a name it is known by its program.
     OtherInstance(const std::string& name, int limit);
 
     /// What CheckMaxAllowedInstances answered there.

@@ -126,6 +126,21 @@ TEST_F(CExcludeDlgTest, OtherLettersAreUtf8InTheSettingAndNativeInTheControl) {
     EXPECT_EQ(Setting(), CString("gro\xC3\x9F"));
 }
 
+TEST_F(CExcludeDlgTest, ATextThatTheCodePageDoesNotHaveIsKeptUnlessItIsEdited) {
+    gSetActiveCodePage(1252);
+    m_app.WriteProfileString("LibraryNavigator", "ExcludeViewNames", "\xE4\xB8\xAD; x");
+    ASSERT_TRUE(m_dialog.Open());
+    EXPECT_EQ(Edit().GetWindowText(), CString("?; x"));
+    Press(IDOK);
+    EXPECT_EQ(Setting(), CString("\xE4\xB8\xAD; x"));
+    CExcludeDlg again;
+    ASSERT_TRUE(again.Open());
+    dynamic_cast<CEdit&>(*again.GetDlgItem(CExcludeDlg::cnEditId)).EditedByUser("?; y");
+    dynamic_cast<CButton&>(*again.GetDlgItem(IDOK)).Click();
+    gSetActiveCodePage(0);
+    EXPECT_EQ(Setting(), CString("?; y"));
+}
+
 TEST_F(CExcludeDlgTest, ALargerWindowGivesItsRoomToTheText) {
     ASSERT_TRUE(m_dialog.Open());
     m_dialog.MoveWindow({0, 0, 500, 300});

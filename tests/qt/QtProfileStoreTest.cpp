@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <random>
@@ -252,6 +253,22 @@ TEST_F(QtProfileStoreTest, DamageThatComesLaterIsToldAtTheNextWriting) {
     EXPECT_EQ(m_warnings.size(), 1u);
     EXPECT_TRUE(QFile::exists(m_file + QStringLiteral(".damaged")));
     EXPECT_EQ(store->ReadInteger("s", "k"), 2);
+}
+
+TEST_F(QtProfileStoreTest, WarningsAreToldWhenNoLockIsHeld) {
+    const QString file = m_file;
+    int free = 0;
+    const auto store =
+        QtProfileStore::InFile(CString(QFile::encodeName(file).constData()), [&](const CString&) {
+            QLockFile turn(file + QStringLiteral(".turn"));
+            if (turn.tryLock(0)) ++free;
+        });
+    store->WriteInteger("s", "k", 1);
+    store->Flush();
+    Write("[s]\nk=2\nanother program broke this line\n");
+    store->WriteInteger("s", "new", 5);
+    store->Flush();
+    EXPECT_EQ(free, 1);
 }
 
 TEST_F(QtProfileStoreTest, AFileOfAnythingGivesDefaultsAndDoesNotFail) {

@@ -22,6 +22,7 @@
 #include <QVariant>
 #include <map>
 #include <utility>
+#include <vector>
 
 #include "toolkit/qt/QtSettingsName.h"
 
@@ -100,10 +101,11 @@ public:
             Warn(QStringLiteral(
                 "The settings in \"%1\" can't be read. All settings are at their defaults, and "
                 "changes are not kept."));
-            return;
+        } else {
+            m_settings = std::make_unique<QSettings>(m_place, m_format);
+            NoteDamage();
         }
-        m_settings = std::make_unique<QSettings>(m_place, m_format);
-        NoteDamage();
+        TellWarnings();
     }
     ~Settings() { Flush(); }
     Settings(const Settings&) = delete;
@@ -129,8 +131,12 @@ private:
     void FlushFile();
     void Save();
     /// @param sentence  with %1 for the place
-    void Warn(const QString& sentence) const {
-        if (m_warn) m_warn(Utf8Of(sentence.arg(m_place)));
+    void Warn(const QString& sentence) { m_sentences.push_back(Utf8Of(sentence.arg(m_place))); }
+    // Only when no lock is held any more: who is told may show a box, and let anything happen behind it.
+    void TellWarnings() {
+        for (const CString& sentence : std::exchange(m_sentences, {})) {
+            if (m_warn) m_warn(sentence);
+        }
     }
 
     QString m_place;
@@ -141,16 +147,21 @@ private:
     bool m_isFlushAsked = false;
     bool m_isDamageTold = false;
     bool m_isFailureTold = false;
-    QObject m_flusher;  ///< last, so that no flush comes when the rest has gone
+    std::vector<CString> m_sentences;  ///< that nobody has been told yet
+    QObject m_flusher;                 ///< last, so that no flush comes when the rest has gone
 };
 
 void QtProfileStore::Settings::NoteDamage() {
     // QSettings takes a section apart, and sees its damage, when it is asked for a name in it.
     static_cast<void>(m_settings->allKeys());
     if (m_settings->status() != QSettings::FormatError || std::exchange(m_isDamageTold, true)) return;
+    // An older copy goes only when there is a new one.
     const QString kept = m_place + QLatin1String(".damaged");
-    QFile::remove(kept);
-    Warn(QFile::copy(m_place, kept)
+    const QString fresh = kept + QLatin1String(".new");
+    QFile::remove(fresh);
+    const bool isCopied = QFile::copy(m_place, fresh);
+    if (isCopied) QFile::remove(kept);
+    Warn(isCopied && QFile::rename(fresh, kept)
              ? QStringLiteral("The settings in \"%1\" are damaged. What can't be read is at its default. The "
                               "file as it was is kept as \"%1.damaged\".")
              : QStringLiteral(
@@ -166,6 +177,7 @@ void QtProfileStore::Settings::Flush() {
     } else {
         Save();
     }
+    TellWarnings();
 }
 
 void QtProfileStore::Settings::FlushFile() {

@@ -23,13 +23,15 @@ class COXInstanceManager;
 /// InitInstance.
 class VAPP_EXPORT TApp : public CWinAppEx, public TOsInfo {
 public:
-    /// Takes the words of this process's command line; SetArguments replaces them.
+    /// Takes the words of this process's command line; SetArguments replaces them. A host whose toolkit has
+    /// options of its own, as Qt has, tells what the toolkit left of them (QCoreApplication::arguments())
+    /// before InitInstance: their values would be taken for files.
     explicit TApp(const CString& appName = "");
     ~TApp() override;
 
     /// The start: reads the command line, counts this process, shows the splash, checks the processor. 0 if
     /// another application object is the current one, or as many instances run as are allowed: the process is
-    /// to end then.
+    /// to end then. While a splash is shown, events and timers that wait are handled.
     int InitInstance() override;
 
     // What the start asks of the host, with the base's answers.

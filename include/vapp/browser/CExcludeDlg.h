@@ -6,6 +6,7 @@
 #pragma once
 
 #include "vapp/Export.h"
+#include "vapp/text/CStringU.h"
 #include "vapp/toolkit/CButton.h"
 #include "vapp/toolkit/CDialog.h"
 #include "vapp/toolkit/CEdit.h"
@@ -40,6 +41,7 @@ protected:
 private:
     void OnResetToDefault();
 
+    CStringU m_setting;  ///< as it was read, with what the code page doesn't have
     CString m_excludeViews;
     CEdit m_edit;
     CButton m_reset;
