@@ -5,6 +5,7 @@
 #include "tests/browser/AnsweringWindow.h"
 #include "tests/celllist/CellListFixture.h"
 #include "tests/toolkit/RecordingPeers.h"
+#include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListCommand.h"
 #include "vapp/toolkit/Clipboard.h"
 
