@@ -105,7 +105,9 @@ void TReport::OnContextMenu(CWnd& /*from*/, CPoint screen) {
 void TReport::ShowViewNameMenu(CPoint screen, const std::set<CStringIU>& views) {
     CMenu menu;
     CreateViewNameFilterMenu(&menu, views);
-    static_cast<void>(ProcessViewNameFilterMenu(static_cast<int>(menu.Track(*this, screen)), views));
+    const UINT picked = menu.Track(*this, screen);
+    // A menu outlives the window under which it was opened.
+    if (IsWindow()) static_cast<void>(ProcessViewNameFilterMenu(static_cast<int>(picked), views));
 }
 
 void TReport::ShowCellMenu(CPoint screen, const std::set<CStringIU>& views) {

@@ -32,7 +32,16 @@ TCellNamesReportCtrl::TCellNamesReportCtrl(TCellListView& pane)
 }
 
 TCellNamesReportCtrl::~TCellNamesReportCtrl() {
+    DestroyWindow();
+    if (!m_isSetupStored) SerializeSetup(true);
+}
+
+// With the window, and not with the object: one that was ended inside of a line lives on, and would write its
+// settings over those of its successor.
+void TCellNamesReportCtrl::OnDestroy() {
     SerializeSetup(true);
+    m_isSetupStored = true;
+    CXTPReportControl::OnDestroy();
 }
 
 void TCellNamesReportCtrl::Init() {

@@ -36,6 +36,12 @@ constexpr std::array<const char*, 10> csOptions{
     "-lcv",      "-library",   "-count", "-filter", "-showhiddencells",
     "-showvias", "-libraries", "-views", "-tab",    nullptr};
 
+std::string_view WithoutBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 std::string LowerCase(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toLower().toStdString();
 }
@@ -121,8 +127,9 @@ private:
         const int code = Tcl_ListObjGetElements(m_interp, list, &count, &elements);
         if (code != TCL_OK) return code;
         names.emplace();
+        // The settings put a blank in front of names that they had divided at commas.
         for (int element = 0; element < count; ++element)
-            names->insert(LowerCase(gTextOf(elements[element])));
+            names->insert(LowerCase(WithoutBlanks(gTextOf(elements[element]))));
         return TCL_OK;
     }
 

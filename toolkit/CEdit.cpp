@@ -3,6 +3,8 @@
 /// types.
 #include "vapp/toolkit/CEdit.h"
 
+#include <string_view>
+
 CEdit::CEdit() = default;
 
 CEdit::~CEdit() {
@@ -15,9 +17,12 @@ void CEdit::SetCueText(const CString& cue) {
     TellPeer(cnChangeLook);
 }
 
+// What is pasted into a single line may have several: the first one counts, as nobody would see the others.
 void CEdit::EditedByUser(const CString& text) {
-    if (GetWindowText() == text) return;
-    SetWindowText(text);
+    const std::string_view whole = text.View();
+    const CString taken(IsMultiLine() ? whole : whole.substr(0, whole.find_first_of("\r\n")));
+    if (GetWindowText() == taken) return;
+    SetWindowText(taken);
     Notification notification;
     notification.code = cnEditChanged;
     NotifyParent(notification);

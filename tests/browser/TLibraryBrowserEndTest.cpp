@@ -191,6 +191,23 @@ TEST_F(TLibraryBrowserEnd, WithTheFrameInsideOfALineIsSurvived) {
     EXPECT_FALSE(m_browser.IsWindow());
 }
 
+TEST_F(TLibraryBrowserEnd, SettingsOfAnEndedListNeverReplaceThoseOfTheNextOne) {
+    ShowAll();
+    m_host.Handle("database all_libs", [this](Tcl_Interp* interp) {
+        m_browser.DestroyWindow();
+        static_cast<void>(m_browser.Initialize(&m_frame, interp, nullptr));
+        return TCL_OK;
+    });
+    Refresh();
+    ASSERT_EQ(m_browser.GetRowCount(), 3);
+    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "ShowVias", "none"), CString("true"));
+    m_app.WriteProfileString("LibraryNavigator", "ShowVias", "false");
+    m_browser.SerializeSetup(false);
+    m_browser.DestroyWindow();
+    ASSERT_TRUE(m_browser.Initialize(&m_frame, m_host.GetInterp(), nullptr)) << "which frees the ended panes";
+    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "ShowVias", "none"), CString("false"));
+}
+
 TEST_F(TLibraryBrowserEnd, OutsideOfLinesFreesThePanesAtOnce) {
     ShowAll();
     ASSERT_EQ(m_document.GetViews().size(), 3u);

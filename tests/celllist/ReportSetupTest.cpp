@@ -342,7 +342,7 @@ TEST_F(ReportSetupTest, SwitchingReloadsTheOptionsThatItHasJustStored) {
         << "with a blank in front a name comes first, and the other one is the second now";
     Report().SwitchSetup(TReport::Setup2);
     EXPECT_EQ(Report().GetOptions().viewFilter, (std::set<CStringIU>{" lay", "  sym"}))
-        << "so that blanks gather, which a list of Tcl doesn't mind";
+        << "so that blanks gather; hosts take them away";
 }
 
 TEST_F(ReportSetupTest, ATabOfNoSetupIsTheThirdWithTheLayoutOfTheFirst) {

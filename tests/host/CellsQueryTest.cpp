@@ -54,6 +54,11 @@ TEST_F(CellsQueryTest, LibrariesAndViewsNarrowWithoutRegardToCase) {
     EXPECT_EQ(Cells(" -views {none}").size(), 0u);
 }
 
+TEST_F(CellsQueryTest, BlanksAroundNamesOfViewsDoNotCount) {
+    EXPECT_EQ(m_interp.Answer("database cells -lcv -library d -count -showvias -views {{ symbol} { }}"),
+              m_interp.Answer("database cells -lcv -library d -count -showvias -views {symbol}"));
+}
+
 TEST_F(CellsQueryTest, EachFilterTypeOfTheTableListsItsViews) {
     m_store.SetMark({"", "Lib", "inv", "verilog"}, CellKey::IsModified, "1");
     const std::pair<std::string_view, std::vector<std::string>> rows[] = {

@@ -2,6 +2,7 @@
 /// The strip of tabs, from both sides.
 #include "toolkit/qt/QtTabPeer.h"
 
+#include <QContextMenuEvent>
 #include <QTabBar>
 #include <QTest>
 
@@ -50,6 +51,19 @@ TEST_F(QtTabPeerTest, PickedTabIsToldOnce) {
     EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
     ClickTab(*bar, 1);
     EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
+}
+
+TEST_F(QtTabPeerTest, TheTabUnderTheMenuClickIsTold) {
+    const QPoint place = bar->tabRect(2).center();
+    QContextMenuEvent click(QContextMenuEvent::Mouse, place, bar->mapToGlobal(place));
+    QCoreApplication::sendEvent(bar, &click);
+    EXPECT_EQ(shown.form.Count(cnTabContextClicked), 1);
+    EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 0) << "what the click means is the parent's to say";
+    const QPoint beside(bar->tabRect(2).right() + 20, 5);
+    QContextMenuEvent off(QContextMenuEvent::Mouse, beside, bar->mapToGlobal(beside));
+    bar->clearFocus();
+    QCoreApplication::sendEvent(bar, &off);
+    EXPECT_EQ(shown.form.Count(cnTabContextClicked), 1) << "no tab is there";
 }
 
 TEST_F(QtTabPeerTest, TabInsertedInFrontLeavesTheCurrentOneCurrent) {

@@ -44,6 +44,17 @@ QtTabPeer::QtTabPeer(CTabCtrl& tabs) : QtPeer(tabs, new TabWidget(gClientWidgetA
     bar->setShape(QTabBar::RoundedSouth);
     bar->setExpanding(false);
     bar->setDrawBase(false);
+    bar->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(bar, &QWidget::customContextMenuRequested, this, [this, bar](const QPoint& place) {
+        const QtBusyScope busy;
+        // The menu key asks from the middle of the strip, where there may be no tab: it means the current
+        // one.
+        const bool isOnTab = bar->tabAt(place) >= 0;
+        const int tab = isOnTab ? bar->tabAt(place) : bar->currentIndex();
+        if (!isOnTab && !bar->hasFocus()) return;
+        const QPoint corner = isOnTab ? place : bar->tabRect(tab).bottomLeft();
+        m_tabs.ContextClickedByUser(tab, m_tabs.ClientToScreen({corner.x(), corner.y()}));
+    });
     QObject::connect(bar, &QTabBar::currentChanged, this, [this](int index) {
         const QtBusyScope busy;
         const QPointer<QtTabPeer> alive(this);

@@ -21,7 +21,9 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_LN_HOSTNOTIFY) std::puts("  main window: the selection has changed");
+        constexpr WPARAM cnSelectionChanged = 1;
+        if (message == WM_LN_HOSTNOTIFY && wParam == cnSelectionChanged)
+            std::puts("  main window: the selection has changed");
         if (message == WM_LN_ISDARKTHEME) return 0;
         return CFrameWnd::WindowProc(message, wParam, lParam);
     }

@@ -16,7 +16,8 @@
 /// setting of the excluded views.
 ///
 /// DestroyWindow may come from inside of a line; the panes' objects then live on until the next Initialize or
-/// the end of this object. The object itself must not be destroyed from inside of a line.
+/// the end of this object. The object itself must not be destroyed from inside of a line,
+/// nor while a menu, a drag or a message of the navigator is open.
 #pragma once
 
 #include <cstddef>

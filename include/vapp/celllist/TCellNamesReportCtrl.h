@@ -344,6 +344,7 @@ public:
     [[nodiscard]] CStringU GetTypeAheadText(int row) const override;
 
 protected:
+    void OnDestroy() override;
     /// On the focused row: tells the host, and runs its default command if there is one. On neither a row nor
     /// a header: empties the pane's sub-string.
     void OnDoubleClick(CPoint point) override;
@@ -395,6 +396,7 @@ private:
     bool m_postponed = false;
     bool m_ignoreSelectionChange = false;
     bool m_inDragDrop = false;
+    bool m_isSetupStored = false;  ///< by the end of the window
 };
 
 }  // namespace vapp_library_browser
