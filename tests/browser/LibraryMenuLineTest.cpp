@@ -72,6 +72,16 @@ TEST_F(LibraryMenuLine, LibrariesStandInQuotesWithoutTheHook) {
               "librarynavigator x -libraries { \"io\" \"std cells\" }");
 }
 
+// Hosts read these lines as they are: what a name breaks, the host's command has to refuse.
+TEST_F(LibraryMenuLine, ALibrarysNameCanEndTheListThatItStandsIn) {
+    const Libraries hostile = {CStringIU("a\"} ; exit ; {\"")};
+    for (const bool hooked : {false, true}) {
+        const HookGuard hook(hooked ? &RecordingHost::Brace : nullptr);
+        EXPECT_EQ(Line("librarynavigator x", StyleSelectedLibraries, false, "top", hostile),
+                  "librarynavigator x top -libraries { \"a\"} ; exit ; {\"\" }");
+    }
+}
+
 TEST_F(LibraryMenuLine, WithoutASelectionOnlyCommandAndDesignAreSent) {
     EXPECT_EQ(Line("edit", StyleSelectedLibraries, false, "top", {}), "logaction edit top");
     EXPECT_EQ(Line("edit", StyleSelectedLibraries, true, "top", {}), "logaction edit");

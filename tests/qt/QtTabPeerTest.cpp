@@ -61,9 +61,12 @@ TEST_F(QtTabPeerTest, TheTabUnderTheMenuClickIsTold) {
     EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 0) << "what the click means is the parent's to say";
     const QPoint beside(bar->tabRect(2).right() + 20, 5);
     QContextMenuEvent off(QContextMenuEvent::Mouse, beside, bar->mapToGlobal(beside));
-    bar->clearFocus();
     QCoreApplication::sendEvent(bar, &off);
     EXPECT_EQ(shown.form.Count(cnTabContextClicked), 1) << "no tab is there";
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, beside, bar->mapToGlobal(beside));
+    QCoreApplication::sendEvent(bar, &key);
+    EXPECT_EQ(shown.form.Count(cnTabContextClicked), 2)
+        << "the key means the current one, wherever it asks from";
 }
 
 TEST_F(QtTabPeerTest, TabInsertedInFrontLeavesTheCurrentOneCurrent) {

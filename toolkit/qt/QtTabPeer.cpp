@@ -2,6 +2,7 @@
 /// The tab strip.
 #include "toolkit/qt/QtTabPeer.h"
 
+#include <QContextMenuEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
 
@@ -44,17 +45,6 @@ QtTabPeer::QtTabPeer(CTabCtrl& tabs) : QtPeer(tabs, new TabWidget(gClientWidgetA
     bar->setShape(QTabBar::RoundedSouth);
     bar->setExpanding(false);
     bar->setDrawBase(false);
-    bar->setContextMenuPolicy(Qt::CustomContextMenu);
-    QObject::connect(bar, &QWidget::customContextMenuRequested, this, [this, bar](const QPoint& place) {
-        const QtBusyScope busy;
-        // The menu key asks from the middle of the strip, where there may be no tab: it means the current
-        // one.
-        const bool isOnTab = bar->tabAt(place) >= 0;
-        const int tab = isOnTab ? bar->tabAt(place) : bar->currentIndex();
-        if (!isOnTab && !bar->hasFocus()) return;
-        const QPoint corner = isOnTab ? place : bar->tabRect(tab).bottomLeft();
-        m_tabs.ContextClickedByUser(tab, m_tabs.ClientToScreen({corner.x(), corner.y()}));
-    });
     QObject::connect(bar, &QTabBar::currentChanged, this, [this](int index) {
         const QtBusyScope busy;
         const QPointer<QtTabPeer> alive(this);
@@ -69,6 +59,20 @@ void QtTabPeer::Changed(UINT changes) {
     if (bar != nullptr && (changes & cnChangeLook) != 0)
         bar->SetMinWidthText(gToQString(m_tabs.GetMinWidthText()));
     if ((changes & (cnChangeItems | cnChangeSelection)) != 0) ApplyTabs();
+}
+
+// A click means the tab under it, and beside the tabs none; the menu key means the current one.
+bool QtTabPeer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != Widget() || event->type() != QEvent::ContextMenu)
+        return QtPeer::eventFilter(watched, event);
+    const auto* request = static_cast<QContextMenuEvent*>(event);
+    const auto* bar = static_cast<QTabBar*>(Widget());
+    const bool isKey = request->reason() == QContextMenuEvent::Keyboard;
+    const int tab = isKey ? bar->currentIndex() : bar->tabAt(request->pos());
+    const QPoint corner = isKey ? bar->tabRect(tab).bottomLeft() : request->pos();
+    const QtBusyScope busy;
+    if (tab >= 0) m_tabs.ContextClickedByUser(tab, m_tabs.ClientToScreen({corner.x(), corner.y()}));
+    return true;
 }
 
 void QtTabPeer::ApplyTabs() {

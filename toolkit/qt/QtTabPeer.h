@@ -13,6 +13,7 @@ public:
     explicit QtTabPeer(CTabCtrl& tabs);
 
     void Changed(UINT changes) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ApplyTabs();

@@ -29,8 +29,8 @@ struct VAPP_EXPORT TProfileSection {
     void ExchangeText(const char* key, CStringU& value, const CStringU& defaultValue) const;
     void ExchangeInteger(const char* key, int& value, int defaultValue) const;
     /// Written as the names joined with ", ", read by dividing at "," alone. No blanks are removed, so the
-    /// second and later names come back with a blank in front: in a Tcl list, where the names go, it does no
-    /// harm, and stored settings stay as they are. Reading replaces the set.
+    /// second and later names come back with a blank in front: hosts to whom the names go take it away, and
+    /// stored settings stay as they are. Reading replaces the set.
     void ExchangeSet(const char* key, std::set<CStringIU>& value) const;
 
     bool store;       ///< true writes, false reads
