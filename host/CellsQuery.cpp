@@ -13,13 +13,22 @@ namespace navigator {
 
 namespace {
 
-constexpr std::array<FilterType, 5> csFilterTypes{{
+constexpr std::array<FilterType, 10> csFilterTypes{{
     {"All", FilterKind::All, false},
     {"Symbols", FilterKind::Symbols, false},
     {"Schematics", FilterKind::Schematics, false},
-    {"Unresolved", FilterKind::Unresolved, true},
+    {"Layouts", FilterKind::Layouts, false},
+    {"HDL", FilterKind::Hdl, false},
+    {"Netlists", FilterKind::Netlists, false},
     {"Modified", FilterKind::Modified, true},
+    {"Reserved", FilterKind::Reserved, true},
+    {"Locked", FilterKind::Locked, true},
+    {"Unresolved", FilterKind::Unresolved, true},
 }};
+
+/// By name, and not by what is in the file: a folder may hold such a view too.
+constexpr std::array<std::string_view, 4> csHdlViews{"systemverilog", "verilog", "veriloga", "vhdl"};
+constexpr std::array<std::string_view, 3> csNetlistViews{"cdl", "circuit", "spice"};
 
 enum Option {
     LcvOption,
@@ -30,11 +39,12 @@ enum Option {
     ViasOption,
     LibrariesOption,
     ViewsOption,
-    TabOption
+    TabOption,
+    ExcludedOption
 };
-constexpr std::array<const char*, 10> csOptions{
-    "-lcv",      "-library",   "-count", "-filter", "-showhiddencells",
-    "-showvias", "-libraries", "-views", "-tab",    nullptr};
+constexpr std::array<const char*, 11> csOptions{
+    "-lcv",   "-library", "-count",        "-filter", "-showhiddencells", "-showvias", "-libraries",
+    "-views", "-tab",     "-showexcluded", nullptr};
 
 std::string_view WithoutBlanks(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
@@ -88,6 +98,9 @@ private:
                 return TCL_OK;
             case ViasOption:
                 m_query.showVias = true;
+                return TCL_OK;
+            case ExcludedOption:
+                m_query.showExcludedViews = true;
                 return TCL_OK;
             case FilterOption:
                 TakeFilter();
@@ -161,6 +174,7 @@ private:
 
 struct ViewName {
     bool isWanted = false;
+    bool isOfType = false;  ///< as far as the filter type asks for names
     ObjectHold object;
 };
 
@@ -186,7 +200,7 @@ private:
         const std::string* cell = nullptr;
         for (const ViewFile& file : library.files) {
             ViewName& view = ViewOf(file.view);
-            if (!view.isWanted || !IsListed({&design, &library, &file})) continue;
+            if (!view.isWanted || !IsListed({&design, &library, &file}, view)) continue;
             ++m_count;
             if (m_query.isCount) continue;
             if (cell == nullptr || *cell != file.cell) {
@@ -201,21 +215,33 @@ private:
     ViewName& ViewOf(const std::string& name) {
         const auto [found, isNew] = m_views.try_emplace(std::string_view(name));
         if (isNew) {
-            found->second.isWanted = !m_query.views || m_query.views->contains(LowerCase(name));
+            const std::string lower = LowerCase(name);
+            const bool isExcluded = !m_query.showExcludedViews && m_query.excludedViews.contains(lower);
+            found->second.isWanted = !isExcluded && (!m_query.views || m_query.views->contains(lower));
+            found->second.isOfType = IsNameOfType(lower);
             found->second.object.Set(gTclText(name));
         }
         return found->second;
     }
 
-    bool IsListed(const CellViewRef& view) {
+    [[nodiscard]] bool IsNameOfType(const std::string& view) const {
+        const auto isOneOf = [&view](const auto& names) {
+            return std::find(names.begin(), names.end(), view) != names.end();
+        };
+        if (m_filter == FilterKind::Layouts) return view.starts_with("layout");
+        if (m_filter == FilterKind::Hdl) return isOneOf(csHdlViews);
+        return m_filter == FilterKind::Netlists && isOneOf(csNetlistViews);
+    }
+
+    bool IsListed(const CellViewRef& view, const ViewName& name) {
         if (!m_query.showHiddenCells && m_store.Flag(view, CellKey::IsHiddenInLists)) return false;
         if (!m_query.showVias &&
             (m_store.Flag(view, CellKey::IsStdViaDef) || m_store.Flag(view, CellKey::IsCustomViaDef)))
             return false;
-        return m_query.isCount || PassesFilter(view);
+        return m_query.isCount || PassesFilter(view, name);
     }
 
-    bool PassesFilter(const CellViewRef& view) {
+    bool PassesFilter(const CellViewRef& view, const ViewName& name) {
         switch (m_filter) {
             case FilterKind::All:
                 return true;
@@ -223,10 +249,18 @@ private:
                 return view.file->format == ViewFormat::Symbol;
             case FilterKind::Schematics:
                 return view.file->format == ViewFormat::Schematic;
-            case FilterKind::Unresolved:
-                return m_store.CacheWord(view) != "Normal";
+            case FilterKind::Layouts:
+            case FilterKind::Hdl:
+            case FilterKind::Netlists:
+                return name.isOfType;
             case FilterKind::Modified:
                 return m_store.Flag(view, CellKey::IsModified);
+            case FilterKind::Reserved:
+                return m_store.Flag(view, CellKey::IsReserved);
+            case FilterKind::Locked:
+                return m_store.Flag(view, CellKey::IsLockedByUser);
+            case FilterKind::Unresolved:
+                return m_store.CacheWord(view) != "Normal";
         }
         return true;
     }
@@ -251,6 +285,19 @@ const FilterType& gFindFilterType(std::string_view text) {
     const auto* const found = std::find_if(csFilterTypes.begin(), csFilterTypes.end(),
                                            [text](const FilterType& type) { return type.text == text; });
     return found == csFilterTypes.end() ? csFilterTypes.front() : *found;
+}
+
+std::unordered_set<std::string> gReadExcludedViews(std::string_view text) {
+    static constexpr std::string_view csDividers = "; \t\r\n";
+    std::unordered_set<std::string> names;
+    while (true) {
+        const std::size_t first = text.find_first_not_of(csDividers);
+        if (first == std::string_view::npos) return names;
+        text.remove_prefix(first);
+        const std::size_t length = std::min(text.find_first_of(csDividers), text.size());
+        names.insert(LowerCase(text.substr(0, length)));
+        text.remove_prefix(length);
+    }
 }
 
 int gParseCellsQuery(Tcl_Interp* interp, TclWords words, CellsQuery& query) {

@@ -15,7 +15,18 @@
 namespace navigator {
 
 /// Which views a filter type lists.
-enum class FilterKind { All, Symbols, Schematics, Unresolved, Modified };
+enum class FilterKind {
+    All,
+    Symbols,
+    Schematics,
+    Layouts,   ///< views whose name begins with "layout"
+    Hdl,       ///< descriptions in a language: verilog, systemverilog, veriloga, vhdl
+    Netlists,  ///< spice, circuit, cdl
+    Modified,
+    Reserved,
+    Locked,     ///< by the user, or not to be written
+    Unresolved  ///< broken references, circular ones too
+};
 
 /// One entry of the filter drop-down that this host understands.
 struct FilterType {
@@ -40,9 +51,16 @@ struct CellsQuery {
     /// Names in lower case, none for all: the navigator keeps names without regard to case.
     std::optional<std::unordered_set<std::string>> libraries;
     std::optional<std::unordered_set<std::string>> views;
+    /// Names in lower case of views that the user leaves out, whatever else is asked for.
+    std::unordered_set<std::string> excludedViews;
+    /// Lists those too: for scripts, the navigator never asks so.
+    bool showExcludedViews = false;
     /// Tab of the schematic editor's mode. This host has no such tabs and lists the same views under each.
     int tab = 0;
 };
+
+/// The names in a text, divided by semicolons and blanks, in lower case.
+std::unordered_set<std::string> gReadExcludedViews(std::string_view text);
 
 /// Reads the words behind `database cells`. The text behind -filter is not quoted by the navigator: all words
 /// up to the next option belong to it, joined with one blank, and there may be none.

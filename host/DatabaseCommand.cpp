@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/CellsQuery.h"
+#include "host/ViewText.h"
 
 namespace navigator {
 
@@ -61,9 +62,10 @@ const SubCommandRow<DatabaseCommand> DatabaseCommand::csSubCommands[] = {
      &DatabaseCommand::AllLibs},
     {{"cells",
       "database cells -lcv -library DESIGN ?-count? ?-filter TEXT? ?-showhiddencells? ?-showvias? "
-      "?-libraries NAMES? ?-views NAMES? ?-tab N?",
+      "?-libraries NAMES? ?-views NAMES? ?-tab N? ?-showexcluded?",
       "List of {library cell view}; with -count their number, whatever the filter type. TEXT is one of All, "
-      "Symbols, Schematics, Unresolved, Modified, and needs no quotes."},
+      "Symbols, Schematics, Layouts, HDL, Netlists, Modified, Reserved, Locked, Unresolved, and needs no "
+      "quotes. Views that the user leaves out by name are in the answer with -showexcluded alone."},
      0,
      -1,
      &DatabaseCommand::Cells},
@@ -120,6 +122,13 @@ const SubCommandRow<DatabaseCommand> DatabaseCommand::csSubCommands[] = {
      1,
      1,
      &DatabaseCommand::TopLevel},
+    {{"viewtext", "database viewtext KEY DESIGN LIBRARY CELL VIEW",
+      "A text about a view, good for a column. KEY: bytes (size of the file), changed (when it was written), "
+      "path, state (words such as Modified, Reserved, Locked, Unresolved; empty if there is nothing to "
+      "tell), type (property of the cell's symbol)."},
+     5,
+     5,
+     &DatabaseCommand::ViewText},
     {{nullptr, nullptr, nullptr}, 0, 0, nullptr}};
 
 DatabaseCommand::DatabaseCommand(Tcl_Interp* interp, DesignStore& store)
@@ -156,6 +165,7 @@ int DatabaseCommand::Cells(Tcl_Interp* interp, TclWords words) {
     CellsQuery query;
     int code = gParseCellsQuery(interp, words, query);
     if (code != TCL_OK) return code;
+    if (m_excludedViews) query.excludedViews = gReadExcludedViews(m_excludedViews());
     code = gAnswerCellsQuery(interp, m_store, query);
     if (code == TCL_OK && !query.isCount) {
         m_listedMembership = m_store.MembershipChanges();
@@ -266,6 +276,17 @@ int DatabaseCommand::SetMark(Tcl_Interp* interp, TclWords words) {
 int DatabaseCommand::TopLevel(Tcl_Interp* interp, TclWords words) {
     const Design* const design = m_store.FindDesign(gTextOf(words[0]));
     if (design != nullptr) Tcl_SetObjResult(interp, gTclText(DesignStore::TopLibrary(*design)));
+    return TCL_OK;
+}
+
+int DatabaseCommand::ViewText(Tcl_Interp* interp, TclWords words) {
+    const std::optional<ViewTextKey> key = gFindViewTextKey(gTextOf(words[0]));
+    if (!key)
+        return gTclFailure(interp, "bad key \"" + std::string(gTextOf(words[0])) +
+                                       "\": must be bytes, changed, path, state, or type");
+    const CellViewRef view =
+        m_store.Find(gTextOf(words[1]), gTextOf(words[2]), gTextOf(words[3]), gTextOf(words[4]));
+    Tcl_SetObjResult(interp, gTclText(gViewText(m_store, view, *key)));
     return TCL_OK;
 }
 

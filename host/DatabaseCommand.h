@@ -29,6 +29,9 @@ public:
     /// refresh.
     void SetChangeHandler(std::function<void(DatabaseChange)> handler) { m_changed = std::move(handler); }
 
+    /// Who tells which views the user leaves out of the list: names divided by semicolons and blanks.
+    void SetExcludedViews(std::function<std::string()> teller) { m_excludedViews = std::move(teller); }
+
     /// Library, cell and view; the design stays empty.
     [[nodiscard]] const std::optional<CellViewName>& SelectedMaster() const { return m_selectedMaster; }
 
@@ -50,10 +53,12 @@ private:
     int SelectedMasterList(Tcl_Interp* interp, TclWords words);
     int SetMark(Tcl_Interp* interp, TclWords words);
     int TopLevel(Tcl_Interp* interp, TclWords words);
+    int ViewText(Tcl_Interp* interp, TclWords words);
     void Notify(DatabaseChange change) const;
 
     DesignStore& m_store;
     std::function<void(DatabaseChange)> m_changed;
+    std::function<std::string()> m_excludedViews;
     std::optional<CellViewName> m_selectedMaster;
     unsigned m_listedMembership = 0;
     unsigned m_listedState = 0;

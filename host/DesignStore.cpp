@@ -327,6 +327,14 @@ bool DesignStore::Flag(const CellViewRef& view, CellKey key) const {
                        [&](const auto& row) { return row.first == key && row.second == head.type; });
 }
 
+std::string DesignStore::TypeOf(const CellViewRef& view) const {
+    return view ? HeadOf(view).type : std::string();
+}
+
+FileStamp DesignStore::Stamp(const CellViewRef& view) const {
+    return view ? FactsOf(*view.library, *view.file).stamp : FileStamp();
+}
+
 std::string DesignStore::CacheWord(const CellViewRef& view) {
     if (!view) return "Unresolved";
     if (const std::string* mark = FindMark(view, CellKey::Cache)) return *mark;

@@ -107,6 +107,11 @@ public:
     /// "Normal", "Unresolved" or "Cycle", or what a mark says.
     std::string CacheWord(const CellViewRef& view);
 
+    /// Property `type` of the cell's symbol; empty if it has none.
+    std::string TypeOf(const CellViewRef& view) const;
+    /// The marks of the view's file at the last scan, of a folder those of the drawing in it.
+    FileStamp Stamp(const CellViewRef& view) const;
+
     /// Sets a mark; an empty value takes it away.
     void SetMark(const CellViewName& name, CellKey key, const std::string& value);
 

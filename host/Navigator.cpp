@@ -51,9 +51,11 @@ Navigator::Navigator(CWinAppEx& app)
       m_database(m_interp.get(), m_store),
       m_commands(m_interp.get()),
       m_browser(std::make_unique<vapp_library_browser::TLibraryBrowser>()),
+      m_columns(m_store, *m_browser),
       m_script(m_interp.get(), *m_browser),
       m_user(m_interp.get(), m_frame, *m_browser, [this] { Populate(); }) {
     vapp::gSetTclSanitizeInputUPointer(&QuoteTclWord);
+    m_database.SetExcludedViews([this] { return std::string(m_browser->GetExcludeViews().Payload()); });
     m_database.SetChangeHandler([this](DatabaseChange change) { OnDatabaseChange(change); });
 }
 

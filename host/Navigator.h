@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 
+#include "host/CellColumns.h"
 #include "host/DatabaseCommand.h"
 #include "host/DesignStore.h"
 #include "host/HostCommands.h"
@@ -39,6 +40,9 @@ public:
     /// Makes frame and panes. Call once, when the application has its settings; afterwards scripts may add
     /// columns and filter types.
     void CreateWindow(int width, int height, bool dark);
+    /// Adds what this host shows beside names: state, date and size. For a window that somebody looks at; a
+    /// list for other programs goes without, so that the same design gives the same text on each machine.
+    void AddColumns() { m_columns.AddTo(m_app); }
     /// Sources a script at global level. Gives nothing on success, or else the script's error with its place.
     [[nodiscard]] std::optional<std::string> SourceScript(const std::string& file);
     /// Reads the stored layout; to be called when all columns are there.
@@ -87,6 +91,7 @@ private:
     CDocument m_document;
     NavigatorFrame m_frame;
     std::unique_ptr<vapp_library_browser::TLibraryBrowser> m_browser;
+    CellColumns m_columns;
     NavigatorCommand m_script;
     UserCommand m_user;
     bool m_previewDue = false;

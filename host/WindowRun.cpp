@@ -110,6 +110,7 @@ int gOpenFolders(Navigator& navigator, const Options& options, const std::filesy
 
 int gPrepareWindow(Navigator& navigator, const Options& options) {
     navigator.CreateWindow(options.width, options.height, options.isDark);
+    if (!options.isDump) navigator.AddColumns();
     if (options.script) {
         if (const auto failure = navigator.SourceScript(*options.script))
             return gFail(*failure, cnFailureStatus);

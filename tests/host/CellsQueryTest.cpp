@@ -61,18 +61,56 @@ TEST_F(CellsQueryTest, BlanksAroundNamesOfViewsDoNotCount) {
 
 TEST_F(CellsQueryTest, EachFilterTypeOfTheTableListsItsViews) {
     m_store.SetMark({"", "Lib", "inv", "verilog"}, CellKey::IsModified, "1");
+    m_store.SetMark({"", "Lib", "inv", "symbol"}, CellKey::IsReserved, "1");
+    m_store.SetMark({"", "Lib", "inv", "schematic"}, CellKey::IsLockedByUser, "1");
     const std::pair<std::string_view, std::vector<std::string>> rows[] = {
         {"All", {"Lib inv schematic", "Lib inv symbol", "Lib inv verilog"}},
         {"Symbols", {"Lib inv symbol"}},
         {"Schematics", {"Lib inv schematic"}},
-        {"Unresolved", {"Lib inv schematic"}},
+        {"Layouts", {}},
+        {"HDL", {"Lib inv verilog"}},
+        {"Netlists", {}},
         {"Modified", {"Lib inv verilog"}},
+        {"Reserved", {"Lib inv symbol"}},
+        {"Locked", {"Lib inv schematic"}},
+        {"Unresolved", {"Lib inv schematic"}},
     };
     ASSERT_EQ(std::size(rows), gFilterTypes().size());
     for (std::size_t row = 0; row < std::size(rows); ++row) {
         EXPECT_EQ(rows[row].first, gFilterTypes()[row].text);
         EXPECT_EQ(Cells(" -filter " + std::string(rows[row].first)), rows[row].second) << rows[row].first;
     }
+}
+
+TEST_F(CellsQueryTest, LayoutsLanguagesAndNetlistsAreKnownByTheViewsName) {
+    for (const char* file : {"n/l/a.cdl", "n/l/a.cir", "n/l/a.sp", "n/l/a.sv", "n/l/a.va", "n/l/a.vhd",
+                             "n/l/a/Layout/x", "n/l/a/layout_flat/x", "n/l/a/spicebook/x", "n/l/b/verilog/x"})
+        m_folder.Write(file, "");
+    ASSERT_EQ(m_store.OpenFolder(m_folder.Path() / "n"), std::nullopt);
+    const auto cells = [this](const std::string& type) {
+        return m_interp.List("database cells -lcv -library n -filter " + type);
+    };
+    EXPECT_THAT(cells("Layouts"), ElementsAre("l a Layout", "l a layout_flat"));
+    EXPECT_THAT(cells("HDL"), ElementsAre("l a systemverilog", "l a veriloga", "l a vhdl", "l b verilog"));
+    EXPECT_THAT(cells("Netlists"), ElementsAre("l a cdl", "l a circuit", "l a spice"));
+}
+
+TEST_F(CellsQueryTest, ViewsThatTheUserLeavesOutCountForNothing) {
+    m_command.SetExcludedViews([] { return std::string("none; Symbol;;\tverilog "); });
+    EXPECT_THAT(Cells(" -showvias"), ElementsAre("Lib inv schematic"));
+    EXPECT_EQ(m_interp.Answer("database cells -lcv -library d -count -showvias"), "1");
+    EXPECT_THAT(Cells(" -views {symbol}"), ElementsAre()) << "also where they are asked for";
+    EXPECT_EQ(Cells(" -showexcluded").size(), 3u);
+    EXPECT_EQ(m_interp.Answer("database cells -lcv -library d -count -showexcluded -views {symbol}"), "1");
+}
+
+TEST(ExcludedViewsTest, NamesAreDividedBySemicolonsAndBlanks) {
+    using testing::UnorderedElementsAre;
+    EXPECT_THAT(gReadExcludedViews("ads; ARVance_MS;ams"), UnorderedElementsAre("ads", "arvance_ms", "ams"));
+    EXPECT_THAT(gReadExcludedViews(" ;; \t a\r\nb ;"), UnorderedElementsAre("a", "b"));
+    EXPECT_THAT(gReadExcludedViews("\xC3\x89tat"), UnorderedElementsAre("\xC3\xA9tat"));
+    EXPECT_TRUE(gReadExcludedViews("").empty());
+    EXPECT_TRUE(gReadExcludedViews(" ;\n;").empty());
 }
 
 TEST_F(CellsQueryTest, ATrailingFilterWithNothingBehindItListsAll) {

@@ -47,6 +47,20 @@ TEST_F(DatabaseCommandTest, AllLibsNamesDesignsAndPairsOfLibraryAndFolder) {
     EXPECT_EQ(m_interp.Answer("lindex $answer 0 1"), "lib " + (m_folder.Path() / "d/lib").string());
 }
 
+TEST_F(DatabaseCommandTest, ViewTextAnswersEveryKeyAndRefusesOthers) {
+    const auto text = [this](const std::string& key) {
+        return m_interp.Answer("database viewtext " + key + " d lib inv schematic");
+    };
+    EXPECT_EQ(text("state"), "Unresolved, V-Cell");
+    EXPECT_EQ(text("type"), "vcell");
+    EXPECT_EQ(text("path"), (m_folder.Path() / "d/lib/inv.sch").string());
+    EXPECT_EQ(text("bytes"), std::to_string(std::filesystem::file_size(m_folder.Path() / "d/lib/inv.sch")));
+    EXPECT_EQ(text("changed").size(), std::string("2019-02-28 17:05").size());
+    EXPECT_THAT(text("colour"), HasSubstr("bytes, changed, path, state, or type"));
+    EXPECT_EQ(m_interp.Answer("database viewtext state d lib gone schematic"), "");
+    EXPECT_EQ(m_interp.Eval("database viewtext state d lib inv"), TCL_ERROR);
+}
+
 TEST_F(DatabaseCommandTest, CellViewInfoAnswersEveryKey) {
     const std::pair<const char*, const char*> rows[] = {
         {"is_fab", "0"},           {"is_stdviadef", "0"},    {"is_customviadef", "0"}, {"is_guardring", "0"},
