@@ -62,6 +62,10 @@ void TSplashScreen::TimedOutByPeer() {
     Hide(0);
 }
 
+void TSplashScreen::ClosedByPeer() {
+    Hide(0);
+}
+
 void TSplashScreen::ShowStartupWaitMessage() {
     m_waitMessage = CStringU(vlang::gTranslate("__$$Translatable$$_The program is starting. Please wait."),
                              TextEncoding::Utf8Auto);

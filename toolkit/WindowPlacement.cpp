@@ -84,7 +84,7 @@ const CRect& NearestOf(const std::vector<CRect>& monitors, const CRect& rect) {
 int Begin(int wanted, int size, int low, int high, UINT mode) {
     const int room = high - low;
     if (size >= room) return low;
-    return mode == cnMonitorCenter ? low + (room - size) / 2 : std::clamp(wanted, low, high - size);
+    return (mode & cnMonitorCenter) != 0 ? low + (room - size) / 2 : std::clamp(wanted, low, high - size);
 }
 
 }  // namespace

@@ -5,6 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
 
 #include "platform/FaultPoint.h"
 #include "tests/app/InstanceRoles.h"
@@ -36,6 +40,28 @@ public:
     ~NoSse() { vapp_platform::SetFaultSource(nullptr); }
     NoSse(const NoSse&) = delete;
     NoSse& operator=(const NoSse&) = delete;
+};
+
+/// A splash on a screen, with something to do when it goes.
+class WatchedSplash : public Peer {
+public:
+    explicit WatchedSplash(std::function<void()> atEnd) : m_atEnd(std::move(atEnd)) {}
+    ~WatchedSplash() override { m_atEnd(); }
+    void Changed(UINT /*changes*/) override {}
+    void Invalidate(bool /*erase*/) override {}
+    void UpdateNow() override {}
+    [[nodiscard]] void* NativeHandle() const override { return const_cast<WatchedSplash*>(this); }
+
+private:
+    std::function<void()> m_atEnd;
+};
+
+class WatchingPeers : public RecordingPeers {
+public:
+    std::function<void()> atEnd;
+    std::unique_ptr<Peer> CreateSplash(TSplashScreen& /*splash*/) override {
+        return std::make_unique<WatchedSplash>(atEnd);
+    }
 };
 
 class App : public testing::Test {
@@ -258,6 +284,31 @@ TEST_F(App, IsTheMachineToo) {
     EXPECT_TRUE(app.m_hasSse2);
     EXPECT_EQ(std::filesystem::weakly_canonical(app.GetProgramDirectory().Payload()),
               std::filesystem::weakly_canonical(platform_test::OwnProgram()).parent_path());
+}
+
+TEST(EndingApp, GivesItsPlaceToTheNextOneThenItsSplashThenItsCommandLine) {
+    const platform_test::InstanceFolder folder;
+    StartLog log;
+    WatchingPeers peers;
+    int picture = 0;
+    gSetBitmapResource(cnSplash, reinterpret_cast<HBITMAP>(&picture));
+    std::string next;
+    bool hasCommandLine = false;
+    {
+        LoggingApp app(log, folder.name);
+        TApp& base = app;
+        peers.atEnd = [&] {
+            next = OtherInstance(folder.name, 1).Answer();
+            hasCommandLine = base.TApp::GetCmdInfo() != nullptr;
+        };
+        app.bitmap = cnSplash;
+        EXPECT_EQ(app.InitInstance(), 1);
+        EXPECT_EQ(OtherInstance(folder.name, 1).Answer(), "1");
+        EXPECT_EQ(next, "") << "the splash is still there";
+    }
+    gSetBitmapResource(cnSplash, nullptr);
+    EXPECT_EQ(next, "0") << "while the splash goes, another instance may start";
+    EXPECT_TRUE(hasCommandLine);
 }
 
 TEST(PlainApp, AnswersForAHostThatOverridesNothing) {

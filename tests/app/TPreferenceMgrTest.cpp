@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <optional>
 
 #include "tests/toolkit/RecordingPeers.h"
@@ -14,13 +15,23 @@ namespace {
 
 using namespace prefs;
 
+/// A user who lets something happen while the question is on the screen.
+class ThinkingUser : public RecordingPeers {
+public:
+    std::function<void()> think;
+    std::optional<int> ShowMessageBox(const TMessageBox& box) override {
+        if (think) think();
+        return RecordingPeers::ShowMessageBox(box);
+    }
+};
+
 class PreferenceMgr : public testing::Test {
 protected:
     PreferenceMgr() { manager.ResetAskReserveStatus(); }
     ~PreferenceMgr() override { vlang::gClearTranslations(); }
 
     TPreferenceMgr& manager = TPreferenceMgr::GetInstance();
-    RecordingPeers peers;
+    ThinkingUser peers;
 };
 
 }  // namespace
@@ -109,4 +120,39 @@ TEST_F(PreferenceMgr, TheAnswerStaysUntilTheNextQuestionOrAReset) {
     ASSERT_EQ(manager.AskReserve(true, AskManagedCellsOnly), Declined);
     manager.ResetAskReserveStatus();
     EXPECT_EQ(manager.GetAskReserveStatus(), NotAsked);
+}
+
+TEST_F(PreferenceMgr, AnOptionThatIsNoneNeverAsks) {
+    const auto none = static_cast<TAskReserveOption>(3);
+    const TAllowAskReserveGuard guard;
+    for (const bool isManaged : {false, true})
+        EXPECT_EQ(manager.AskReserve(isManaged, none), NotAsked);
+    EXPECT_TRUE(peers.boxes.empty());
+}
+
+TEST_F(PreferenceMgr, WhatHappensWhileTheUserThinksDoesNotTouchTheAnswer) {
+    std::optional<TAllowAskReserveGuard> guard(std::in_place);
+    TAskReserveStatus meanwhile = Agreed;
+    peers.think = [&] {
+        meanwhile = manager.GetAskReserveStatus();
+        manager.ResetAskReserveStatus();
+        guard.reset();
+    };
+    EXPECT_EQ(manager.AskReserve(false, AskAlways), Agreed);
+    EXPECT_EQ(meanwhile, NotAsked) << "the former answer is gone when the question comes up";
+    EXPECT_EQ(manager.GetAskReserveStatus(), Agreed);
+    EXPECT_EQ(manager.AskReserve(false, AskAlways), NotAsked) << "the scope has ended meanwhile";
+    EXPECT_EQ(peers.boxes.size(), 1u);
+}
+
+TEST_F(PreferenceMgr, AQuestionWithinTheQuestionIsAnsweredFirst) {
+    peers.think = [&] {
+        peers.think = nullptr;
+        peers.answer = IDCANCEL;
+        EXPECT_EQ(manager.AskReserve(true, AskManagedCellsOnly), Declined);
+        peers.answer = IDOK;
+    };
+    EXPECT_EQ(manager.AskReserve(true, AskManagedCellsOnly), Agreed);
+    EXPECT_EQ(manager.GetAskReserveStatus(), Agreed) << "the last answer that came";
+    EXPECT_EQ(peers.boxes.size(), 2u);
 }

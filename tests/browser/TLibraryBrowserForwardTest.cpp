@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/browser/NavigatorFixture.h"
+#include "tests/toolkit/RecordingPeers.h"
 #include "vapp/toolkit/CDocument.h"
 
 using namespace vapp_library_browser;
@@ -209,6 +210,20 @@ TEST_F(TLibraryBrowserForwardTest, DocumentUpdatesReachThePanes) {
     m_browser.Populate();
     EXPECT_EQ(Selected(), std::vector<std::string>{"a"});
     EXPECT_EQ(m_browser.GetFocusedCell(), TLibCellView("a", "nand", "symbol"));
+}
+
+/// The same on a toolkit that writes down what it is told.
+class TLibraryBrowserShownTest : public TLibraryBrowserForwardTest {
+protected:
+    RecordingPeers m_peers;
+};
+
+TEST_F(TLibraryBrowserShownTest, TheCellPaneIsPaintedWhenTheHostWantsIt) {
+    m_peers.ForgetAll();
+    m_browser.UpdateWindowCellListView();
+    EXPECT_EQ(m_peers.Of(Cells()).updates, 1u);
+    EXPECT_EQ(m_peers.Of(Libraries()).updates + m_peers.Of(Preview()).updates, 0u);
+    EXPECT_TRUE(m_host.Lines().empty()) << "painted as it is, not refreshed";
 }
 
 // --- Menus ---------------------------------------------------------------------------------------------

@@ -8,7 +8,57 @@
 
 using namespace vapp_library_browser;
 
-class TLibraryBrowserTest : public NavigatorFixture {};
+class TLibraryBrowserTest : public NavigatorFixture {
+protected:
+    /// All that needs a pane, where there is none.
+    void CallEverything();
+};
+
+void TLibraryBrowserTest::CallEverything() {
+    m_browser.Populate();
+    m_browser.RequestLibraryViewDelayedPopulate();
+    m_browser.RequestCellListViewDelayedPopulate(UpdateAlways);
+    m_browser.RequestCellListViewDelayedPopulate(UpdateIfFilterSaysSo);
+    m_browser.PopulateCellListView();
+    m_browser.UpdateWindowCellListView();
+    m_browser.SerializeSetup(true);
+    m_browser.SerializeSetup(false);
+    m_browser.ModifyForQEdit();
+    m_browser.SetSelectedDesign("x");
+    m_browser.SelectInLibraryList("x");
+    m_browser.SetCommandHandler(1, "x", StyleBuiltIn);
+    m_browser.SetOaViewReserved({}, true);
+    m_browser.SetLcvModified({}, true);
+    m_browser.AddCellViewListColumn("x", "x", true, false);
+    m_browser.AddCellViewListColumn(
+        "x", [](const TLibCellView&) { return CStringU(); }, true, false);
+    m_browser.AddCellViewListFilterType("x");
+    m_browser.ResetCellViewListFilter();
+    m_browser.SetCellTabsText(0, "x");
+    m_browser.AddToCellListSelections({});
+    m_browser.HighlightCellInList("x", "x");
+    m_browser.SetPreview(true, "", nullptr);
+    m_browser.ClearCaches();
+    CDocument document;
+    m_browser.AddViewsToDoc(&document);
+    EXPECT_TRUE(document.GetViews().empty());
+    EXPECT_TRUE(m_browser.GetSelectedDesign().IsEmpty());
+    EXPECT_TRUE(m_browser.GetFocusedLibrary().IsEmpty());
+    EXPECT_TRUE(m_browser.GetAllLibrariesSet().empty());
+    EXPECT_TRUE(m_browser.GetSelectedLibrariesSet().empty());
+    EXPECT_FALSE(m_browser.GetAlphabeticalLibraryNames());
+    EXPECT_EQ(m_browser.GetCommandHandler(1), std::pair(CStringU(), StyleCommandOnly));
+    EXPECT_FALSE(m_browser.HasOaReservedViews(""));
+    EXPECT_FALSE(m_browser.HasModifiedLcvs(""));
+    EXPECT_FALSE(m_browser.IsLcvModified({}));
+    EXPECT_TRUE(m_browser.GetFocusedCell().cell.IsEmpty());
+    EXPECT_TRUE(m_browser.GetSelectedCells().empty());
+    EXPECT_FALSE(m_browser.AreAnyCellsSelected());
+    EXPECT_EQ(m_browser.GetCellViewCount(), 0u);
+    EXPECT_TRUE(m_browser.GetShownCellList().IsEmpty());
+    EXPECT_TRUE(m_browser.GetShownCellViewList().IsEmpty());
+    EXPECT_TRUE(m_browser.GetExcludeViews().IsEmpty());
+}
 
 TEST_F(TLibraryBrowserTest, AFirstStartGivesTheDefaultHeights) {
     Initialize();
@@ -55,6 +105,7 @@ TEST_F(TLibraryBrowserTest, HeightsAreSavedWhenTheWindowGoesAndComeBack) {
     ASSERT_TRUE(again.Initialize(&m_frame, m_host.GetInterp(), nullptr));
     EXPECT_EQ(again.GetRowHeight(0), 150);
     EXPECT_EQ(again.GetRowHeight(1), 300);
+    EXPECT_EQ(again.GetRowHeight(2), 940 - 450 - 12);
 }
 
 TEST_F(TLibraryBrowserTest, ToolsOfDifferentNamesKeepHeightsOfTheirOwn) {
@@ -114,49 +165,7 @@ TEST_F(TLibraryBrowserTest, ADocumentGetsEachPaneOnce) {
 }
 
 TEST_F(TLibraryBrowserTest, CallsBeforeInitializeAnswerEmptyAndDoNotFail) {
-    m_browser.Populate();
-    m_browser.RequestLibraryViewDelayedPopulate();
-    m_browser.RequestCellListViewDelayedPopulate(UpdateAlways);
-    m_browser.RequestCellListViewDelayedPopulate(UpdateIfFilterSaysSo);
-    m_browser.PopulateCellListView();
-    m_browser.UpdateWindowCellListView();
-    m_browser.SerializeSetup(true);
-    m_browser.SerializeSetup(false);
-    m_browser.ModifyForQEdit();
-    m_browser.SetSelectedDesign("x");
-    m_browser.SelectInLibraryList("x");
-    m_browser.SetCommandHandler(1, "x", StyleBuiltIn);
-    m_browser.SetOaViewReserved({}, true);
-    m_browser.SetLcvModified({}, true);
-    m_browser.AddCellViewListColumn("x", "x", true, false);
-    m_browser.AddCellViewListColumn(
-        "x", [](const TLibCellView&) { return CStringU(); }, true, false);
-    m_browser.AddCellViewListFilterType("x");
-    m_browser.ResetCellViewListFilter();
-    m_browser.SetCellTabsText(0, "x");
-    m_browser.AddToCellListSelections({});
-    m_browser.HighlightCellInList("x", "x");
-    m_browser.SetPreview(true, "", nullptr);
-    m_browser.ClearCaches();
-    CDocument document;
-    m_browser.AddViewsToDoc(&document);
-    EXPECT_TRUE(document.GetViews().empty());
-    EXPECT_TRUE(m_browser.GetSelectedDesign().IsEmpty());
-    EXPECT_TRUE(m_browser.GetFocusedLibrary().IsEmpty());
-    EXPECT_TRUE(m_browser.GetAllLibrariesSet().empty());
-    EXPECT_TRUE(m_browser.GetSelectedLibrariesSet().empty());
-    EXPECT_FALSE(m_browser.GetAlphabeticalLibraryNames());
-    EXPECT_EQ(m_browser.GetCommandHandler(1), std::pair(CStringU(), StyleCommandOnly));
-    EXPECT_FALSE(m_browser.HasOaReservedViews(""));
-    EXPECT_FALSE(m_browser.HasModifiedLcvs(""));
-    EXPECT_FALSE(m_browser.IsLcvModified({}));
-    EXPECT_TRUE(m_browser.GetFocusedCell().cell.IsEmpty());
-    EXPECT_TRUE(m_browser.GetSelectedCells().empty());
-    EXPECT_FALSE(m_browser.AreAnyCellsSelected());
-    EXPECT_EQ(m_browser.GetCellViewCount(), 0u);
-    EXPECT_TRUE(m_browser.GetShownCellList().IsEmpty());
-    EXPECT_TRUE(m_browser.GetShownCellViewList().IsEmpty());
-    EXPECT_TRUE(m_browser.GetExcludeViews().IsEmpty());
+    CallEverything();
     EXPECT_TRUE(m_host.Lines().empty());
 }
 
@@ -178,9 +187,11 @@ TEST_F(TLibraryBrowserTest, WhatTheBrowserKeepsItselfIsThereBeforeInitialize) {
 
 TEST_F(TLibraryBrowserTest, CallsAfterTheEndOfTheWindowDoNotFail) {
     Show({"a"});
+    ASSERT_FALSE(m_browser.GetSelectedDesign().IsEmpty());
     m_browser.DestroyWindow();
-    m_browser.Populate();
-    EXPECT_TRUE(m_browser.GetSelectedDesign().IsEmpty());
+    m_host.ClearLines();
+    CallEverything();
+    EXPECT_TRUE(m_host.Lines().empty());
     EXPECT_EQ(m_browser.GetLibraryView(), nullptr);
 }
 

@@ -127,6 +127,14 @@ TEST_F(TProfileSectionTest, ReadingASetMakesNoNameOfEmptyPieces) {
     EXPECT_TRUE(names.empty());
 }
 
+TEST_F(TProfileSectionTest, ANameWithACommaComesBackAsTwo) {
+    std::set<CStringIU> names = {CStringIU("a,b"), CStringIU("c")};
+    TProfileSection(true).ExchangeSet("Set", names);
+    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "Set"), CString("a,b, c"));
+    TProfileSection(false).ExchangeSet("Set", names);
+    EXPECT_EQ(names, (std::set<CStringIU>{CStringIU("a"), CStringIU("b"), CStringIU(" c")}));
+}
+
 TEST_F(TProfileSectionTest, NamesOfASetKeepCharactersOutsideOfAscii) {
     std::set<CStringIU> names = {CStringIU(CStringU(u"\u4e2d")), CStringIU(CStringU(u"a\u00e9")),
                                  CStringIU("b")};

@@ -1,6 +1,6 @@
 /// @file
-/// Settings that are kept: what comes back in the next run, what a user reads in the file, what damage does,
-/// and what two programs do to one another.
+/// Settings that are kept: what comes back in the next run, what a user reads in the file, and what damage
+/// does. What real programs do to one another is in SharedSettingsScenarioTest.
 #include "vapp/toolkit/qt/QtProfileStore.h"
 
 #include <gtest/gtest.h>
@@ -11,40 +11,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QProcess>
-#include <QTemporaryDir>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "tests/qt/SettingsFileFixture.h"
 #include "vapp/toolkit/CWinAppEx.h"
 #include "vapp/toolkit/MemoryProfileStore.h"
 
-namespace {
-
-class QtProfileStoreTest : public testing::Test {
-protected:
-    [[nodiscard]] std::unique_ptr<QtProfileStore> Open() {
-        return QtProfileStore::InFile(CString(m_file.toUtf8().constData()), [this](const CString& sentence) {
-            m_warnings.emplace_back(sentence.View());
-        });
-    }
-    [[nodiscard]] QByteArray Bytes() const {
-        QFile file(m_file);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void Write(const QByteArray& bytes) const {
-        QFile file(m_file);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    QTemporaryDir m_folder;
-    QString m_file = m_folder.filePath(QStringLiteral("tool.ini"));
-    std::vector<std::string> m_warnings;
-};
-
-}  // namespace
+using QtProfileStoreTest = SettingsFileFixture;
 
 TEST_F(QtProfileStoreTest, ValuesOfBothKindsComeBackInTheNextRun) {
     {
@@ -243,6 +219,29 @@ TEST_F(QtProfileStoreTest, DamageIsToldOnceAndTheFileIsKept) {
     EXPECT_EQ(again->ReadInteger("other", "k"), 1) << "nothing of other sections is lost";
 }
 
+TEST_F(QtProfileStoreTest, AnOlderCopyGoesOnlyWhenThereIsANewOne) {
+    const QString kept = m_file + QStringLiteral(".damaged");
+    const auto keptBytes = [&] {
+        QFile file(kept);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    Write("[first");
+    Open().reset();
+    EXPECT_EQ(keptBytes(), "[first");
+    // A folder with something in it, in the place of the copy while it is made.
+    ASSERT_TRUE(QDir().mkpath(kept + QStringLiteral(".new/inside")));
+    m_warnings.clear();
+    Write("[second");
+    Open().reset();
+    ASSERT_EQ(m_warnings.size(), 1u);
+    EXPECT_NE(m_warnings[0].find("no copy can be made"), std::string::npos) << m_warnings[0];
+    EXPECT_EQ(keptBytes(), "[first");
+    ASSERT_TRUE(QDir(kept + QStringLiteral(".new")).removeRecursively());
+    Write("[the third");
+    Open().reset();
+    EXPECT_EQ(keptBytes(), "[the third");
+}
+
 TEST_F(QtProfileStoreTest, DamageThatComesLaterIsToldAtTheNextWriting) {
     const auto store = Open();
     store->WriteInteger("s", "k", 1);
@@ -365,64 +364,6 @@ TEST_F(QtProfileStoreTest, TheTimeOfTheFileGrowsWithEachWriting) {
     store->Flush();
     EXPECT_EQ(Bytes(), "[s]\nk=2\n");
     EXPECT_GT(QFileInfo(m_file).lastModified(), before) << "others know by it that they must read again";
-}
-
-namespace {
-
-constexpr int cnWriters = 3;
-constexpr int cnRounds = 40;
-
-CString KeyOf(int writer, int round) {
-    return CString(("w" + std::to_string(writer) + "r" + std::to_string(100 + round)).c_str());
-}
-
-}  // namespace
-
-// Not a test of its own: what each program of the next test does. The value keeps its length, so that the
-// size of the file tells nobody of a change.
-TEST(QtProfileStoreWriter, DISABLED_WritesItsKeysOneByOne) {
-    const int writer = qEnvironmentVariableIntValue("VAPP_TEST_WRITER");
-    const QByteArray file = qgetenv("VAPP_TEST_FILE");
-    const auto store = QtProfileStore::InFile(CString(file.constData()),
-                                              [](const CString& sentence) { ADD_FAILURE() << sentence; });
-    for (int round = 0; round < cnRounds; ++round) {
-        store->WriteInteger("s", KeyOf(writer, round), 2);
-        store->Flush();
-    }
-}
-
-TEST_F(QtProfileStoreTest, ProgramsThatSaveAtTheSameTimeLoseNothing) {
-    {
-        const auto store = Open();
-        for (int writer = 0; writer < cnWriters; ++writer) {
-            for (int round = 0; round < cnRounds; ++round)
-                store->WriteInteger("s", KeyOf(writer, round), 1);
-        }
-    }
-    std::vector<std::unique_ptr<QProcess>> programs;
-    for (int writer = 0; writer < cnWriters; ++writer) {
-        auto program = std::make_unique<QProcess>();
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("VAPP_TEST_WRITER"), QString::number(writer));
-        environment.insert(QStringLiteral("VAPP_TEST_FILE"), m_file);
-        program->setProcessEnvironment(environment);
-        program->start(QCoreApplication::applicationFilePath(),
-                       {QStringLiteral("--gtest_filter=QtProfileStoreWriter.*"),
-                        QStringLiteral("--gtest_also_run_disabled_tests")});
-        programs.push_back(std::move(program));
-    }
-    for (const auto& program : programs) {
-        ASSERT_TRUE(program->waitForFinished(240000));
-        EXPECT_EQ(program->exitCode(), 0) << program->readAllStandardOutput().toStdString();
-    }
-    const auto store = Open();
-    for (int writer = 0; writer < cnWriters; ++writer) {
-        for (int round = 0; round < cnRounds; ++round) {
-            EXPECT_EQ(store->ReadInteger("s", KeyOf(writer, round)), 2) << writer << ' ' << round;
-        }
-    }
-    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("tool.ini")})
-        << "no lock stays behind";
 }
 
 // --- The place of a user's settings --------------------------------------------------------------------

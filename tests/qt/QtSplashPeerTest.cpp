@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 
 #include "tests/qt/QtTestFrame.h"
 #include "vapp/toolkit/Resources.h"
@@ -133,6 +134,32 @@ TEST_F(QtSplash, WithoutATimeItStaysUntilItIsHidden) {
         EXPECT_TRUE(splash.IsShown());
         splash.Hide(0);
         EXPECT_FALSE(splash.IsShown());
+    }
+}
+
+TEST_F(QtSplash, ClosedByTheDesktopItHasEnded) {
+    for (const int timeOut : {cnNever, 600000}) {
+        ASSERT_TRUE(splash.Show(timeOut, CPoint{0, 0}));
+        EXPECT_TRUE(Widget()->close());
+        EXPECT_FALSE(splash.IsShown());
+        EXPECT_FALSE(splash.IsWindow());
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    ASSERT_TRUE(splash.Show(cnNever, CPoint{0, 0})) << "and can come again";
+}
+
+TEST_F(QtSplash, EndedByWhatWaitedWhileItIsShownItHasEnded) {
+    for (const int timeOut : {cnNever, 600000}) {
+        bool isEnded = false;
+        QTimer::singleShot(0, [&] {
+            isEnded = splash.IsShown();
+            splash.Hide(0);
+        });
+        EXPECT_TRUE(splash.Show(timeOut, CPoint{0, 0}));
+        EXPECT_TRUE(isEnded) << "what waits is handled when it is shown";
+        EXPECT_FALSE(splash.IsShown());
+        EXPECT_EQ(Widget(), nullptr);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
 

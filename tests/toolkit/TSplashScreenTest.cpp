@@ -72,6 +72,10 @@ TEST_F(Splash, EndsByItsTimeOrByTheHost) {
     EXPECT_TRUE(peers.Of(splash).alive);
     splash.Hide(0);
     EXPECT_FALSE(splash.IsShown());
+    ASSERT_TRUE(splash.Show(0)) << "for as long as nobody ends it";
+    splash.ClosedByPeer();
+    EXPECT_FALSE(splash.IsShown());
+    EXPECT_FALSE(peers.Of(splash).alive);
 }
 
 TEST_F(Splash, ThePeerHearsOfChanges) {

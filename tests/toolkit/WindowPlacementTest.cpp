@@ -88,6 +88,11 @@ TEST(ClipOrCenterRectToMonitor, MovesOnTheMonitorThatHasMost) {
         {{0, 0, 1200, 100}, cnMonitorCenter, {0, 350, 1200, 450}},
         {{100, 100, 1500, 2000}, cnMonitorClip, {0, 0, 1400, 1900}},
         {{50, 50, 50, 50}, cnMonitorCenter, {500, 400, 500, 400}},
+        // The lowest bit alone tells which of the two it is.
+        {{10, 20, 110, 70}, 3, {450, 375, 550, 425}},
+        {{10, 20, 110, 70}, 0x10001, {450, 375, 550, 425}},
+        {{960, -10, 1060, 40}, 2, {1000, 0, 1100, 50}},
+        {{960, -10, 1060, 40}, 0x10000, {1000, 0, 1100, 50}},
     };
     for (const auto& row : rows) {
         CRect rect = row.rect;

@@ -3,6 +3,7 @@
 #include "toolkit/qt/QtSplashPeer.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
@@ -81,11 +82,20 @@ QtSplashPeer::~QtSplashPeer() {
     if (auto* widget = static_cast<QtSplashWidget*>(Widget())) widget->Detach();
 }
 
+bool QtSplashPeer::eventFilter(QObject* watched, QEvent* event) {
+    // Behind the report nothing may follow: this object has ended with the window.
+    if (watched != Widget() || event->type() != QEvent::Close) return QtPeer::eventFilter(watched, event);
+    const QtBusyScope busy;
+    m_splash.ClosedByPeer();
+    return false;
+}
+
 void QtSplashPeer::Changed(UINT changes) {
     if (Widget() != nullptr && (changes & cnChangeLook) != 0) {
         static_cast<QtSplashWidget*>(Widget())->TakePicture();
     }
-    QtPeer::Changed(changes);
+    QtPeer::Changed(changes & ~cnChangeVisible);
+    if (Widget() != nullptr && (changes & cnChangeVisible) != 0) ApplyVisible();
 }
 
 // What is handled here may be the clock, and so the end of this object: nothing follows it.
@@ -107,9 +117,16 @@ void QtSplashPeer::ApplyRect() {
     m_splash.MovedByPeer({corner.x(), corner.y(), corner.x() + size.width(), corner.y() + size.height()});
 }
 
+// Where no event loop runs yet, Qt handles what is waiting when a splash is shown. That may be the end of
+// this object; the widget outlives its own showing.
 void QtSplashPeer::ApplyVisible() {
     const bool visible = m_splash.IsWindowVisible();
-    Widget()->setVisible(visible);
+    const QPointer<QtSplashPeer> alive(this);
+    {
+        const QtBusyScope busy;
+        Widget()->setVisible(visible);
+    }
+    if (!alive) return;
     if (visible && m_splash.GetTimeOut() > 0) {
         m_clock.start(m_splash.GetTimeOut());
     } else {

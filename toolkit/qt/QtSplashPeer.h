@@ -38,6 +38,7 @@ public:
 
     void Changed(UINT changes) override;
     void UpdateNow() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void ApplyRect() override;

@@ -34,7 +34,8 @@ public:
 
     /// Shows it, at once and for `timeOut` milliseconds, 0 or less for as long as nobody hides it; with its
     /// corner at a place on the screen, or in the middle of it. False without a picture: there is nothing to
-    /// show.
+    /// show. What waits may be handled while it is painted, and may end it before this returns: IsShown
+    /// tells.
     bool Show(int timeOut, const std::optional<CPoint>& position = std::nullopt);
     [[nodiscard]] int GetTimeOut() const { return m_timeOut; }
     [[nodiscard]] const std::optional<CPoint>& GetPosition() const { return m_position; }
@@ -44,6 +45,8 @@ public:
     [[nodiscard]] bool IsShown() const { return IsWindow() && IsWindowVisible(); }
     /// Its time is over, as the peer reports it.
     void TimedOutByPeer();
+    /// The desktop has closed it, as it can any window.
+    void ClosedByPeer();
 
     /// Shows a line that asks for patience, at once, and takes it away.
     void ShowStartupWaitMessage();

@@ -26,7 +26,7 @@ VAPP_EXPORT bool gReadWindowPlacement(TWindowPlacement* placement, const CString
 /// Keeps a placement in the current application's settings; it takes no rectangle that couldn't be read.
 VAPP_EXPORT bool gWriteWindowPlacement(const TWindowPlacement& placement, const CString& name);
 
-/// How ClipOrCenterRectToMonitor moves a rectangle.
+/// How ClipOrCenterRectToMonitor moves a rectangle: the lowest bit. Other bits mean nothing.
 enum TMonitorMode : UINT {
     cnMonitorClip = 0,    ///< as little as needed, to lie in the monitor
     cnMonitorCenter = 1,  ///< into the middle of the monitor
