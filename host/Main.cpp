@@ -2,7 +2,6 @@
 /// window.
 
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -19,18 +18,10 @@ namespace {
 
 using namespace navigator;
 
-/// Without folders the sample design is shown: the one beside the sources, or the one that was installed.
-std::filesystem::path SampleFolder() {
-    std::error_code error;
-    const std::filesystem::path installed = std::filesystem::path(NAVIGATOR_SAMPLE_INSTALLED);
-    return std::filesystem::is_directory(installed, error) ? installed
-                                                           : std::filesystem::path(NAVIGATOR_SAMPLE_SOURCE);
-}
-
 int Dump(const Options& options) {
     NavigatorApp app(options);
     Navigator navigator(app);
-    if (const int status = gOpenFolders(navigator, options, SampleFolder())) return status;
+    if (const int status = gOpenFolders(navigator, options, app)) return status;
     if (const int status = gPrepareWindow(navigator, options)) return status;
     const std::string text = navigator.Dump();
     std::cout << text << std::flush;
@@ -57,6 +48,5 @@ int main(int argc, char** argv) {
     // no name of a file is lost.
     gSetActiveCodePage(cnUtf8CodePage);
     if (options.isDump) return Dump(options);
-    return options.screenshot ? gTakePicture(options, SampleFolder(), argc, argv)
-                              : gRunWindow(options, SampleFolder(), argc, argv);
+    return options.screenshot ? gTakePicture(options, argc, argv) : gRunWindow(options, argc, argv);
 }

@@ -6,11 +6,13 @@
 #include <QApplication>
 #include <QScreen>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <vector>
 
 #include "host/NavigatorApp.h"
 #include "host/QtShell.h"
+#include "host/SampleFolder.h"
 #include "host/SplashPicture.h"
 #include "vapp/toolkit/Resources.h"
 #include "vapp/toolkit/TMessageBox.h"
@@ -73,11 +75,10 @@ void FitIntoScreen(Options& options) {
     options.height = size.height;
 }
 
-int RunStarted(NavigatorApp& app, const Options& options, const std::filesystem::path& sample,
-               const std::vector<CString>& troubles) {
+int RunStarted(NavigatorApp& app, const Options& options, const std::vector<CString>& troubles) {
     app.ShowStartupWaitMessage();
     Navigator navigator(app);
-    if (const int status = gOpenFolders(navigator, options, sample)) return status;
+    if (const int status = gOpenFolders(navigator, options, app)) return status;
     QtShell shell(navigator);
     if (const int status = gPrepareWindow(navigator, options)) return status;
     shell.Equip(&app);
@@ -99,8 +100,9 @@ int gFail(const std::string& sentence, int status) {
     return status;
 }
 
-int gOpenFolders(Navigator& navigator, const Options& options, const std::filesystem::path& sample) {
+int gOpenFolders(Navigator& navigator, const Options& options, const TApp& app) {
     if (options.folders.empty()) {
+        const std::filesystem::path sample = gSampleFolder(app.GetProgramDirectory().Payload());
         if (const auto failure = navigator.OpenFolder(sample)) return gFail(*failure, cnUsageStatus);
     }
     for (const std::string& folder : options.folders)
@@ -119,7 +121,7 @@ int gPrepareWindow(Navigator& navigator, const Options& options) {
     return EXIT_SUCCESS;
 }
 
-int gRunWindow(Options options, const std::filesystem::path& sample, int argc, char** argv) {
+int gRunWindow(Options options, int argc, char** argv) {
     const bool hasDisplay = std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
     if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         return gFail("There is no display. Use --screenshot FILE for a picture, or --dump for the list.",
@@ -135,17 +137,17 @@ int gRunWindow(Options options, const std::filesystem::path& sample, int argc, c
     NavigatorApp app(options);
     app.SetProfileStore(OpenSettings(troubles));
     if (app.InitInstance() == 0) return Refuse(options);
-    return RunStarted(app, options, sample, troubles);
+    return RunStarted(app, options, troubles);
 }
 
-int gTakePicture(const Options& options, const std::filesystem::path& sample, int argc, char** argv) {
+int gTakePicture(const Options& options, int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(&TellAllButSizeHints);
     qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     const QApplication application(argc, argv);
     NavigatorApp app(options);
     Navigator navigator(app);
-    if (const int status = gOpenFolders(navigator, options, sample)) return status;
+    if (const int status = gOpenFolders(navigator, options, app)) return status;
     QtShell shell(navigator);
     if (const int status = gPrepareWindow(navigator, options)) return status;
     shell.Equip(&app);

@@ -141,7 +141,12 @@ class Layout(unittest.TestCase):
             self.skipTest("the program needs Qt")
         navigator = PREFIX / "bin/navigator"
         self.assertIn(OPTIONS.version, output_of(navigator, "--version"))
-        self.assertIn("nand2", output_of(navigator, "--dump", PREFIX / "share/vapp/examples/sample"))
+        sample = PREFIX / "share/vapp/examples/sample"
+        self.assertIn("nand2", output_of(navigator, "--dump", sample))
+        # Without a folder it shows the sample that stands with it, not the one of the sources.
+        library = next(path.parent for path in sample.rglob("nand2.sym"))
+        shutil.copy(library / "nand2.sym", library / "moved_along.sym")
+        self.assertIn("moved_along", output_of(navigator, "--dump"))
 
 
 class Steps(unittest.TestCase):

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -46,8 +47,8 @@ public:
     }
     [[nodiscard]] std::string Text() const {
         std::string text;
-        for (auto piece = m_pieces.rbegin(); piece != m_pieces.rend(); ++piece) {
-            const std::string digits = std::to_string(*piece);
+        for (const auto piece : std::ranges::reverse_view(m_pieces)) {
+            const std::string digits = std::to_string(piece);
             if (!text.empty()) text.append(9 - digits.size(), '0');
             text += digits;
         }
@@ -111,7 +112,8 @@ inline std::string ModelSuffix(int exponent, int scale) {
     if (scale > 2 || thousands < -8 || thousands > 8) return "";
     if (scale > 0 && (thousands < -6 || thousands > 4)) return "";
     if (scale > 0 && thousands == 2) return scale == 1 ? "X" : "MEG";
-    return std::string(1, small[static_cast<std::size_t>(thousands + 8)]);
+    const int place = thousands + 8;
+    return std::string(1, small[static_cast<std::size_t>(place)]);
 }
 
 inline std::string ModelExponent(int exponent) {

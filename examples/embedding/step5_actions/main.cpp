@@ -5,6 +5,7 @@
 
 #include "step2_database/Database.h"
 #include "step3_browser/PrintPanes.h"
+#include "step5_actions/MenuUser.h"
 #include "vapp/app/TApp.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TclBridge.h"
@@ -18,14 +19,27 @@ namespace {
 class Frame final : public CFrameWnd {
 public:
     ~Frame() override { DestroyWindow(); }
+    TLibraryBrowser* browser = nullptr;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         constexpr WPARAM cnSelectionChanged = 1;
         if (message == WM_LN_HOSTNOTIFY && wParam == cnSelectionChanged)
             std::puts("  main window: the selection has changed");
+        if (message == WM_LN_BUILDCELLMENU) AddItems();
         if (message == WM_LN_ISDARKTHEME) return 0;
         return CFrameWnd::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    // Items of this tool, in front of the list's own. The style tells what the list puts behind the command:
+    // design, library, cell and view of the focused row. Of some commands it knows what to do by itself.
+    void AddItems() {
+        const bool isAnySelected = browser->AreAnyCellsSelected();
+        browser->AddCellListMenuCommand("Open", "open_cell", StyleFocusedLcv, !isAnySelected, false, true);
+        browser->AddCellListMenuCommand("Copy names", "CopySelectedCellNamesToClipboard", StyleBuiltIn,
+                                        !isAnySelected, false, false);
+        browser->AddCellListMenuSeparator();
     }
 };
 
@@ -50,8 +64,8 @@ int LibraryNavigator(ClientData browser, Tcl_Interp*, int count, Tcl_Obj* const 
 }
 
 int OpenCell(ClientData, Tcl_Interp*, int count, Tcl_Obj* const words[]) {
-    if (count != 4) return TCL_ERROR;
-    std::printf("  opens %s of %s\n", Tcl_GetString(words[2]), Tcl_GetString(words[1]));
+    if (count != 5) return TCL_ERROR;
+    std::printf("  opens %s of %s\n", Tcl_GetString(words[3]), Tcl_GetString(words[2]));
     return TCL_OK;
 }
 
@@ -70,6 +84,7 @@ int main(int, char** argv) {
     Tcl_CreateObjCommand(interp.get(), "librarynavigator", &LibraryNavigator, &browser, nullptr);
     Tcl_CreateObjCommand(interp.get(), "open_cell", &OpenCell, nullptr, nullptr);
     browser.Initialize(&frame, interp.get(), nullptr);
+    frame.browser = &browser;
     browser.AddViewsToDoc(&document);
     browser.SerializeSetup(false);
     browser.Populate();
@@ -78,9 +93,16 @@ int main(int, char** argv) {
     TCellNamesReportCtrl& report = browser.GetCellListView()->GetReport();
     report.ClickedByUser(static_cast<int>(report.Find("logic", "nand2")), {});
 
-    std::puts("a command of the tool's own menu goes through the same log:");
+    std::puts("the user picks an item of the tool from the menu of the cells:");
+    {
+        const MenuUser user("Open");
+        report.ContextMenuByPeer(report.ClientToScreen({10, 100}));
+    }
+
+    std::puts("a command of the tool's own windows goes through the same log:");
     const TLibCellView cell = browser.GetFocusedCell();
-    const CStringU line = WrapForActionLog(CStringU("open_cell ") + SanitizeTclInput(cell.library) + " " +
+    const CStringU line = WrapForActionLog("open_cell " + SanitizeTclInput(browser.GetSelectedDesign()) +
+                                           " " + SanitizeTclInput(cell.library) + " " +
                                            SanitizeTclInput(cell.cell) + " " + SanitizeTclInput(cell.view));
     Tcl_EvalEx(interp.get(), line.Payload(), -1, TCL_EVAL_GLOBAL);
 
