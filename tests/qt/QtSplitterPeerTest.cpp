@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "tests/qt/QtTestFrame.h"
+#include "vapp/toolkit/CEdit.h"
 #include "vapp/toolkit/CSplitterWnd.h"
 
 namespace {
@@ -12,6 +13,21 @@ namespace {
 class Pane : public CView {
 public:
     ~Pane() override { DestroyWindow(); }
+};
+
+/// A pane with something in it that takes the keyboard.
+class FieldPane : public CView {
+public:
+    ~FieldPane() override { DestroyWindow(); }
+
+protected:
+    void OnCreate() override {
+        CView::OnCreate();
+        m_field.Create(this, 7, {0, 0, 50, 20});
+    }
+
+private:
+    CEdit m_field;
 };
 
 constexpr int cnBar = CSplitterWnd::cnBarHeight;
@@ -92,4 +108,25 @@ TEST_F(QtSplitterPeerTest, GrowingWindowGivesTheRoomToTheLastRow) {
     EXPECT_EQ(Bar(0)->geometry(), QRect(0, 60, 260, cnBar));
     EXPECT_EQ(splitter.GetPane(2, 0)->GetRect().bottom, 400);
     EXPECT_EQ(gWidgetOf(*splitter.GetPane(2, 0))->geometry().bottom(), 399);
+}
+
+TEST(QtSplitterKeyboard, GoesThroughAPaneThenToTheBarBelowIt) {
+    CFrameWnd frame;
+    CSplitterWnd splitter;
+    frame.CreateFrame("frame", {0, 0, 200, 300});
+    ASSERT_TRUE(splitter.CreateStatic(&frame, 2, 1, 1));
+    for (const int row : {0, 1})
+        ASSERT_TRUE(splitter.CreateView(row, 0, gRuntimeClass<FieldPane>("FieldPane"), {0, 100}));
+    std::vector<QWidget*> way;
+    QWidget* const start = gWidgetOf(frame);
+    for (QWidget* next = start->nextInFocusChain(); next != start; next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) != 0) way.push_back(next);
+    }
+    QWidget* const bar = gWidgetOf(splitter)->findChild<QWidget*>(QStringLiteral("bar0"));
+    const auto* const above = gWidgetOf(*splitter.GetPane(0, 0));
+    const auto* const below = gWidgetOf(*splitter.GetPane(1, 0));
+    ASSERT_EQ(way.size(), 3u);
+    EXPECT_TRUE(above->isAncestorOf(way[0]));
+    EXPECT_EQ(way[1], bar);
+    EXPECT_TRUE(below->isAncestorOf(way[2]));
 }

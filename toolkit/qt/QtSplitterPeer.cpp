@@ -77,6 +77,7 @@ QtSplitterPeer::~QtSplitterPeer() {
 
 void QtSplitterPeer::Changed(UINT changes) {
     QtPeer::Changed(changes);
+    if ((changes & cnChangeItems) != 0) MakeBars();
     if ((changes & (cnChangeItems | cnChangeRect)) != 0) PlaceBars();
 }
 
@@ -84,11 +85,19 @@ void QtSplitterPeer::ChildPlaced() {
     PlaceBars();
 }
 
+// The keyboard goes from widget to widget in the order in which they were made. So a bar comes when the pane
+// above it is whole: the first thing in a new window that the keyboard gets to is a control, and not a bar.
+void QtSplitterPeer::MakeBars() {
+    if (Widget() == nullptr) return;
+    const int barCount = m_splitter.GetRowCount() - 1;
+    for (int row = static_cast<int>(m_bars.size()); row < barCount; ++row) {
+        if (m_splitter.GetPane(row, 0) == nullptr) return;
+        m_bars.emplace_back(new QtSplitterBar(m_splitter, row, Widget()));
+    }
+}
+
 void QtSplitterPeer::PlaceBars() {
     if (Widget() == nullptr) return;
-    const auto barCount = static_cast<std::size_t>(std::max(m_splitter.GetRowCount() - 1, 0));
-    while (m_bars.size() < barCount)
-        m_bars.emplace_back(new QtSplitterBar(m_splitter, static_cast<int>(m_bars.size()), Widget()));
     for (std::size_t index = 0; index < m_bars.size(); ++index) {
         QtSplitterBar* const bar = m_bars[index];
         if (bar == nullptr) continue;

@@ -45,6 +45,7 @@ protected:
     void ChildPlaced() override;
 
 private:
+    void MakeBars();
     void PlaceBars();
 
     CSplitterWnd& m_splitter;

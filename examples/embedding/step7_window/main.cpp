@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "step2_database/Database.h"
 #include "vapp/app/TApp.h"
@@ -78,9 +79,11 @@ private:
             if (option == "-bmwidth") Tcl_GetIntFromObj(interp, words[at + 1], &width);
             if (option == "-bmheight") Tcl_GetIntFromObj(interp, words[at + 1], &height);
         }
-        QImage image(width, height, QImage::Format_RGB32);
+        const QRect area(0, 0, width, height);
+        QImage image(area.size() * qGuiApp->devicePixelRatio(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(qGuiApp->devicePixelRatio());
         image.fill(Qt::white);
-        QPainter(&image).drawText(image.rect(), Qt::AlignCenter, QString::fromStdString(cell));
+        QPainter(&image).drawText(area, Qt::AlignCenter, QString::fromStdString(cell));
         QtBitmap bitmap(image);
         preview.m_browser.SetPreview(false, CStringU(cell.c_str(), TextEncoding::Utf8Auto), bitmap.Get());
         preview.m_bitmap = std::move(bitmap);
@@ -91,6 +94,15 @@ private:
     TLibraryBrowser& m_browser;
     QtBitmap m_bitmap;
 };
+
+// The words of the command line that are not Qt's: the value of an option of Qt would be taken for a file.
+std::vector<CStringU> OwnWords() {
+    std::vector<CStringU> words;
+    const QStringList left = QCoreApplication::arguments();
+    for (qsizetype at = 1; at < left.size(); ++at)
+        words.emplace_back(left[at].toUtf8().constData(), TextEncoding::Utf8Auto);
+    return words;
+}
 
 void PrintTrouble(const CString& sentence) {
     std::fprintf(stderr, "%s\n", sentence.GetString());
@@ -148,6 +160,7 @@ int main(int argc, char** argv) {
     QtPeerFactory::Install();
     gSetActiveCodePage(cnUtf8CodePage);
     LayoutTool app;
+    app.SetArguments(OwnWords());
     if (app.InitInstance() == 0) return 1;
     app.SetProfileStore(OpenSettings(app.words));
     const Interpreter interp = MakeInterpreter(argv[0]);
@@ -158,6 +171,8 @@ int main(int argc, char** argv) {
     TLibraryBrowser browser;
     const Preview preview(interp.get(), browser);
     browser.Initialize(&frame, interp.get(), nullptr);
+    browser.AddCellViewListFilterType("All");
+    browser.AddCellViewListFilterType("Layouts");
     browser.SetCellTabsText(0, "Names");
     browser.SetCellTabsText(1, "Details");
     browser.SetCellTabsText(2, "Own");
