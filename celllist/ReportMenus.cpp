@@ -14,9 +14,11 @@
 #include "celllist/CellRows.h"
 #include "celllist/OptionCommands.h"
 #include "vapp/browser/CExcludeDlg.h"
+#include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TLibraryView.h"
+#include "vapp/browser/TProfileSection.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
@@ -69,8 +71,7 @@ void TReport::CreateViewNameFilterMenu(CMenu* menu, const std::set<CStringIU>& v
     menu->AppendSeparator();
     UINT id = cnBaseID;
     for (const CStringIU& view : views) {
-        menu->Append(id, gMenuTextOf(view));
-        menu->Check(id, m_options.viewFilter.contains(view));
+        menu->AppendChecked(id, gMenuTextOf(view), m_options.viewFilter.contains(view));
         ++id;
     }
 }
@@ -142,7 +143,8 @@ void TReport::CheckCellMenu(CMenu& menu) const {
     menu.Check(ColumnChooser, AskMainWindow(WM_LN_COLCHOOSERSHOWN) != 0);
     for (const UINT command : cnOptionCommands)
         menu.Check(command, IsOptionOn(m_options, command));
-    menu.Check(cnSetupCommands[static_cast<std::size_t>(GetActiveSetupIndex())], true);
+    if (const std::optional<TColSetup> setup = FindActiveSetup())
+        menu.Check(cnSetupCommands[static_cast<std::size_t>(*setup)], true);
 }
 
 bool TReport::OnMenuCommand(UINT command) {
@@ -174,7 +176,8 @@ void TReport::EditExcludeViews() {
     const HostCallScope scope;
     CExcludeDlg dialog;
     if (dialog.DoModal() != IDOK) return;
-    m_excludeViews = dialog.GetExcludeViews();
+    // What was stored, and not the dialog's text: that has question marks for what the code page lacks.
+    TProfileSection(false).ExchangeText(csExcludeViewNamesKey, m_excludeViews, csDefaultExcludeViewNames);
     Populate();
 }
 

@@ -50,10 +50,11 @@ void TReport::OnSwitchSetupTab(int tab) {
     if (tab >= Setup1 && tab <= Setup3) SwitchSetup(static_cast<TColSetup>(tab));
 }
 
-// A name that is none of the three (settings can be edited) has the defaults of the first setup.
-int TReport::GetActiveSetupIndex() const {
-    if (m_activeSetup == cnSetupNames[Setup3]) return Setup3;
-    return m_activeSetup == cnSetupNames[Setup2] ? Setup2 : Setup1;
+std::optional<TReport::TColSetup> TReport::FindActiveSetup() const {
+    for (const TColSetup setup : {Setup1, Setup2, Setup3}) {
+        if (m_activeSetup == cnSetupNames[static_cast<std::size_t>(setup)]) return setup;
+    }
+    return std::nullopt;
 }
 
 void TReport::SerializeOptions(bool write) {
@@ -73,8 +74,11 @@ void TReport::SerializeOptions(bool write) {
 
 void TReport::SerializeColumns(bool write) {
     CXTPReportColumns& columns = GetColumns();
-    const int setup = GetActiveSetupIndex();
+    // A name that is none of the three (settings can be edited) has the defaults of the first setup.
+    const int setup = FindActiveSetup().value_or(Setup1);
     std::map<int, CXTPReportColumn*> byOrder;
+    // However many columns there are, who shows them hears of it once.
+    BeginUpdate();
     for (int position = 0; position < columns.GetCount(); ++position) {
         CXTPReportColumn& column = *columns.GetAt(position);
         auto* own = dynamic_cast<TColumn*>(&column);
@@ -91,12 +95,14 @@ void TReport::SerializeColumns(bool write) {
         column.SetWidth(width);
         if (order < cnNoOrder) byOrder[order] = &column;
     }
-    if (write) return;
-    int position = 0;
-    for (const auto& [order, column] : byOrder)
-        columns.ChangeColumnOrder(position++, column);
-    if (const TColCellName* cellColumn = FindCellColumn())
-        SetFreezeColumnsCount(columns.IndexOf(cellColumn) + 1);
+    if (!write) {
+        int position = 0;
+        for (const auto& [order, column] : byOrder)
+            columns.ChangeColumnOrder(position++, column);
+        if (const TColCellName* cellColumn = FindCellColumn())
+            SetFreezeColumnsCount(columns.IndexOf(cellColumn) + 1);
+    }
+    EndUpdate();
 }
 
 }  // namespace vapp_library_browser

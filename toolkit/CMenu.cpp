@@ -64,6 +64,11 @@ void CMenu::Insert(int position, UINT id, const CStringU& text) {
     Place(position, std::move(item));
 }
 
+void CMenu::AppendChecked(UINT id, const CStringU& text, bool checked) {
+    Append(id, text);
+    m_items.back().isChecked = checked;
+}
+
 void CMenu::InsertSeparator(int position) {
     TItem item;
     item.kind = TItem::TKind::Separator;

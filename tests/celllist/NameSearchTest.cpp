@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <random>
 #include <string>
+#include <string_view>
 
 #include "text/Search.h"
 
@@ -55,6 +57,49 @@ TEST(NameSearchTest, LeavesWhatIsNotAsciiToOthers) {
     EXPECT_EQ(SearchNames(NameTable(), "x", false), TAnswers());
 }
 
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+bool HoldsText(const char* name, const std::string& text, bool caseSensitive) {
+    return caseSensitive ? std::strstr(name, text.c_str()) != nullptr
+                         : vapp_text::FindTextNoCaseU(name, text.c_str()) >= 0;
+}
+
+// Names are searched many at a time, some kilobytes in a block: here are names on both sides of the ends of
+// blocks, one that is longer than a block, and texts that are longer than most names.
+TEST(NameSearchTest, AgreesAcrossTheEndsOfBlocks) {
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    std::vector<std::string> names;
+    for (int number = 0; number < 4000; ++number) {
+        std::string name = "n" + std::to_string(number);
+        for (std::size_t left = random() % 24; left > 0; --left)
+            name += "aAbB_["[random() % 6];
+        names.push_back(name);
+    }
+    std::string huge(20'000, 'a');
+    huge[19'990] = 'Q';
+    names.insert(names.begin() + 1000, huge);
+    names.insert(names.begin() + 3000, std::string(17'000, 'B') + "zQz");
+    const NameTable table = TableOf(names);
+    for (const std::string& text :
+         {std::string("q"), std::string("zqz"), std::string("aB_"), std::string("n39"), std::string("3999"),
+          std::string("n0"), std::string(30, 'a'), std::string(16'500, 'b'), std::string("none of them")}) {
+        for (const bool caseSensitive : {false, true}) {
+            const TAnswers answers = SearchNames(table, text, caseSensitive);
+            ASSERT_EQ(answers.size(), table.Count());
+            for (std::uint32_t number = 0; number < table.Count(); ++number) {
+                ASSERT_NE(answers[number], cnUnknown) << number;
+                ASSERT_EQ(answers[number] == cnYes, HoldsText(table.At(number).data(), text, caseSensitive))
+                    << number << " / " << text.substr(0, 40);
+            }
+        }
+    }
+}
+
 // Beside the search of one name at a time, over names and texts of few letters, so that there are many hits.
 TEST(NameSearchTest, AgreesWithTheSearchOfEachName) {
     const unsigned seed = std::random_device()();
@@ -77,11 +122,13 @@ TEST(NameSearchTest, AgreesWithTheSearchOfEachName) {
             const TAnswers answers = SearchNames(table, text, caseSensitive);
             ASSERT_EQ(answers.size(), table.Count());
             for (std::uint32_t number = 0; number < table.Count(); ++number) {
-                if (answers[number] == cnUnknown) continue;
                 const char* name = table.At(number).data();
-                const bool holds = caseSensitive ? std::strstr(name, text.c_str()) != nullptr
-                                                 : vapp_text::FindTextNoCaseU(name, text.c_str()) >= 0;
-                ASSERT_EQ(answers[number] == cnYes, holds) << name << " / " << text;
+                const bool isOurs = IsAscii(name) && IsAscii(text) && !text.empty();
+                ASSERT_EQ(answers[number] != cnUnknown, isOurs) << name << " / " << text;
+                if (isOurs) {
+                    ASSERT_EQ(answers[number] == cnYes, HoldsText(name, text, caseSensitive))
+                        << name << " / " << text;
+                }
             }
         }
     }

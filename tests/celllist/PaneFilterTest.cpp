@@ -158,12 +158,30 @@ TEST_F(PaneFilterTest, SurvivesTheEndOfTheWindowWhileTheMenuIsOpen) {
     RecordingPeers peers;
     Type("abc");
     Type("");
-    peers.pick = [this](const CMenu& /*menu*/) {
+    int shown = 0;
+    peers.pick = [&](const CMenu& /*menu*/) {
+        ++shown;
         m_browser.DestroyWindow();
+        m_host.ClearLines();
         return 101u;
     };
     Button().Click();
-    EXPECT_FALSE(m_browser.IsWindow());
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(m_host.Lines(), TLines());
+    EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "CellFilterHistory"), "abc\n");
+}
+
+TEST_F(PaneFilterTest, APaneThatIsMadeAgainBeginsWithAnEmptyEditAndItsImage) {
+    TCellListView pane;
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_TRUE(pane.Create(&m_frame, 0));
+        const auto& button = dynamic_cast<CButton&>(*pane.GetDlgItem(TCellListView::cnFilterButton));
+        EXPECT_TRUE(pane.GetFilterText().IsEmpty());
+        EXPECT_EQ(button.GetImageResource(), 562u);
+        dynamic_cast<CEdit&>(*pane.GetDlgItem(TCellListView::cnFilterEdit)).EditedByUser("abc");
+        EXPECT_EQ(button.GetImageResource(), 564u);
+        pane.DestroyWindow();
+    }
 }
 
 TEST_F(PaneFilterTest, OffersTheHistoryOfTheLastRun) {

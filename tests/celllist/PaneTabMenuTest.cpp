@@ -119,8 +119,12 @@ TEST_F(PaneTabMenuTest, SurvivesTheEndOfTheWindowAtEveryStep) {
         m_whileOpen = [&] {
             if (message == cnNoMessage) m_browser.DestroyWindow();
         };
+        m_shown = 0;
+        m_host.ClearLines();
         RightClickTab(1);
         ASSERT_FALSE(m_browser.IsWindow());
+        EXPECT_EQ(m_shown, message == WM_LN_BUILDTABMENU ? 0 : 1);
+        EXPECT_EQ(Populations(), 0u) << "no list is left to be filled";
         ShowCells({{"l1", "a", "sym"}});
     }
 }

@@ -8,6 +8,7 @@
 #include "tests/toolkit/RecordingPeers.h"
 #include "vapp/browser/CExcludeDlg.h"
 #include "vapp/celllist/TCellListCommand.h"
+#include "vapp/text/ActiveCodePage.h"
 
 namespace {
 
@@ -211,6 +212,20 @@ TEST_F(ReportMenusTest, ChecksWhatIsOn) {
     EXPECT_EQ(on, (std::set<UINT>{40621, 40623, 40626, 40628, 40629, 40661, 40664, 40665, 40686}));
 }
 
+TEST_F(ReportMenusTest, ChecksNoSetupIfTheActiveOneIsNoneOfThem) {
+    m_app.WriteProfileString("LibraryNavigator", "ActiveSetup", "Setup7");
+    Report().SerializeSetup(false);
+    std::set<UINT> on;
+    m_look = [&on](const CMenu& menu) {
+        for (const UINT id : {40622U, 40623U, 40624U}) {
+            if (menu.IsChecked(id)) on.insert(id);
+        }
+    };
+    RightClick();
+    EXPECT_EQ(m_shown, 1);
+    EXPECT_EQ(on, std::set<UINT>());
+}
+
 TEST_F(ReportMenusTest, GreysSelectAllWhileNothingIsSelected) {
     std::optional<bool> enabled;
     m_look = [&enabled](const CMenu& menu) { enabled = menu.IsEnabled(SelectAll); };
@@ -294,9 +309,19 @@ TEST_F(ReportMenusTest, AsksWhetherTheColumnChooserIsShown) {
 }
 
 TEST_F(ReportMenusTest, SurvivesTheEndOfTheWindowWhileAMenuIsOpen) {
-    m_look = [this](const CMenu& /*menu*/) { m_browser.DestroyWindow(); };
+    // It lives on as long as its own menu is open.
+    const TReport& report = Report();
+    bool isSet = true;
+    std::size_t lines = 0;
+    m_look = [&](const CMenu& /*menu*/) {
+        m_browser.DestroyWindow();
+        isSet = report.GetOptions().showHiddenCells;
+        lines = m_host.Lines().size();
+    };
     Pick(ShowHiddenCells);
-    EXPECT_FALSE(m_browser.IsWindow());
+    EXPECT_EQ(m_shown, 1);
+    EXPECT_EQ(report.GetOptions().showHiddenCells, isSet) << "nobody has the list to see that";
+    EXPECT_EQ(m_host.Lines().size(), lines);
 }
 
 TEST_F(ReportMenusTest, SurvivesTheEndOfTheWindowWhileItAsksForTheViews) {
@@ -323,6 +348,16 @@ TEST_F(ReportMenusTest, TheConfirmedViewsToLeaveOutAreOfferedAndStoredAndTheList
     EXPECT_EQ(Queries(), 1u);
     for (const std::string& line : m_host.Lines())
         EXPECT_EQ(line.find("one"), std::string::npos) << "no line tells of them: hosts ask";
+}
+
+TEST_F(ReportMenusTest, ViewsToLeaveOutThatTheCodePageCanNotShowStayAsTheyAre) {
+    gSetActiveCodePage(1252);
+    const CStringU names("ads; \xE4\xB8\xAD", TextEncoding::Utf8Auto);
+    m_app.WriteProfileString("LibraryNavigator", "ExcludeViewNames", names.StripMarker());
+    m_peers.answerDialog = [](CDialog& dialog) { dynamic_cast<CButton&>(*dialog.GetDlgItem(IDOK)).Click(); };
+    Pick(ExcludeViews);
+    EXPECT_STREQ(Cells().GetExcludeViews().Payload(), names.Payload()) << "and no question mark";
+    gSetActiveCodePage(0);
 }
 
 TEST_F(ReportMenusTest, CancellingTheViewsToLeaveOutChangesNothing) {

@@ -1,4 +1,5 @@
 #include "tests/celllist/CellListFixture.h"
+#include "tests/toolkit/RecordingPeers.h"
 #include "vapp/text/ActiveCodePage.h"
 
 namespace {
@@ -118,6 +119,37 @@ TEST_F(ReportSetupTest, PutsAColumnWithoutStoredOrderBehindTheOthers) {
     EXPECT_EQ(Column("Late").GetWidth(), 50);
 }
 
+TEST_F(ReportSetupTest, AColumnThatCameLaterHasItsDefaultsInEachSetup) {
+    Report().SerializeSetup(false);
+    for (const TReport::TColSetup setup : {TReport::Setup2, TReport::Setup3, TReport::Setup1}) {
+        Report().SwitchSetup(setup);
+        Report().GetColumns().ChangeColumnOrder(0, &Column("Library"));
+    }
+    Report().SerializeSetup(true);
+    TCellListView next;
+    ASSERT_TRUE(next.Create(&m_frame, 0));
+    next.OnInitialUpdate();
+    next.GetReport().AddColumn("Late", "late", true, true);
+    next.GetReport().AddColumn("Later", "later", true, false);
+    next.GetReport().SerializeSetup(false);
+    const struct {
+        TReport::TColSetup setup;
+        bool isLateShown, isLaterShown;
+    } rows[] = {
+        {TReport::Setup1, false, false}, {TReport::Setup2, true, true}, {TReport::Setup3, false, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.setup);
+        next.GetReport().SwitchSetup(row.setup);
+        TLines captions;
+        for (int position = 0; position < next.GetReport().GetColumns().GetCount(); ++position)
+            captions.emplace_back(next.GetReport().GetColumns().GetAt(position)->GetCaption());
+        EXPECT_EQ(captions, (TLines{"Library", "Cell", "View", "Late", "Later"}));
+        EXPECT_EQ(next.GetReport().GetColumns().GetAt(3)->IsVisible(), row.isLateShown);
+        EXPECT_EQ(next.GetReport().GetColumns().GetAt(4)->IsVisible(), row.isLaterShown);
+        EXPECT_EQ(next.GetReport().GetColumns().GetAt(3)->GetWidth(), 50);
+    }
+}
+
 TEST_F(ReportSetupTest, ReplacesTheFirstOfTwoColumnsWithTheSameOrder) {
     for (const char* caption : {"Cell", "View", "Library"}) {
         m_app.WriteProfileInt((CString("LibraryNavigator\\Setup1\\Columns\\") + caption), "Order", 3);
@@ -167,12 +199,18 @@ TEST_F(ReportSetupTest, SwitchingStoresTheOldOneAndLoadsTheNewOne) {
 
 TEST_F(ReportSetupTest, SwitchingToTheActiveOneDoesNothing) {
     Report().SerializeSetup(false);
+    // What a reading would bring in.
+    m_app.WriteProfileString("LibraryNavigator", "ShowHiddenCells", "true");
+    m_app.WriteProfileInt("LibraryNavigator\\Setup1\\Columns\\View", "Width", 99);
+    const unsigned writes = Writes();
     m_host.ClearLines();
     Report().SwitchSetup(TReport::Setup1);
     Report().OnSwitchSetupTab(0);
     Report().OnSwitchSetupTab(3);
     Report().OnSwitchSetupTab(-1);
-    EXPECT_EQ(Writes(), 0u);
+    EXPECT_EQ(Writes(), writes);
+    EXPECT_FALSE(Report().GetOptions().showHiddenCells);
+    EXPECT_EQ(Column("View").GetWidth(), 60);
     EXPECT_EQ(m_host.Lines(), TLines());
 }
 
@@ -192,14 +230,62 @@ TEST_F(ReportSetupTest, FollowsATabThatTheUserPicks) {
 }
 
 TEST_F(ReportSetupTest, LosesTheLayoutOfARenamedColumn) {
-    Report().AddColumn("Old", "a", true, false);
-    Report().SerializeSetup(false);
-    Column("Old").SetWidth(123);
-    Report().SerializeSetup(true);
-    Report().AddColumn("New", "a", true, false);
-    Report().SerializeSetup(false);
-    EXPECT_EQ(Column("New").GetWidth(), 50);
-    EXPECT_EQ(Column("Old").GetWidth(), 123);
+    // The same column, third behind the built-in ones, in three runs of the program.
+    const auto widthUnder = [this](const char* caption) {
+        TCellListView pane;
+        EXPECT_TRUE(pane.Create(&m_frame, 0));
+        pane.OnInitialUpdate();
+        pane.GetReport().AddColumn(caption, "a", true, false);
+        pane.GetReport().SerializeSetup(false);
+        const int width = pane.GetReport().GetColumns().Find(3)->GetWidth();
+        pane.GetReport().GetColumns().Find(3)->SetWidth(123);
+        return width;
+    };
+    EXPECT_EQ(widthUnder("Old"), 50);
+    EXPECT_EQ(widthUnder("Old"), 123);
+    EXPECT_EQ(widthUnder("New"), 50);
+}
+
+// Who shows the columns lays them out anew each time that he is told.
+TEST_F(ReportSetupTest, LoadingTellsThePeerOnceHoweverManyColumnsThereAre) {
+    m_app.WriteProfileString("LibraryNavigator\\Setup1\\Columns\\View", "Visible", "false");
+    m_app.WriteProfileInt("LibraryNavigator\\Setup1\\Columns\\View", "Width", 99);
+    m_app.WriteProfileInt("LibraryNavigator\\Setup1\\Columns\\View", "Order", 0);
+    m_app.WriteProfileInt("LibraryNavigator\\Setup1\\Columns\\Cell", "Width", 77);
+    RecordingPeers peers;
+    TCellListView pane;
+    ASSERT_TRUE(pane.Create(&m_frame, 0));
+    pane.OnInitialUpdate();
+    peers.ForgetAll();
+    pane.GetReport().SerializeSetup(false);
+    EXPECT_EQ(pane.GetReport().GetColumns().GetAt(0)->GetCaption(), "View");
+    EXPECT_EQ(peers.Of(pane.GetReport()).changes.size(), 1u);
+}
+
+TEST_F(ReportSetupTest, ATabChangeIsHandledAndWhatIsNotTheListsGoesToTheBase) {
+    // Sees what the pane answers to its controls.
+    class OpenPane : public TCellListView {
+    public:
+        using TCellListView::OnNotify;
+    };
+    OpenPane pane;
+    ASSERT_TRUE(pane.Create(&m_frame, 0));
+    pane.OnInitialUpdate();
+    Notification notification;
+    notification.from = pane.GetDlgItem(TCellListView::cnTabs);
+    notification.id = TCellListView::cnTabs;
+    notification.code = cnTabSelectionChanged;
+    LRESULT result = 0;
+    EXPECT_TRUE(pane.OnNotify(notification, result));
+    for (const UINT code :
+         std::initializer_list<UINT>{cnEditChanged, cnButtonClicked, cnReportSelectionChanged, 0x7777}) {
+        notification.code = code;
+        EXPECT_FALSE(pane.OnNotify(notification, result)) << "the strip tells no such thing: " << code;
+    }
+    CStatic stranger;
+    notification.from = &stranger;
+    notification.code = cnTabSelectionChanged;
+    EXPECT_FALSE(pane.OnNotify(notification, result));
 }
 
 TEST_F(ReportSetupTest, IsStoredWhenTheReportEnds) {
@@ -481,6 +567,8 @@ TEST_F(ReportSetupTest, ASwitchOfTwelveColumnsAsksForTheListOnce) {
     EXPECT_EQ(Report().GetColumns().GetCount(), 12);
     EXPECT_EQ(m_host.LinesStarting(csCount).size(), 1u);
     EXPECT_EQ(m_host.LinesStarting(csList).size(), 1u);
+    EXPECT_EQ(m_host.LinesStarting("database").size(), 2u) << "and for nothing else";
+    EXPECT_EQ(m_host.LinesStarting("state"), TLines()) << "what nobody looks at is not asked for";
 }
 
 TEST_F(ReportSetupTest, WritesTheFormerSetupBeforeItReadsTheOther) {

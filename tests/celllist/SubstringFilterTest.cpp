@@ -3,6 +3,7 @@
 #include <tcl.h>
 
 #include "tests/celllist/CellListFixture.h"
+#include "vapp/text/ActiveCodePage.h"
 
 namespace {
 
@@ -46,6 +47,34 @@ TEST_F(SubstringFilterTest, LooksAtTheViewOrAtAllColumnsIfToldSo) {
 TEST_F(SubstringFilterTest, TellsCasesApartIfToldSo) {
     SetOptions([](auto& options) { options.filterCaseSensitive = true; });
     EXPECT_EQ(Filter("INV"), TLines{"lib_y INVx2 lay"});
+}
+
+// Texts outside of ASCII go to the column's own test: without regard to case they are found at the end of a
+// name alone, and with it anywhere.
+TEST_F(SubstringFilterTest, TakesLettersOutsideOfAsciiFromTheEditInBothModes) {
+    AnswerCells({{"l",
+                  "pr\xC3\xBC"
+                  "fer",
+                  "v"},
+                 {"l",
+                  "gr\xC3\x9C"
+                  "N",
+                  "v"},
+                 {"l", "x\xC3\xBC", "v"},
+                 {"l", "y\xC3\x9C", "v"}});
+    const TLines none;
+    gSetActiveCodePage(cnUtf8CodePage);
+    EXPECT_EQ(Filter("\xC3\xBC"), (TLines{"l x\xC3\xBC v", "l y\xC3\x9C v"})) << "in either case, at the end";
+    EXPECT_EQ(Filter("GR\xC3\xBCn"), TLines{"l gr\xC3\x9CN v"});
+    EXPECT_EQ(Filter("\xC3\xBC"
+                     "fe"),
+              none);
+    SetOptions([](auto& options) { options.filterCaseSensitive = true; });
+    EXPECT_EQ(Filter("\xC3\xBC"), (TLines{"l pr\xC3\xBC"
+                                          "fer v",
+                                          "l x\xC3\xBC v"}));
+    EXPECT_EQ(Filter("\xC3\x9CN"), TLines{"l gr\xC3\x9CN v"});
+    gSetActiveCodePage(0);
 }
 
 TEST_F(SubstringFilterTest, FindsNothingInAHiddenColumn) {

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "tests/qt/QtTestFrame.h"
 #include "vapp/toolkit/CComboBox.h"
@@ -67,6 +68,41 @@ TEST_F(QtComboPeerTest, PickingInTheListTellsThePickThenTheClosing) {
     QApplication::processEvents();
     EXPECT_EQ(combo.GetCurSel(), 2);
     EXPECT_EQ(shown.form.heard, (std::vector<UINT>{cnComboSelectionChanged, cnComboClosedUp}));
+}
+
+TEST_F(QtComboPeerTest, EnterConfirmsWhatKeysHavePickedAndThatOnce) {
+    QTest::keyClick(box, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(shown.form.Count(cnComboClosedUp), 0) << "nothing was picked";
+    QTest::keyClick(box, Qt::Key_Down);
+    QTest::keyClick(box, Qt::Key_Down);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTest::keyClick(box, Qt::Key_Enter);
+    QApplication::processEvents();
+    EXPECT_EQ(combo.GetCurSel(), 2);
+    EXPECT_EQ(shown.form.heard,
+              (std::vector<UINT>{cnComboSelectionChanged, cnComboSelectionChanged, cnComboClosedUp}));
+}
+
+TEST_F(QtComboPeerTest, EnterAfterAPickInTheListTellsNothingMore) {
+    box->showPopup();
+    QApplication::processEvents();
+    box->view()->setCurrentIndex(box->model()->index(2, 0));
+    QTest::keyClick(box->view(), Qt::Key_Return);
+    QApplication::processEvents();
+    QTest::keyClick(box, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(shown.form.Count(cnComboClosedUp), 1);
+}
+
+TEST_F(QtComboPeerTest, TheWheelPicksNothing) {
+    QWheelEvent notch(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(box, &notch);
+    EXPECT_EQ(combo.GetCurSel(), 0);
+    EXPECT_EQ(box->currentIndex(), 0);
+    EXPECT_TRUE(shown.form.heard.empty());
+    EXPECT_FALSE(notch.isAccepted()) << "what is around it may scroll";
 }
 
 TEST_F(QtComboPeerTest, EscapeTellsTheClosingOnly) {

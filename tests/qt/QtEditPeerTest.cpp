@@ -2,6 +2,7 @@
 /// The line of text, from both sides.
 #include "toolkit/qt/QtEditPeer.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
 
@@ -34,6 +35,20 @@ TEST(QtEditPeer, TypedTextReachesControlAndParentKeyByKey) {
     EXPECT_EQ(shown.form.Count(cnEditChanged), 4);
     QTest::keyClick(gWidgetOf(edit), Qt::Key_Backspace);
     EXPECT_EQ(edit.GetWindowText(), "nan");
+}
+
+TEST(QtEditPeer, TextThatAScreenReaderPutsInIsToldAsTypedTextIs) {
+    ShownFrame shown;
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(&shown.form, 7, {10, 20, 110, 44}));
+    QAccessibleInterface* field = QAccessible::queryAccessibleInterface(gWidgetOf(edit));
+    ASSERT_NE(field, nullptr);
+    field->setText(QAccessible::Value, QStringLiteral("nand"));
+    EXPECT_EQ(edit.GetWindowText(), "nand");
+    EXPECT_EQ(shown.form.Count(cnEditChanged), 1);
+    edit.SetWindowText("nor");
+    EXPECT_EQ(field->text(QAccessible::Value), "nor");
+    EXPECT_EQ(shown.form.Count(cnEditChanged), 1) << "what the program shows is told to nobody";
 }
 
 TEST(QtEditPeer, FieldShowsWhatTheCodePageCouldTake) {

@@ -46,6 +46,25 @@ TEST_F(QtMenuTest, ShowsItsItems) {
     EXPECT_EQ(Track(), 0u) << "a menu that was left";
 }
 
+TEST_F(QtMenuTest, ShowsATabAsABlankAndCutsWhatIsVeryLong) {
+    CMenu odd;
+    odd.Append(1, "left\tright");
+    odd.Append(2, CStringU(std::string(30'000, 'x').c_str()));
+    odd.Append(3, gMenuTextOf(CStringU(std::string(300, '&').c_str())));
+    odd.AppendPopup("a\tb").Append(4, "below");
+    const PopupAnswer answer([](QMenu& popup) {
+        const QList<QAction*> actions = popup.actions();
+        ASSERT_EQ(actions.size(), 4);
+        EXPECT_EQ(actions[0]->text(), "left right");
+        EXPECT_LE(actions[1]->text().size(), 161);
+        EXPECT_TRUE(actions[1]->text().endsWith(QChar(0x2026)));
+        EXPECT_EQ(actions[2]->text().count(QLatin1Char('&')) % 2, 0) << "no sign becomes a key";
+        EXPECT_EQ(actions[3]->text(), "a b");
+        actions[1]->trigger();
+    });
+    EXPECT_EQ(odd.Track(shown.form, shown.form.ClientToScreen({50, 60})), 2u);
+}
+
 TEST_F(QtMenuTest, GivesTheCommandThatWasPickedByKeys) {
     const PopupAnswer answer([](QMenu& popup) {
         QTest::keyClick(&popup, Qt::Key_Down);

@@ -5,6 +5,7 @@
 #include <QContextMenuEvent>
 #include <QTabBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "tests/qt/QtTestFrame.h"
 #include "vapp/toolkit/CTabCtrl.h"
@@ -67,6 +68,27 @@ TEST_F(QtTabPeerTest, TheTabUnderTheMenuClickIsTold) {
     QCoreApplication::sendEvent(bar, &key);
     EXPECT_EQ(shown.form.Count(cnTabContextClicked), 2)
         << "the key means the current one, wherever it asks from";
+}
+
+TEST_F(QtTabPeerTest, TheWheelPicksNoTab) {
+    QWheelEvent notch(QPointF(5, 5), bar->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(bar, &notch);
+    EXPECT_EQ(tabs.GetCurSel(), 0);
+    EXPECT_EQ(bar->currentIndex(), 0);
+    EXPECT_TRUE(shown.form.heard.empty());
+}
+
+TEST_F(QtTabPeerTest, WithNoCurrentTabEachOneCanBePicked) {
+    for (int tab = 0; tab < 3; ++tab) {
+        SCOPED_TRACE(tab);
+        tabs.SetCurSel(7);
+        ASSERT_EQ(tabs.GetCurSel(), -1);
+        shown.form.heard.clear();
+        ClickTab(*bar, tab);
+        EXPECT_EQ(tabs.GetCurSel(), tab);
+        EXPECT_EQ(shown.form.Count(cnTabSelectionChanged), 1);
+    }
 }
 
 TEST_F(QtTabPeerTest, TabInsertedInFrontLeavesTheCurrentOneCurrent) {

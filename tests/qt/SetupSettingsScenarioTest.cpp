@@ -103,26 +103,42 @@ TEST_F(SetupSettingsScenarioTest, WhatOthersKeepInTheFileStays) {
     EXPECT_EQ(m_app.GetProfileInt("LibraryNavigator\\Setup9\\Columns\\Cell", "Width", 0), 12);
 }
 
-// Every line of the file in turn is cut, doubled or replaced: the list starts all the same.
+// Each line of the file in turn, twice, is replaced, doubled or cut in half: the kinds of damage take turns
+// from line to line. The list starts all the same.
 TEST_F(SetupSettingsScenarioTest, ADamagedFileNeverStopsTheList) {
     Report().SwitchSetup(TReport::Setup2);
     m_browser.SerializeSetup(true);
     NextRun();
     const QList<QByteArray> lines = Bytes().split('\n');
     ASSERT_GT(lines.size(), 20);
-    const QByteArray damages[] = {
-        "", "[", "=", "Order=999999999999", "Width=-5", "\xFF\xFE\x00=x", "[LibraryNavigator"};
-    for (qsizetype line = 0; line < lines.size(); line += 3) {
-        const QByteArray& damage = damages[static_cast<std::size_t>(line) % std::size(damages)];
-        SCOPED_TRACE(std::to_string(line) + " " + damage.toStdString());
-        QList<QByteArray> damaged = lines;
-        damaged[line] = damage;
-        Write(damaged.join('\n'));
-        m_browser.SerializeSetup(false);
-        EXPECT_EQ(Report().GetColumns().GetCount(), 12);
-        Repopulate();
-        EXPECT_EQ(Rows().size(), 1u);
+    using TDamage = QByteArray (*)(const QByteArray& line);
+    constexpr TDamage cnDamages[] = {
+        [](const QByteArray&) { return QByteArray(); },
+        [](const QByteArray&) { return QByteArray("["); },
+        [](const QByteArray&) { return QByteArray("="); },
+        [](const QByteArray&) { return QByteArray("Order=999999999999"); },
+        [](const QByteArray&) { return QByteArray("Width=-5"); },
+        [](const QByteArray&) { return QByteArray("\xFF\xFE\x00=x", 5); },
+        [](const QByteArray&) { return QByteArray("[LibraryNavigator"); },
+        [](const QByteArray& line) { return QByteArray(line + '\n' + line); },
+        [](const QByteArray& line) { return line.left(line.size() / 2); },
+    };
+    const auto kinds = static_cast<qsizetype>(std::size(cnDamages));
+    int tries = 0;
+    for (const qsizetype first : {0, 4}) {
+        for (qsizetype line = 0; line < lines.size(); ++line, ++tries) {
+            const qsizetype kind = (line + first) % kinds;
+            SCOPED_TRACE(std::to_string(line) + " damage " + std::to_string(kind));
+            QList<QByteArray> damaged = lines;
+            damaged[line] = cnDamages[kind](lines[line]);
+            Write(damaged.join('\n'));
+            m_browser.SerializeSetup(false);
+            ASSERT_EQ(Report().GetColumns().GetCount(), 12);
+            Repopulate();
+            ASSERT_EQ(Rows().size(), 1u);
+        }
     }
+    EXPECT_EQ(tries, 2 * lines.size());
 }
 
 }  // namespace

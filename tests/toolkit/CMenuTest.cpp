@@ -68,6 +68,16 @@ TEST(CMenuTest, ChecksAndEnablesByIdentifier) {
     EXPECT_FALSE(menu->IsEnabled(9));
 }
 
+TEST(CMenuTest, AppendsCheckedItemsWhateverStandsBeforeThem) {
+    CMenu menu;
+    menu.Append(7, "same number");
+    menu.AppendChecked(7, "on", true);
+    menu.AppendChecked(8, "off", false);
+    EXPECT_FALSE(menu.GetItem(0)->isChecked);
+    EXPECT_TRUE(menu.GetItem(1)->isChecked);
+    EXPECT_FALSE(menu.GetItem(2)->isChecked);
+}
+
 TEST(CMenuTest, HasOneDefaultInEachMenu) {
     CMenu menu;
     menu.Append(1, "a");

@@ -4,7 +4,10 @@
 #include "toolkit/qt/QtComboPeer.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QWheelEvent>
+#include <utility>
 
 #include "toolkit/qt/QtText.h"
 #include "vapp/toolkit/CComboBox.h"
@@ -32,17 +35,37 @@ void QtComboModel::Detach() {
     Reset();
 }
 
+QtComboWidget::QtComboWidget(QWidget* parent) : QComboBox(parent) {
+    QObject::connect(this, &QComboBox::activated, this, [this] { m_isPickOpen = true; });
+    // Later: a pick in the list is told behind the closing.
+    QObject::connect(
+        this, &QtComboWidget::Closed, this, [this] { m_isPickOpen = false; }, Qt::QueuedConnection);
+}
+
 void QtComboWidget::hidePopup() {
     const bool wasOpen = view()->isVisible();
     QComboBox::hidePopup();
     if (wasOpen) emit Closed();
 }
 
+void QtComboWidget::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && std::exchange(m_isPickOpen, false)) {
+        emit Closed();
+    } else {
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+void QtComboWidget::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
 QtComboPeer::QtComboPeer(CComboBox& combo)
     : QtPeer(combo, new QtComboWidget(gClientWidgetAbove(combo))), m_combo(combo), m_model(combo) {
     auto* box = static_cast<QtComboWidget*>(Widget());
     box->setModel(&m_model);
-    // By keys and by wheel too; what is current already was not picked.
+    // By keys too; what is current already was not picked.
     QObject::connect(box, &QComboBox::activated, this, [this](int index) {
         const QtBusyScope busy;
         if (index != m_combo.GetCurSel()) m_combo.PickedByUser(index);

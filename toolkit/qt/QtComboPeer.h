@@ -28,15 +28,23 @@ private:
     int m_count = 0;
 };
 
-/// A combo box that tells when its list closes.
+/// A combo box that tells when its list closes; and when the user confirms, by the Enter key, what the keys
+/// have picked without the list. The wheel picks nothing: who turns it over a form wants to scroll.
 class QtComboWidget : public QComboBox {
     Q_OBJECT
 public:
-    using QComboBox::QComboBox;
+    explicit QtComboWidget(QWidget* parent);
     void hidePopup() override;
 
 signals:
     void Closed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    bool m_isPickOpen = false;  ///< by keys, and not confirmed yet
 };
 
 class QtComboPeer : public QtPeer {

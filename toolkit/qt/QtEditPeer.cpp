@@ -13,7 +13,8 @@
 namespace vapp_qt {
 
 QtEditPeer::QtEditPeer(CEdit& edit) : QtPeer(edit, new QLineEdit(gClientWidgetAbove(edit))), m_edit(edit) {
-    QObject::connect(static_cast<QLineEdit*>(Widget()), &QLineEdit::textEdited, this,
+    // Not only what is typed: a screen reader or an input method sets the text as a whole.
+    QObject::connect(static_cast<QLineEdit*>(Widget()), &QLineEdit::textChanged, this,
                      [this](const QString& text) {
                          const QtBusyScope busy;
                          const QPointer<QtEditPeer> alive(this);

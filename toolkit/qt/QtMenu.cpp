@@ -13,6 +13,21 @@ namespace vapp_qt {
 
 namespace {
 
+// A menu as wide as the longest name that somebody has pasted would cover the screen.
+constexpr qsizetype cnLongestText = 160;
+
+// A tab would divide the text from the name of a key; it is shown as a blank.
+QString ShownText(const CStringU& itemText) {
+    QString text = gToQString(itemText);
+    text.replace(QLatin1Char('\t'), QLatin1Char(' '));
+    if (text.size() <= cnLongestText) return text;
+    // Never between the two halves of a character, nor between an ampersand and what it belongs to.
+    qsizetype end = cnLongestText;
+    while (end > 0 && (text[end].isLowSurrogate() || text[end - 1] == QLatin1Char('&')))
+        --end;
+    return text.left(end) + QChar(0x2026);
+}
+
 // `picked` must live as long as the menu is open.
 void AddItems(QMenu& shown, const CMenu& menu, UINT& picked) {
     for (int position = 0; position < menu.GetItemCount(); ++position) {
@@ -20,9 +35,9 @@ void AddItems(QMenu& shown, const CMenu& menu, UINT& picked) {
         if (item.kind == CMenu::TItem::TKind::Separator) {
             shown.addSeparator();
         } else if (item.subMenu) {
-            AddItems(*shown.addMenu(gToQString(item.text)), *item.subMenu, picked);
+            AddItems(*shown.addMenu(ShownText(item.text)), *item.subMenu, picked);
         } else {
-            QAction* action = shown.addAction(gToQString(item.text));
+            QAction* action = shown.addAction(ShownText(item.text));
             action->setObjectName(QStringLiteral("command%1").arg(item.id));
             action->setEnabled(item.isEnabled);
             action->setCheckable(item.isChecked);

@@ -9,17 +9,19 @@
 /// the file's time always grows, leaves no such moment.
 #include "vapp/toolkit/qt/QtProfileStore.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QMetaObject>
-#include <QObject>
 #include <QOperatingSystemVersion>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QVariant>
+#include <algorithm>
 #include <map>
 #include <utility>
 #include <vector>
@@ -31,6 +33,11 @@ namespace {
 /// A lock that is held for longer belongs to a program that hangs. QSettings' own lock still keeps the file
 /// whole then.
 constexpr int cnLockMilliseconds = 5000;
+
+/// Each letter that is typed into a filter is a change, and each flush a file that is locked, read and
+/// replaced, maybe over a network: so a flush waits for a pause, but not for ever.
+constexpr qint64 cnPauseMilliseconds = 300;
+constexpr qint64 cnLongestWaitMilliseconds = 2000;
 
 CString Utf8Of(const QString& text) {
     const QByteArray bytes = text.toUtf8();
@@ -105,6 +112,8 @@ public:
             m_settings = std::make_unique<QSettings>(m_place, m_format);
             NoteDamage();
         }
+        m_flusher.setSingleShot(true);
+        QObject::connect(&m_flusher, &QTimer::timeout, &m_flusher, [this] { Flush(); });
         TellWarnings();
     }
     ~Settings() { Flush(); }
@@ -118,9 +127,11 @@ public:
     }
     void Write(const QString& name, const QVariant& value) {
         m_waiting.insert_or_assign(name, value);
-        if (!m_settings || std::exchange(m_isFlushAsked, true)) return;
-        QMetaObject::invokeMethod(
-            &m_flusher, [this] { Flush(); }, Qt::QueuedConnection);
+        // Without an event loop somebody has to ask.
+        if (!m_settings || QCoreApplication::instance() == nullptr) return;
+        if (!m_flusher.isActive()) m_firstChange.start();
+        const qint64 left = std::max<qint64>(cnLongestWaitMilliseconds - m_firstChange.elapsed(), 0);
+        m_flusher.start(static_cast<int>(std::min(cnPauseMilliseconds, left)));
     }
     void Flush();
     [[nodiscard]] const QString& Place() const { return m_place; }
@@ -144,11 +155,11 @@ private:
     Warning m_warn;
     std::unique_ptr<QSettings> m_settings;  ///< null if the file can't be read, and must not be replaced
     std::map<QString, QVariant> m_waiting;
-    bool m_isFlushAsked = false;
+    QElapsedTimer m_firstChange;  ///< since when there is something to write
     bool m_isDamageTold = false;
     bool m_isFailureTold = false;
     std::vector<CString> m_sentences;  ///< that nobody has been told yet
-    QObject m_flusher;                 ///< last, so that no flush comes when the rest has gone
+    QTimer m_flusher;                  ///< last, so that no flush comes when the rest has gone
 };
 
 void QtProfileStore::Settings::NoteDamage() {
@@ -170,7 +181,7 @@ void QtProfileStore::Settings::NoteDamage() {
 }
 
 void QtProfileStore::Settings::Flush() {
-    m_isFlushAsked = false;
+    m_flusher.stop();
     if (!m_settings || m_waiting.empty()) return;
     if (IsFile()) {
         FlushFile();

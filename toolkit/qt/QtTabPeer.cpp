@@ -2,9 +2,11 @@
 /// The tab strip.
 #include "toolkit/qt/QtTabPeer.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <QWheelEvent>
 
 #include "toolkit/qt/QtText.h"
 #include "vapp/toolkit/CTabCtrl.h"
@@ -25,6 +27,8 @@ public:
     }
 
 protected:
+    // A tab costs the host two lines, and a wheel turns by many.
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     [[nodiscard]] QSize tabSizeHint(int index) const override {
         return QTabBar::tabSizeHint(index).expandedTo({MinWidth(), 0});
     }
@@ -45,12 +49,19 @@ QtTabPeer::QtTabPeer(CTabCtrl& tabs) : QtPeer(tabs, new TabWidget(gClientWidgetA
     bar->setShape(QTabBar::RoundedSouth);
     bar->setExpanding(false);
     bar->setDrawBase(false);
-    QObject::connect(bar, &QTabBar::currentChanged, this, [this](int index) {
-        const QtBusyScope busy;
-        const QPointer<QtTabPeer> alive(this);
-        m_tabs.PickedByUser(index);
-        if (alive) ApplyTabs();
+    QObject::connect(bar, &QTabBar::currentChanged, this, &QtTabPeer::Picked);
+    // The widget always has a current tab, and says nothing of a click on it. The control may have none.
+    QObject::connect(bar, &QTabBar::tabBarClicked, this, [this, bar](int index) {
+        const bool isPick = QApplication::mouseButtons() == Qt::LeftButton && m_tabs.GetCurSel() < 0;
+        if (isPick && index == bar->currentIndex()) Picked(index);
     });
+}
+
+void QtTabPeer::Picked(int index) {
+    const QtBusyScope busy;
+    const QPointer<QtTabPeer> alive(this);
+    m_tabs.PickedByUser(index);
+    if (alive) ApplyTabs();
 }
 
 void QtTabPeer::Changed(UINT changes) {

@@ -16,6 +16,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Picked(int index);
     void ApplyTabs();
 
     CTabCtrl& m_tabs;

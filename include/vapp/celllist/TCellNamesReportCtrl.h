@@ -325,7 +325,8 @@ public:
     // --- The host's part of the menu of rows -----------------------------------------------------------
     //
     // For the time in which the host answers WM_LN_BUILDCELLMENU; see THostMenu. Its items come in front of
-    // the fixed ones.
+    // the fixed ones. A number of the host's that is one of the list's own (TCellListCommand) is taken for
+    // that: its item is marked and greyed in place of the list's, and the pick is the list's.
 
     [[nodiscard]] bool IsBuildingMenu() const { return m_hostMenu.IsOpen(); }
     [[nodiscard]] UINT GetNextCellListPopupCmdId() const { return m_hostMenu.GetNextId(); }
@@ -366,7 +367,7 @@ private:
     void ShowRowsAsBefore(const SavedView& saved);
     void ShowHighlight(const TLibCellView& cell);
     void SelectRows(const CellSet& cells);
-    [[nodiscard]] int GetActiveSetupIndex() const;
+    [[nodiscard]] std::optional<TColSetup> FindActiveSetup() const;
     void SerializeOptions(bool write);
     void SerializeColumns(bool write);
     void AddBuiltInColumns();

@@ -50,6 +50,8 @@ public:
     [[nodiscard]] CMenu* GetSubMenu(int position) const;
 
     void Append(UINT id, const CStringU& text) { Insert(GetItemCount(), id, text); }
+    /// Appends a command that is checked or not. Check would look for it among all that are there before.
+    void AppendChecked(UINT id, const CStringU& text, bool checked);
     void AppendSeparator() { InsertSeparator(GetItemCount()); }
     /// Adds an empty sub-menu and gives it back.
     CMenu& AppendPopup(const CStringU& text);

@@ -10,10 +10,11 @@
 /// counts as empty and is left alone. Of a damaged one counts what can be read, and the file as it was found
 /// is kept under its name and ".damaged". What can't be saved is remembered as long as the program runs.
 ///
-/// The surprises: values are written a moment later, when the event loop comes around, at `Flush`, and at the
-/// end of the store. In a file that is edited by hand a whole number without any other character is an
-/// integer, and all else is a text; a text that looks like an integer is therefore written in another form.
-/// Comments in the file don't outlive a writing.
+/// The surprises: values are written a moment later, when the event loop runs and no further ones have come
+/// for a third of a second (after two seconds in any case), at `Flush`, and at the end of the store. In a
+/// file that is edited by hand a whole number without any other character is an integer, and all else is a
+/// text; a text that looks like an integer is therefore written in another form. Comments in the file don't
+/// outlive a writing.
 #pragma once
 
 #include <cstdint>
