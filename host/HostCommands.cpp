@@ -15,7 +15,8 @@ constexpr std::array<CommandHelp, 2> csHelp{{
      "-bmheight HEIGHT",
      "Draws a view into the preview pane, in a picture of that many pixels."},
     {"logaction", "logaction LINE",
-     "Keeps a line in the log of user actions and evaluates it at global level."},
+     "Keeps a line in the log of user actions and evaluates it at global level; the log has its failure "
+     "too."},
 }};
 
 enum PreviewOption { PrimaryOption, LibraryOption, CellOption, ViewOption, WidthOption, HeightOption };
@@ -88,9 +89,11 @@ int HostCommands::LogAction(Tcl_Interp* interp, TclWords words) {
         Tcl_WrongNumArgs(interp, 1, words.data(), "LINE");
         return TCL_ERROR;
     }
-    m_log.emplace_back(gTextOf(words[1]));
-    if (m_log.size() > cnLinesKept) m_log.pop_front();
-    return Tcl_EvalObjEx(interp, words[1], TCL_EVAL_GLOBAL);
+    m_log.Add(ActionLog::TKind::Action, gTextOf(words[1]));
+    const int code = Tcl_EvalObjEx(interp, words[1], TCL_EVAL_GLOBAL);
+    // The navigator asks for no answer, so that a failure would be lost.
+    if (code == TCL_ERROR) m_log.Add(ActionLog::TKind::Failure, gTextOf(Tcl_GetObjResult(interp)));
+    return code;
 }
 
 int HostCommands::LibraryNavigator(Tcl_Interp* interp, TclWords words) const {

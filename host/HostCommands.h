@@ -3,11 +3,11 @@
 /// and `librarynavigator`, by which the preview pane asks for a picture. The picture itself is drawn by
 /// whoever sets the preview handler.
 
-#include <deque>
 #include <functional>
 #include <span>
 #include <string>
 
+#include "host/ActionLog.h"
 #include "host/DesignStore.h"
 #include "host/TclCommand.h"
 
@@ -32,10 +32,8 @@ public:
         m_preview = std::move(handler);
     }
 
-    /// The last logged lines, the oldest first; at most cnLinesKept.
-    [[nodiscard]] const std::deque<std::string>& Log() const { return m_log; }
-
-    static constexpr std::size_t cnLinesKept = 1000;
+    /// The last logged lines, and what of them failed.
+    [[nodiscard]] ActionLog& Log() { return m_log; }
 
     /// Both commands.
     static std::span<const CommandHelp> Help();
@@ -45,7 +43,7 @@ private:
     int LibraryNavigator(Tcl_Interp* interp, TclWords words) const;
 
     std::function<void(const PreviewRequest&)> m_preview;
-    std::deque<std::string> m_log;
+    ActionLog m_log;
     TclCommand m_logAction;
     TclCommand m_libraryNavigator;
 };

@@ -3,11 +3,10 @@
 
 #include "host/LastView.h"
 
-#include <tcl.h>
-
 #include <string>
 #include <vector>
 
+#include "host/TclList.h"
 #include "vapp/browser/TLibraryBrowser.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/celllist/TCellListView.h"
@@ -23,27 +22,6 @@ constexpr char csLibraries[] = "Libraries";
 constexpr char csOrder[] = "Order";
 constexpr char csIncreasing[] = "increasing";
 constexpr char csDecreasing[] = "decreasing";
-
-std::string ListOf(const std::vector<std::string>& words) {
-    std::vector<const char*> pointers;
-    pointers.reserve(words.size());
-    for (const std::string& word : words)
-        pointers.push_back(word.c_str());
-    char* const merged = Tcl_Merge(static_cast<int>(pointers.size()), pointers.data());
-    std::string list(merged);
-    Tcl_Free(merged);
-    return list;
-}
-
-/// The words of a list; none if it isn't one.
-std::vector<std::string> WordsOf(const CString& list) {
-    int count = 0;
-    const char** words = nullptr;
-    if (Tcl_SplitList(nullptr, list.GetString(), &count, &words) != TCL_OK) return {};
-    std::vector<std::string> texts(words, words + count);
-    Tcl_Free(reinterpret_cast<char*>(words));
-    return texts;
-}
 
 CXTPReportColumn* FindColumn(const CXTPReportColumns& columns, const std::string& caption) {
     for (int position = 0; position < columns.GetCount(); ++position) {
@@ -69,8 +47,8 @@ void gKeepView(CWinAppEx& app, const vapp_library_browser::TLibraryBrowser& brow
         }
     }
     app.WriteProfileString(csSection, csDesign, browser.GetSelectedDesign().Payload());
-    app.WriteProfileString(csSection, csLibraries, ListOf(libraries).c_str());
-    app.WriteProfileString(csSection, csOrder, ListOf(order).c_str());
+    app.WriteProfileString(csSection, csLibraries, gListOfWords(libraries).c_str());
+    app.WriteProfileString(csSection, csOrder, gListOfWords(order).c_str());
 }
 
 bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser& browser) {
@@ -83,7 +61,8 @@ bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser&
     if (browser.GetSelectedDesign() != design) return false;
     auto& list = pane->GetLibraryListCtrl();
     RowSelection rows;
-    for (const std::string& library : WordsOf(app.GetProfileString(csSection, csLibraries))) {
+    for (const std::string& library :
+         gWordsOfList(app.GetProfileString(csSection, csLibraries).GetString())) {
         for (int row = 0; row < list.GetItemCount(); ++row)
             if (library == list.GetItemText(row).Payload()) rows.Add(row, row);
     }
@@ -95,7 +74,7 @@ bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser&
 
 void gRestoreOrder(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser& browser) {
     auto* const cells = browser.GetCellListView();
-    const std::vector<std::string> words = WordsOf(app.GetProfileString(csSection, csOrder));
+    const std::vector<std::string> words = gWordsOfList(app.GetProfileString(csSection, csOrder).GetString());
     if (cells == nullptr || words.empty()) return;
     CXTPReportColumns& columns = cells->GetReport().GetColumns();
     columns.SetSortColumn(nullptr, true);

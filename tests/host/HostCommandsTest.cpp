@@ -13,7 +13,6 @@ namespace navigator {
 namespace {
 
 using navigator_test::TestInterp;
-using testing::ElementsAre;
 
 class HostCommandsTest : public testing::Test {
 protected:
@@ -28,7 +27,8 @@ protected:
 TEST_F(HostCommandsTest, LogActionKeepsTheLineAndRunsItAtGlobalLevel) {
     m_interp.Answer("proc p {} { set x local; logaction {set x global} }; p");
     EXPECT_EQ(m_interp.Answer("set x"), "global");
-    EXPECT_THAT(m_commands.Log(), ElementsAre("set x global"));
+    ASSERT_EQ(m_commands.Log().Entries().size(), 1U);
+    EXPECT_EQ(m_commands.Log().Entries().front().text, "set x global");
 }
 
 TEST_F(HostCommandsTest, LogActionHandsOnWhatTheLineGives) {
@@ -42,9 +42,18 @@ TEST_F(HostCommandsTest, LogActionHandsOnWhatTheLineGives) {
 
 TEST_F(HostCommandsTest, TheLogKeepsTheLastLinesOnly) {
     m_interp.Answer("for {set i 0} {$i < 1500} {incr i} {logaction \"set a $i\"}");
-    EXPECT_EQ(m_commands.Log().size(), HostCommands::cnLinesKept);
-    EXPECT_EQ(m_commands.Log().front(), "set a 500");
-    EXPECT_EQ(m_commands.Log().back(), "set a 1499");
+    EXPECT_EQ(m_commands.Log().Entries().size(), ActionLog::cnMostKept);
+    EXPECT_EQ(m_commands.Log().Entries().front().text, "set a 500");
+    EXPECT_EQ(m_commands.Log().Entries().back().text, "set a 1499");
+}
+
+TEST_F(HostCommandsTest, TheLogHasTheSentenceOfALineThatFails) {
+    EXPECT_EQ(m_interp.Eval("logaction {error {no such cell}}"), TCL_ERROR);
+    const auto& entries = m_commands.Log().Entries();
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries.front().kind, ActionLog::TKind::Action);
+    EXPECT_EQ(entries.back().kind, ActionLog::TKind::Failure);
+    EXPECT_EQ(entries.back().text, "no such cell");
 }
 
 TEST_F(HostCommandsTest, ALineMayDeleteItsOwnCommand) {
