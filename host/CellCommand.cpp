@@ -105,9 +105,17 @@ std::span<const CommandHelp> CellCommand::Help() {
     return help;
 }
 
-void CellCommand::Restore(const Design& design) {
-    m_marks.Restore(design);
-    ShowReserved(m_marks.Marked(design, CellKey::IsReserved), true);
+void CellCommand::RestoreMarks() {
+    for (const Design& design : m_parts.store.Designs()) {
+        if (!m_restored.insert(design.name).second) continue;
+        m_marks.Restore(design);
+        ShowReserved(m_marks.Marked(design, CellKey::IsReserved), true);
+    }
+}
+
+void CellCommand::TellReserved() {
+    for (const Design& design : m_parts.store.Designs())
+        ShowReserved(m_marks.Marked(design, CellKey::IsReserved), true);
 }
 
 // A command of the menu comes without a cell where none has the focus.
@@ -262,7 +270,10 @@ int CellCommand::SelectHierarchy(Tcl_Interp* interp, TclWords words) {
                                      [&](const TLibCellView& view) { return wanted.contains(view); });
     std::string sentence = "Below " + cell + ": " + Counted(wanted.size()) + ", " + std::to_string(shown) +
                            " of them in the list";
-    if (below.missing > 0) sentence += "; " + std::to_string(below.missing) + " references lead nowhere";
+    if (below.missing > 0) {
+        sentence += "; " + std::to_string(below.missing) +
+                    (below.missing == 1 ? " reference leads nowhere" : " references lead nowhere");
+    }
     Tell(sentence + ".");
     Tcl_SetObjResult(interp, Tcl_NewWideIntObj(static_cast<Tcl_WideInt>(wanted.size())));
     return TCL_OK;

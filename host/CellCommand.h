@@ -3,7 +3,9 @@
 /// line of this command, so that the log has it and a script can do the same. Views come in the forms in
 /// which the cell list appends them to commands.
 
+#include <filesystem>
 #include <functional>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -40,8 +42,11 @@ public:
     using TOpenHandler = std::function<void(const CellViewName&, const std::filesystem::path&)>;
     void SetOpenHandler(TOpenHandler handler) { m_open = std::move(handler); }
 
-    /// Puts what is kept of the design's views into the store and the navigator.
-    void Restore(const Design& design);
+    /// Puts what is kept of the views of designs that were opened since the last call into the store and the
+    /// navigator.
+    void RestoreMarks();
+    /// Tells the navigator of all views that are reserved; to be called when its window was made.
+    void TellReserved();
 
     /// All sub-commands, by name.
     static std::span<const CommandHelp> Help();
@@ -70,6 +75,7 @@ private:
     std::function<void(DatabaseChange)> m_changed;
     TOpenHandler m_open;
     KeptMarks m_marks;
+    std::set<std::string> m_restored;  ///< Names of designs.
     TclCommand m_command;
 };
 

@@ -16,10 +16,12 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "host/CellCommand.h"
 #include "host/CommandHelp.h"
 #include "host/NavigatorCommand.h"
 #include "host/ProtocolText.h"
 #include "host/UserCommand.h"
+#include "host/UserMenuCommand.h"
 #include "vapp/Version.h"
 
 namespace navigator {
@@ -59,9 +61,10 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent) {
     setWindowTitle(tr("Tcl protocol"));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* const pages = new QTabWidget(this);
-    auto* const commands = PlainText(
-        gDescribeAllCommands() + gDescribe(NavigatorCommand::Help()) + gDescribe(UserCommand::Help()),
-        "helpCommands", pages);
+    auto* const commands = PlainText(gDescribeAllCommands() + gDescribe(CellCommand::Help()) +
+                                         gDescribe(NavigatorCommand::Help()) +
+                                         gDescribe(UserCommand::Help()) + gDescribe(UserMenuCommand::Help()),
+                                     "helpCommands", pages);
     auto* const protocol = new QTextBrowser(pages);
     protocol->setObjectName(QStringLiteral("helpProtocol"));
     // Its links lead to files beside the document, which are not in the program.

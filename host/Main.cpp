@@ -36,8 +36,9 @@ int main(int argc, char** argv) {
     if (const auto failure = gParseOptions(words, options)) return gFail(*failure, cnUsageStatus);
     if (options.isHelp) {
         std::cout << gUsageText() << "\nCommands for scripts:\n"
-                  << gDescribeAllCommands() << gDescribe(NavigatorCommand::Help())
-                  << gDescribe(UserCommand::Help());
+                  << gDescribeAllCommands() << gDescribe(CellCommand::Help())
+                  << gDescribe(NavigatorCommand::Help()) << gDescribe(UserCommand::Help())
+                  << gDescribe(UserMenuCommand::Help());
         return EXIT_SUCCESS;
     }
     if (options.isVersion) {

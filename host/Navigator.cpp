@@ -3,7 +3,6 @@
 #include "host/Navigator.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -53,18 +52,27 @@ Navigator::Navigator(CWinAppEx& app)
       m_browser(std::make_unique<vapp_library_browser::TLibraryBrowser>()),
       m_columns(m_store, *m_browser),
       m_script(m_interp.get(), *m_browser),
-      m_user(m_interp.get(), m_frame, *m_browser, [this] { Populate(); }) {
+      m_user(m_interp.get(), m_frame, *m_browser, [this] { Populate(); }),
+      m_cells(m_interp.get(), {app, m_store, *m_browser, m_commands.Log()},
+              [this](DatabaseChange change) { OnDatabaseChange(change); }),
+      m_userMenu(
+          m_interp.get(), *m_browser,
+          [this](const std::string& sentence) { m_commands.Log().Add(ActionLog::TKind::Failure, sentence); }),
+      m_menus({m_interp.get(), app, m_store, *m_browser, m_userMenu}) {
     vapp::gSetTclSanitizeInputUPointer(&QuoteTclWord);
     m_database.SetExcludedViews([this] { return std::string(m_browser->GetExcludeViews().Payload()); });
     m_database.SetChangeHandler([this](DatabaseChange change) { OnDatabaseChange(change); });
 }
 
 Navigator::~Navigator() {
+    m_frame.SetMessageHandler(nullptr);
     m_app.SetMainWnd(nullptr);
 }
 
 std::optional<std::string> Navigator::OpenFolder(const std::filesystem::path& folder) {
-    return m_store.OpenFolder(folder);
+    auto failure = m_store.OpenFolder(folder);
+    m_cells.RestoreMarks();
+    return failure;
 }
 
 std::optional<std::string> Navigator::ShowFolder(const std::filesystem::path& folder) {
@@ -95,9 +103,11 @@ void Navigator::CreateWindow(int width, int height, bool dark) {
     m_browser->AddViewsToDoc(&m_document);
     for (const FilterType& type : gFilterTypes())
         m_browser->AddCellViewListFilterType(TextOf(std::string(type.text)));
-    static constexpr std::array<const char*, 3> csTabs{"Compact", "Details", "Names"};
-    for (int tab = 0; tab < static_cast<int>(csTabs.size()); ++tab)
-        m_browser->GetCellListView()->SetCellTabsText(tab, csTabs[static_cast<std::size_t>(tab)]);
+    m_frame.SetMessageHandler([this](UINT message, WPARAM wParam, LPARAM lParam) {
+        return m_menus.Answer(message, wParam, lParam);
+    });
+    m_menus.Start();
+    m_cells.TellReserved();
 }
 
 void Navigator::FitPanes() {
@@ -153,6 +163,7 @@ void Navigator::OnDatabaseChange(DatabaseChange change) {
     using namespace vapp_library_browser;
     switch (change) {
         case DatabaseChange::Libraries:
+            m_cells.RestoreMarks();
             m_browser->RequestLibraryViewDelayedPopulate();
             m_browser->RequestCellListViewDelayedPopulate(UpdateAlways);
             break;

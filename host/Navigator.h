@@ -12,12 +12,15 @@
 #include <string>
 
 #include "host/CellColumns.h"
+#include "host/CellCommand.h"
 #include "host/DatabaseCommand.h"
 #include "host/DesignStore.h"
+#include "host/DesignerMenus.h"
 #include "host/HostCommands.h"
 #include "host/NavigatorCommand.h"
 #include "host/NavigatorFrame.h"
 #include "host/UserCommand.h"
+#include "host/UserMenuCommand.h"
 #include "vapp/browser/TLibraryBrowser.h"
 #include "vapp/toolkit/CDocument.h"
 #include "vapp/toolkit/CWinAppEx.h"
@@ -73,6 +76,8 @@ public:
     [[nodiscard]] DesignStore& Store() { return m_store; }
     [[nodiscard]] UserCommand& User() { return m_user; }
     [[nodiscard]] HostCommands& Commands() { return m_commands; }
+    [[nodiscard]] CellCommand& Cells() { return m_cells; }
+    [[nodiscard]] DesignerMenus& Menus() { return m_menus; }
     [[nodiscard]] Tcl_Interp* Interp() const { return m_interp.get(); }
 
 private:
@@ -94,6 +99,9 @@ private:
     CellColumns m_columns;
     NavigatorCommand m_script;
     UserCommand m_user;
+    CellCommand m_cells;
+    UserMenuCommand m_userMenu;
+    DesignerMenus m_menus;
     bool m_previewDue = false;
     bool m_hasKeptHeights = false;
 };

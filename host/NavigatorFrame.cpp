@@ -7,6 +7,9 @@
 namespace navigator {
 
 LRESULT NavigatorFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (m_handler) {
+        if (const std::optional<LRESULT> answer = m_handler(message, wParam, lParam)) return *answer;
+    }
     if (message == vapp_library_browser::WM_LN_ISDARKTHEME) return m_dark ? 1 : 0;
     return CFrameWnd::WindowProc(message, wParam, lParam);
 }

@@ -1,6 +1,10 @@
 #pragma once
 /// The main window of the host: a frame that answers what the navigator asks of it.
 
+#include <functional>
+#include <optional>
+#include <utility>
+
 #include "vapp/toolkit/CFrameWnd.h"
 
 namespace navigator {
@@ -12,11 +16,15 @@ public:
     /// The theme takes effect with the next population and painting.
     void SetDark(bool dark) { m_dark = dark; }
     [[nodiscard]] bool IsDark() const { return m_dark; }
+    /// Asked first for each message; its answer is the frame's.
+    using TMessageHandler = std::function<std::optional<LRESULT>(UINT, WPARAM, LPARAM)>;
+    void SetMessageHandler(TMessageHandler handler) { m_handler = std::move(handler); }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
+    TMessageHandler m_handler;
     bool m_dark = false;
 };
 

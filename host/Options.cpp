@@ -11,7 +11,19 @@ namespace navigator {
 
 namespace {
 
-enum class OptionId { Script, Dump, Screenshot, Size, Scale, Dark, Instances, NoSplash, Version, Help };
+enum class OptionId {
+    Script,
+    Scripts,
+    Dump,
+    Screenshot,
+    Size,
+    Scale,
+    Dark,
+    Instances,
+    NoSplash,
+    Version,
+    Help
+};
 
 struct OptionRow {
     OptionId id;
@@ -20,9 +32,11 @@ struct OptionRow {
     std::string_view help;
 };
 
-constexpr std::array<OptionRow, 10> csOptions{{
+constexpr std::array<OptionRow, 11> csOptions{{
     {OptionId::Script, "--script", "FILE",
      "Source a Tcl script after the start; it may add menus, columns, filters."},
+    {OptionId::Scripts, "--scripts", "FOLDER",
+     "Source all *.tcl of a folder first, in place of the folder beside your settings."},
     {OptionId::Dump, "--dump", "", "Print the cell list of the first design and exit; no window."},
     {OptionId::Screenshot, "--screenshot", "FILE", "Write a picture of the window to FILE (.png) and exit."},
     {OptionId::Size, "--size", "WxH", "Size of the window in pixels, for example 900x700."},
@@ -74,6 +88,9 @@ std::optional<std::string> Apply(const OptionRow& row, const std::string& value,
     switch (row.id) {
         case OptionId::Script:
             options.script = value;
+            break;
+        case OptionId::Scripts:
+            options.scripts = value;
             break;
         case OptionId::Dump:
             options.isDump = true;

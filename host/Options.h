@@ -13,6 +13,7 @@ namespace navigator {
 struct Options {
     std::vector<std::string> folders;  ///< Designs to open; none for the sample design.
     std::optional<std::string> script;
+    std::optional<std::string> scripts;  ///< A folder of scripts, in place of the user's own.
     std::optional<std::string> screenshot;
     bool isDump = false;
     bool isDark = false;

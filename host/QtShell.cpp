@@ -10,12 +10,16 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFile>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QScreen>
 #include <QStatusBar>
 #include <utility>
 
+#include "host/OpenMenus.h"
 #include "host/SymbolPainter.h"
+#include "host/TextViewer.h"
 #include "host/WindowLayout.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/toolkit/WindowPlacement.h"
@@ -38,6 +42,28 @@ constexpr char csBars[] = "Bars";
 
 CStringU TextOf(const std::string& utf8) {
     return {utf8.c_str(), TextEncoding::Utf8Auto};
+}
+
+/// The items of the open menus as a script sees them.
+Tcl_Obj* OpenMenuList() {
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    const auto put = [](Tcl_Obj* dictionary, const char* key, Tcl_Obj* value) {
+        Tcl_DictObjPut(nullptr, dictionary, Tcl_NewStringObj(key, -1), value);
+    };
+    for (const OpenMenuItem& item : gOpenMenuItems()) {
+        Tcl_Obj* const facts = Tcl_NewDictObj();
+        Tcl_Obj* const place = Tcl_NewListObj(0, nullptr);
+        for (const int number : {item.place.x(), item.place.y(), item.place.width(), item.place.height()})
+            Tcl_ListObjAppendElement(nullptr, place, Tcl_NewIntObj(number));
+        put(facts, "text", gTclText(item.text));
+        put(facts, "place", place);
+        put(facts, "enabled", Tcl_NewIntObj(item.isEnabled ? 1 : 0));
+        put(facts, "checked", Tcl_NewIntObj(item.isChecked ? 1 : 0));
+        put(facts, "default", Tcl_NewIntObj(item.isDefault ? 1 : 0));
+        put(facts, "submenu", Tcl_NewIntObj(item.hasSubMenu ? 1 : 0));
+        Tcl_ListObjAppendElement(nullptr, list, facts);
+    }
+    return list;
 }
 
 std::string CaptionOf(const CellViewName& name) {
@@ -65,8 +91,15 @@ QtShell::~QtShell() {
         m_navigator.KeepLastView();
     }
     m_navigator.User().SetConsoleHandler(nullptr);
+    m_navigator.User().SetMenuHandler(nullptr);
+    m_navigator.Commands().Log().SetHandler(nullptr);
+    m_navigator.Cells().SetOpenHandler(nullptr);
+    m_navigator.Menus().SetTabNameQuestion(nullptr);
+    m_navigator.Menus().SetStatusHandler(nullptr);
     // The window may live on for a moment; the console in it has nothing to talk to any more.
     delete m_dock.data();
+    delete m_logDock.data();
+    delete m_status.data();
     QObject::disconnect(m_idle);
     m_navigator.Commands().SetPreviewHandler(nullptr);
     m_navigator.Browser().SetPreview(true, CStringU(), nullptr);
@@ -84,6 +117,9 @@ void QtShell::Equip(const TOsInfo* machine) {
     if (machine != nullptr) m_menu->SetMachine(*machine);
     m_menu->SetOpenHandler([this] { m_watcher.Watch(m_navigator.Store()); });
     AddConsole(*window);
+    AddLog(*window);
+    ArrangeBars(*window);
+    ConnectMenus(*window);
 }
 
 void QtShell::AddConsole(QMainWindow& window) {
@@ -102,9 +138,55 @@ void QtShell::AddConsole(QMainWindow& window) {
     QObject::connect(m_dock->toggleViewAction(), &QAction::toggled, action, &QAction::setChecked);
     action->setChecked(true);
     m_menu->AddView(*action);
+}
+
+void QtShell::AddLog(QMainWindow& window) {
+    ActionLog& log = m_navigator.Commands().Log();
+    m_logDock = new QDockWidget(QObject::tr("Log"), &window);
+    m_logDock->setObjectName(QStringLiteral("logDock"));
+    m_logPane = new LogPane(log, m_logDock);
+    m_logDock->setWidget(m_logPane);
+    window.addDockWidget(Qt::RightDockWidgetArea, m_logDock);
+    QAction* const action = m_logDock->toggleViewAction();
+    action->setText(QObject::tr("&Log of actions"));
+    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
+    m_menu->AddView(*action);
+    log.SetHandler([this](const ActionLog::TEntry* entry) { OnLogged(entry); });
+}
+
+// What somebody should know who doesn't look at the log is told in the status line too.
+void QtShell::OnLogged(const ActionLog::TEntry* entry) {
+    if (m_logPane != nullptr) m_logPane->Show(entry);
+    if (entry == nullptr || entry->kind == ActionLog::TKind::Action) return;
+    const std::size_t end = entry->text.find('\n');
+    if (m_status != nullptr) m_status->TellForAWhile(QString::fromStdString(entry->text.substr(0, end)));
+}
+
+void QtShell::ArrangeBars(QMainWindow& window) {
     const QByteArray bars = m_navigator.App().GetProfileString(csHostSection, csBars).GetString();
-    const bool isKept = !bars.isEmpty() && window.restoreState(QByteArray::fromBase64(bars));
-    if (!isKept) m_dock->setVisible(gHasRoomForConsole(window.width()));
+    if (!bars.isEmpty() && window.restoreState(QByteArray::fromBase64(bars))) return;
+    const bool hasRoom = gHasRoomForConsole(window.width());
+    m_dock->setVisible(hasRoom);
+    m_logDock->setVisible(hasRoom);
+}
+
+void QtShell::ConnectMenus(QMainWindow& window) {
+    m_status = new StatusBubble(window);
+    m_navigator.Cells().SetOpenHandler(
+        [&window](const CellViewName& name, const std::filesystem::path& file) {
+            TextViewer::Show(name, file, window);
+        });
+    m_navigator.Menus().SetStatusHandler([this](const std::string& text) {
+        if (m_status != nullptr) m_status->Tell(QString::fromStdString(text));
+    });
+    m_navigator.Menus().SetTabNameQuestion([&window](const std::string& now) -> std::optional<std::string> {
+        bool isTaken = false;
+        const QString name =
+            QInputDialog::getText(&window, QObject::tr("Rename the tab"), QObject::tr("Name:"),
+                                  QLineEdit::Normal, QString::fromStdString(now), &isTaken);
+        return isTaken ? std::optional(name.toStdString()) : std::nullopt;
+    });
+    m_navigator.User().SetMenuHandler(&OpenMenuList);
 }
 
 // One key brings the keyboard to the console wherever it is, and from there away again.

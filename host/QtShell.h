@@ -11,8 +11,10 @@
 
 #include "host/ConsolePane.h"
 #include "host/FolderWatcher.h"
+#include "host/LogPane.h"
 #include "host/MainMenu.h"
 #include "host/Navigator.h"
+#include "host/StatusBubble.h"
 #include "host/TclCommand.h"
 #include "host/TclConsole.h"
 #include "vapp/toolkit/qt/QtBitmap.h"
@@ -54,6 +56,10 @@ public:
 private:
     [[nodiscard]] QMainWindow* Window() const;
     void AddConsole(QMainWindow& window);
+    void AddLog(QMainWindow& window);
+    void ArrangeBars(QMainWindow& window);
+    void ConnectMenus(QMainWindow& window);
+    void OnLogged(const ActionLog::TEntry* entry);
     void ToggleConsole();
     int Exit(Tcl_Interp* interp, TclWords words);
     void FirstLook();
@@ -69,6 +75,9 @@ private:
     // The window's, and gone with it.
     QPointer<ConsolePane> m_consolePane;
     QPointer<QDockWidget> m_dock;
+    QPointer<LogPane> m_logPane;
+    QPointer<QDockWidget> m_logDock;
+    QPointer<StatusBubble> m_status;
     TclCommand m_exit;
     std::optional<int> m_exitStatus;
     bool m_isRunning = false;

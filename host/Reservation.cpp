@@ -46,7 +46,7 @@ const CStringU& gAskReserveText(prefs::TAskReserveOption option) {
 bool gIsManagedFolder(const fs::path& folder) {
     std::error_code error;
     fs::path at = fs::weakly_canonical(folder, error);
-    if (error) return false;
+    if (error || at.empty()) return false;
     for (;;) {
         for (const char* name : csMetadata)
             if (fs::exists(at / name, error)) return true;

@@ -66,6 +66,12 @@ const SubCommandRow<UserCommand> UserCommand::csSubCommands[] = {
      3,
      3,
      &UserCommand::Drag},
+    {{"menu", "user menu",
+      "The items of the menus that are open, as a list of dictionaries: text, place (left, top, width and "
+      "height), enabled, checked, default, submenu."},
+     0,
+     0,
+     &UserCommand::Menu},
     {{"place", "user place library NAME|header CAPTION|row N|pane N|bar N",
       "Where it stands on the screen: left, top, width and height; empty if it is not in sight."},
      2,
@@ -160,6 +166,11 @@ int UserCommand::Drag(Tcl_Interp* interp, TclWords words) {
     if (!gPlaceOfBar(m_browser, bar)) return gTclFailure(interp, "there is no bar " + std::to_string(bar));
     if (pixels < -cnLargestSide || pixels > cnLargestSide) return gTclFailure(interp, "that is too far");
     m_browser.SetRowHeight(bar, m_browser.GetPane(bar, 0)->GetRect().Height() + pixels);
+    return TCL_OK;
+}
+
+int UserCommand::Menu(Tcl_Interp* interp, TclWords) {
+    if (m_menus) Tcl_SetObjResult(interp, m_menus());
     return TCL_OK;
 }
 

@@ -29,6 +29,9 @@ public:
         m_console = std::move(handler);
     }
 
+    /// Asked for the items of the open menus, as a list; without a handler none is open.
+    void SetMenuHandler(std::function<Tcl_Obj*()> handler) { m_menus = std::move(handler); }
+
     /// All sub-commands, by name.
     static std::span<const CommandHelp> Help();
 
@@ -37,6 +40,7 @@ private:
 
     int Click(Tcl_Interp* interp, TclWords words);
     int Drag(Tcl_Interp* interp, TclWords words);
+    int Menu(Tcl_Interp* interp, TclWords words);
     int Place(Tcl_Interp* interp, TclWords words);
     int Resize(Tcl_Interp* interp, TclWords words);
     int Settle(Tcl_Interp* interp, TclWords words);
@@ -51,6 +55,7 @@ private:
     vapp_library_browser::TLibraryBrowser& m_browser;
     std::function<void()> m_settle;
     std::function<void(const std::string&)> m_console;
+    std::function<Tcl_Obj*()> m_menus;
     TclCommand m_command;
 };
 

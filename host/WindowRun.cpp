@@ -10,10 +10,12 @@
 #include <iostream>
 #include <vector>
 
+#include "host/DisplayName.h"
 #include "host/NavigatorApp.h"
 #include "host/QtShell.h"
 #include "host/SampleFolder.h"
 #include "host/SplashPicture.h"
+#include "host/UserScripts.h"
 #include "vapp/toolkit/Resources.h"
 #include "vapp/toolkit/TMessageBox.h"
 #include "vapp/toolkit/qt/QtBitmap.h"
@@ -113,6 +115,14 @@ int gOpenFolders(Navigator& navigator, const Options& options, const TApp& app) 
 int gPrepareWindow(Navigator& navigator, const Options& options) {
     navigator.CreateWindow(options.width, options.height, options.isDark);
     if (!options.isDump) navigator.AddColumns();
+    if (options.scripts) {
+        const std::u8string folder(options.scripts->begin(), options.scripts->end());
+        if (!std::filesystem::is_directory(folder))
+            return gFail("There is no folder \"" + *options.scripts + "\".", cnUsageStatus);
+        gSourceScripts(navigator, folder);
+    }
+    for (const ActionLog::TEntry& entry : navigator.Commands().Log().Entries())
+        gFail(entry.text, cnFailureStatus);
     if (options.script) {
         if (const auto failure = navigator.SourceScript(*options.script))
             return gFail(*failure, cnFailureStatus);
@@ -132,6 +142,8 @@ int gRunWindow(Options options, int argc, char** argv) {
     // Boxes of the start have the look of the window.
     gApplyTheme(options.isDark);
     FitIntoScreen(options);
+    const std::filesystem::path own = gUserScriptFolder();
+    if (!options.scripts && std::filesystem::is_directory(own)) options.scripts = gDisplayName(own.native());
     std::vector<CString> troubles;
     const SplashResource splash;
     NavigatorApp app(options);

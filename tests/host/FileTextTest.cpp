@@ -9,8 +9,8 @@
 namespace navigator_test {
 namespace {
 
-using navigator::gReadFileText;
 using navigator::FileText;
+using navigator::gReadFileText;
 
 TEST(FileTextTest, AFileIsShownAsItIs) {
     const TempFolder folder;

@@ -11,10 +11,12 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include "host/CellCommand.h"
 #include "host/DatabaseCommand.h"
 #include "host/HostCommands.h"
 #include "host/NavigatorCommand.h"
 #include "host/UserCommand.h"
+#include "host/UserMenuCommand.h"
 
 namespace navigator_test {
 namespace {
@@ -27,8 +29,8 @@ TEST(HelpWindowTest, ListsEveryLineThatScriptsMaySend) {
     const std::string text =
         window.findChild<QPlainTextEdit*>(QStringLiteral("helpCommands"))->toPlainText().toStdString();
     int listed = 0;
-    for (const auto& commands :
-         {DatabaseCommand::Help(), HostCommands::Help(), NavigatorCommand::Help(), UserCommand::Help()}) {
+    for (const auto& commands : {CellCommand::Help(), DatabaseCommand::Help(), HostCommands::Help(),
+                                 NavigatorCommand::Help(), UserCommand::Help(), UserMenuCommand::Help()}) {
         for (const CommandHelp& command : commands) {
             EXPECT_THAT(text, HasSubstr(command.usage));
             ++listed;
