@@ -43,8 +43,9 @@ namespace eval example {
 
     # Style master: options that describe a cell to place.
     proc master {args} {
-        set cell [dict get $args -mastercell]
-        say "The next cell to place is $cell of [dict get $args -masterdesign]."
+        # "-add" stands last and has no value.
+        set options [lrange $args 0 end-1]
+        say "The next cell to place is [dict get $options -mastercell] of [dict get $options -masterdesign]."
     }
 
     # Style cellview: the focused cell view, its cell first.

@@ -102,6 +102,7 @@ TEST_F(UserMenuCommandTest, TheDoubleClickIsASetting) {
     EXPECT_EQ(Answer("usermenu doubleclick {act twice} cellview"), "");
     PickFromCells("");
     EXPECT_THAT(m_seen, Contains("&Open as text")) << "it stands out no more";
+    SelectRows(1, 1);
     auto& report = m_navigator->Browser().GetCellListView()->GetReport();
     report.DoubleClickedByUser({10, report.GetHeaderHeight() + report.GetRowHeight() + 1});
     EXPECT_EQ(Answer("set ::acted"), "twice a lib symbol");
