@@ -2,7 +2,8 @@
 /// The menu of the library list: empty until the host fills it, and what comes of the user's pick.
 ///
 /// The surprise: handlers of an earlier menu are not forgotten here, unlike in the cell list; an item that
-/// the host adds without a handler may find one that is left.
+/// the host adds without a handler may find one that is left, also one of the cell list, whose 201st number
+/// is the first one here.
 #include <string>
 
 #include "browser/LibraryMenuLine.h"

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "text/PlatformPaths.h"
@@ -20,7 +21,7 @@ namespace vapp_library_browser {
 namespace {
 
 // As the system's own operation takes them, its closing NUL included.
-constexpr std::size_t cnMaxPath = 260;
+constexpr int cnMaxPath = 260;
 // Longer tips are cut; a reader of the old form has no more room.
 constexpr std::size_t cnMaxTipUnits = 2047;
 
@@ -35,13 +36,18 @@ std::vector<std::string> PartsOf(std::string_view path) {
     return parts;
 }
 
+bool IsDrive(std::string_view part) {
+    return part.size() == 2 && part.back() == ':';
+}
+
 // Without "." and ".." between "\"; above a root there is nothing.
 CStringU CanonicalPath(const CStringU& path) {
     const std::string_view text = path.PayloadView();
-    if (text.empty() || text.size() >= cnMaxPath) return path;
+    // NATIVE: the system's operation counts bytes of the active code page.
+    if (text.empty() || path.ToAnsi().GetLength() >= cnMaxPath) return path;
     std::vector<std::string> kept;
     for (std::string& part : PartsOf(text)) {
-        const bool rooted = !kept.empty() && (kept.front().empty() || kept.front().ends_with(':'));
+        const bool rooted = !kept.empty() && (kept.front().empty() || IsDrive(kept.front()));
         if (part == ".." && kept.size() > (rooted ? 1U : 0U)) {
             kept.pop_back();
         } else if (part != "." && part != "..") {
@@ -51,14 +57,16 @@ CStringU CanonicalPath(const CStringU& path) {
     std::string joined;
     for (const std::string& part : kept)
         joined.append(joined.empty() && &part == kept.data() ? "" : "\\").append(part);
-    if (joined.empty() || joined.ends_with(':')) joined += '\\';
+    if (joined.empty() || IsDrive(joined)) joined += '\\';
     return {joined.c_str(), TextEncoding::Utf8Auto};
 }
 
 CStringU Cut(const CStringU& text) {
     const std::u16string units = text.ToWide();
-    return units.size() <= cnMaxTipUnits ? text
-                                         : CStringU(std::u16string_view(units).substr(0, cnMaxTipUnits));
+    if (units.size() <= cnMaxTipUnits) return text;
+    // Half of a character would be shown as a broken one.
+    const bool splits = (units[cnMaxTipUnits - 1] & 0xFC00U) == 0xD800U;
+    return CStringU(std::u16string_view(units).substr(0, cnMaxTipUnits - (splits ? 1 : 0)));
 }
 
 void ShowStatus(const CStringU* text) {
@@ -82,6 +90,15 @@ std::optional<CStringU> TLibraryListCtrl::OnToolTipNotify() {
     m_tipTimerRuns = true;
     ShowStatus(&tip);
     return Cut(tip);
+}
+
+// The host would show the path for ever: nobody looks at the pointer any more.
+void TLibraryListCtrl::OnDestroy() {
+    if (std::exchange(m_tipTimerRuns, false)) {
+        const HostCallScope scope;
+        ShowStatus(nullptr);
+    }
+    CListCtrl::OnDestroy();
 }
 
 void TLibraryListCtrl::OnTipTimer() {

@@ -26,10 +26,12 @@ void THostMenu::Close() {
 void THostMenu::AddItem(UINT id, const CString& text, bool disabled, bool checked, bool isDefault) {
     if (m_popupMenu == nullptr) return;
     CMenu& menu = m_subMenu ? *m_subMenu : *m_popupMenu;
-    menu.Insert(m_subMenu ? m_subMenuInsertPos++ : m_popupInsertPos++, id, CStringU(text));
-    if (disabled) menu.Enable(id, false);
-    if (isDefault) menu.SetDefault(id);
-    if (checked) menu.Check(id, true);
+    const int position = m_subMenu ? m_subMenuInsertPos++ : m_popupInsertPos++;
+    // By its place: the host may have given its number to another item as well.
+    CMenu::TItem& item = menu.Insert(position, id, CStringU(text));
+    item.isEnabled = !disabled;
+    item.isChecked = checked;
+    if (isDefault) menu.SetDefaultAt(position);
     ++m_nextId;
 }
 

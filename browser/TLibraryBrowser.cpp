@@ -3,6 +3,9 @@
 #include "vapp/browser/TLibraryBrowser.h"
 
 #include <array>
+#include <memory>
+#include <utility>
+#include <vector>
 
 #include "vapp/browser/ColumnChooser.h"
 #include "vapp/browser/ExcludeViewNames.h"
@@ -47,18 +50,35 @@ CStringU FindText(const std::map<TLibCellView, CStringU>& texts, const TLibCellV
     return found == texts.end() ? CStringU() : found->second;
 }
 
+// Panes whose navigator has gone while one of their menus or drags was open. Whoever opened it goes on in
+// them once it is over; nobody tells when that has ended, so they wait for the next navigator.
+std::vector<std::unique_ptr<CView>>& OutlivingPanes() {
+    static std::vector<std::unique_ptr<CView>> s_panes;
+    return s_panes;
+}
+
+void FreeOutlivingPanes() {
+    const std::vector<std::unique_ptr<CView>> panes = std::exchange(OutlivingPanes(), {});
+}
+
 }  // namespace
 
 TLibraryBrowser::TLibraryBrowser() = default;
 
 TLibraryBrowser::~TLibraryBrowser() {
     DestroyWindow();
+    if (MayFreePanes()) return;
+    for (std::unique_ptr<CView>& pane : TakeEndedPanes())
+        OutlivingPanes().push_back(std::move(pane));
 }
 
 bool TLibraryBrowser::Initialize(CFrameWnd* parent, Tcl_Interp* interp,
                                  CXTPReportSubListControl* columnChooser) {
     if (GetRowCount() != 0) return false;
-    if (MayFreePanes()) FreeEndedPanes();
+    if (MayFreePanes()) {
+        FreeEndedPanes();
+        FreeOutlivingPanes();
+    }
     gColumnChooser() = columnChooser;
     if (!CreateStatic(parent, static_cast<int>(PaneRows().size()), 1, cnFirstPaneID)) return false;
     CreatePanes();

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 
+#include "toolkit/DialogItems.h"
 #include "vapp/browser/TProfileSection.h"
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
@@ -74,8 +75,8 @@ void TLibraryView::OnCreate() {
     CreateItem(m_designCombo, cnDesignComboId);
     CreateItem(m_frame, cnFrameId);
     CreateItem(m_libraryList, cnLibraryListId);
-    m_designCombo.SetAccessibleName("Designs");
-    m_libraryList.SetAccessibleName("Libraries");
+    m_designCombo.SetAccessibleName(gTranslateWindowText("__$$Translatable$$_Designs"));
+    m_libraryList.SetAccessibleName(gTranslateWindowText("__$$Translatable$$_Libraries"));
 }
 
 void TLibraryView::OnInitialUpdate() {

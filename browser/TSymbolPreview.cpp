@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "text/PlatformScreen.h"
+#include "toolkit/DialogItems.h"
 #include "toolkit/FlagGuard.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TclBridge.h"
@@ -33,7 +35,7 @@ void TSymbolPreview::OnCreate() {
     CFormView::OnCreate();
     CreateItem(m_picture, cnPictureId);
     CreateItem(m_caption, cnCaptionId);
-    m_picture.SetAccessibleName("Preview");
+    m_picture.SetAccessibleName(gTranslateWindowText("__$$Translatable$$_Preview"));
 }
 
 void TSymbolPreview::OnSize(UINT type, int cx, int cy) {
@@ -49,9 +51,10 @@ void TSymbolPreview::OnSize(UINT type, int cx, int cy) {
 }
 
 // Wine copies the pixels of a moved pane from its old place, where a neighbour may have painted already: what
-// was in the way stays in the picture. Elsewhere it is one painting more.
+// was in the way stays in the picture. Elsewhere nothing need be painted.
 void TSymbolPreview::OnMove(int x, int y) {
     CFormView::OnMove(x, y);
+    if (!vapp_platform::MovedWindowsKeepOldPixels()) return;
     Invalidate(true);
     m_picture.Invalidate(true);
     m_caption.Invalidate(true);

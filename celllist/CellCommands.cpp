@@ -34,8 +34,10 @@ constexpr char csNotYetImplemented[] = "__$$Translatable$$_Not yet implemented."
 
 std::set<TLibCellView> SetOf(const TReport::TSelectedColl& cells) {
     std::set<TLibCellView> set;
-    for (const TLibCellView& cell : cells)
-        set.insert(cell);
+    for (const TLibCellView& cell : cells) {
+        // A row that has gone can still be selected after a fetching that failed.
+        if (!cell.cell.IsEmpty()) set.insert(cell);
+    }
     return set;
 }
 
@@ -63,8 +65,11 @@ bool RunClipboardWord(const TReport& report, const CStringU& command) {
     return true;
 }
 
-CellCommandSubject SubjectOf(const TReport& report, const TLibraryView& view) {
-    return {view.GetSelectedDesign(), view.GetQEdit(), report.GetFocusedCell(), SetOf(report.GetSelected())};
+// The selected cells only for the one style that tells them: sorting a million of them takes seconds.
+CellCommandSubject SubjectOf(const TReport& report, const TLibraryView& view,
+                             TLibraryBrowserTclInterfaceStyle style) {
+    return {view.GetSelectedDesign(), view.GetQEdit(), report.GetFocusedCell(),
+            style == StyleSelectedLcvs ? SetOf(report.GetSelected()) : std::set<TLibCellView>()};
 }
 
 void SendLine(const TReport& report, const CStringU& line) {
@@ -73,7 +78,9 @@ void SendLine(const TReport& report, const CStringU& line) {
 }
 
 void TellNotImplemented() {
-    TMessageBox(gGetMainWnd(), CStringU(), {vlang::gTranslate(csNotYetImplemented), TextEncoding::Utf8Auto},
+    const CWinAppEx* app = CWinAppEx::GetApp();
+    const CStringU title(app != nullptr ? app->GetAppName() : CString());
+    TMessageBox(gGetMainWnd(), title, {vlang::gTranslate(csNotYetImplemented), TextEncoding::Utf8Auto},
                 MB_OK | MB_ICONINFORMATION)
         .DoModal();
 }
@@ -91,7 +98,8 @@ void TReport::RunMenuPick(UINT id, const std::set<CStringIU>& views) {
         return;
     }
     if (RunClipboardWord(*this, handler.first)) return;
-    SendLine(*this, MakeCellMenuLine(handler.first, handler.second, SubjectOf(*this, *view)));
+    const auto& [command, style] = handler;
+    SendLine(*this, MakeCellMenuLine(command, style, SubjectOf(*this, *view, style)));
 }
 
 void TReport::SetCellListDefaultMenuCommand(const CStringU& command, TLibraryBrowserTclInterfaceStyle style) {
@@ -102,10 +110,11 @@ void TReport::SetCellListDefaultMenuCommand(const CStringU& command, TLibraryBro
 void TReport::OnDoubleClick(CPoint point) {
     const HostCallScope scope;
     CXTPReportControl::OnDoubleClick(point);
+    if (!IsWindow()) return;
     if (HitTestRow(point)) {
         // With the keys a click may leave the focus where it was; the host is asked about the focused cell.
         if (m_populated && HitTest(point) == GetFocusedCell()) RunDefaultCommand();
-    } else if (HeaderHitTest(point) == nullptr) {
+    } else if (GetReportHeader().HitTest(point) == nullptr) {
         m_pane.EmptyFilterText();
     }
 }
@@ -114,7 +123,8 @@ void TReport::RunDefaultCommand() {
     AskMainWindow(WM_LN_CELLDBLCLK);
     const TLibraryView* view = m_pane.GetLibraryView();
     if (!IsWindow() || view == nullptr || m_defaultCommand.IsEmpty()) return;
-    SendLine(*this, MakeDoubleClickLine(m_defaultCommand, m_defaultCommandStyle, SubjectOf(*this, *view)));
+    SendLine(*this, MakeDoubleClickLine(m_defaultCommand, m_defaultCommandStyle,
+                                        SubjectOf(*this, *view, m_defaultCommandStyle)));
 }
 
 }  // namespace vapp_library_browser

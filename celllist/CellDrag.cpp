@@ -22,12 +22,22 @@ namespace {
 using TReport = TCellNamesReportCtrl;
 
 // In the flags of a drag that begins.
-constexpr unsigned cnRightButton = 2;
+constexpr UINT cnRightButton = 2;
 
 CString FormatOfThisProcess() {
     CString format;
     format.Format("VornexEDALibCellView%lX", vapp_platform::OwnProcessNumber());
     return format;
+}
+
+// The same as the clipboard gets for such a row: the names as they are, with blanks between them.
+CStringU TextOf(const TLibCellView& cell) {
+    CStringU text = cell.library;
+    for (const CStringU* name : {&cell.cell, &cell.view}) {
+        text += " ";
+        text += *name;
+    }
+    return text;
 }
 
 }  // namespace
@@ -66,7 +76,7 @@ CLibCellViewOleDataSource::~CLibCellViewOleDataSource() = default;
 
 const CString CLibCellViewOleDataSource::ClipboardFormatLibCellView = FormatOfThisProcess();
 
-bool TReport::OnBeginDrag(CPoint point, unsigned flags) {
+bool TReport::OnBeginDrag(CPoint point, UINT flags) {
     return QueryDragAndDrop((flags & cnRightButton) != 0, point);
 }
 
@@ -86,6 +96,7 @@ bool TReport::StartDragAndDrop(bool rightButton, const TLibCellView& cell, const
     m_dataSource->CacheData(
         CLibCellViewOleDataSource::ClipboardFormatLibCellView,
         CLibCellViewOleData(view != nullptr ? view->GetSelectedDesign() : CStringU(), cell, rightButton));
+    m_dataSource->SetText(TextOf(cell));
     const FlagGuard dragging(m_inDragDrop);
     return m_dataSource->DoDragDrop(cnDropCopy | cnDropLink, start != nullptr ? *start : CRect()) !=
            cnDropNone;

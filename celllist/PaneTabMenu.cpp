@@ -14,6 +14,18 @@ namespace {
 constexpr UINT cnFirstTabItem = 101;
 constexpr unsigned cnHighWordShift = 16;
 
+// Takes the menu's address back also when an exception of the host ends the block.
+class TBuildingScope {
+public:
+    TBuildingScope(CMenu*& place, CMenu& menu) : m_place(place) { m_place = &menu; }
+    TBuildingScope(const TBuildingScope&) = delete;
+    TBuildingScope& operator=(const TBuildingScope&) = delete;
+    ~TBuildingScope() { m_place = nullptr; }
+
+private:
+    CMenu*& m_place;
+};
+
 }  // namespace
 
 void TCellListView::AddCellTabsMenuItem(const CString& text, bool checked) {
@@ -33,9 +45,10 @@ void TCellListView::OnTabRClick(int tab, CPoint screen) {
     const HostCallScope scope;
     m_tabs.SetCurSel(tab);
     CMenu menu;
-    m_tabsMenu = &menu;
-    AskMainWindow(WM_LN_BUILDTABMENU, static_cast<WPARAM>(tab));
-    m_tabsMenu = nullptr;
+    {
+        const TBuildingScope building(m_tabsMenu, menu);
+        AskMainWindow(WM_LN_BUILDTABMENU, static_cast<WPARAM>(tab));
+    }
     if (!IsWindow()) return;
     const UINT picked = menu.Track(*this, screen);
     if (picked >= cnFirstTabItem && IsWindow()) TellTabPick(tab, picked - cnFirstTabItem, menu);

@@ -96,7 +96,8 @@ void TReport::OnContextMenu(CWnd& /*from*/, CPoint screen) {
     const std::optional<std::set<CStringIU>> views = AskViewNames();
     if (!views || !IsWindow()) return;
     const CPoint point = ScreenToClient(screen);
-    if (const TColumn* column = HeaderHitTest(point)) {
+    // Any column of the header, also one that a host has made of the toolkit's own class.
+    if (const CXTPReportColumn* column = GetReportHeader().HitTest(point)) {
         if (dynamic_cast<const TColViewName*>(column) != nullptr) ShowViewNameMenu(screen, *views);
         return;
     }
@@ -108,7 +109,8 @@ void TReport::ShowViewNameMenu(CPoint screen, const std::set<CStringIU>& views) 
     CreateViewNameFilterMenu(&menu, views);
     const UINT picked = menu.Track(*this, screen);
     // A menu outlives the window under which it was opened.
-    if (IsWindow()) static_cast<void>(ProcessViewNameFilterMenu(static_cast<int>(picked), views));
+    if (picked == 0 || !IsWindow()) return;
+    static_cast<void>(ProcessViewNameFilterMenu(static_cast<int>(picked), views));
 }
 
 void TReport::ShowCellMenu(CPoint screen, const std::set<CStringIU>& views) {

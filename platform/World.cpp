@@ -4,6 +4,8 @@
 
 #include <atomic>
 
+#include "text/PlatformScreen.h"
+
 namespace {
 
 // -1: as the system says.
@@ -23,6 +25,10 @@ namespace vapp_platform {
 bool IsWindowsUnderWine() noexcept {
     const bool told = gAnswer.load(std::memory_order_relaxed) >= 0;
     return gIsWine() && (told || IsWindowsBuild());
+}
+
+bool MovedWindowsKeepOldPixels() noexcept {
+    return gIsWine();
 }
 
 World CurrentWorld() noexcept {

@@ -57,11 +57,11 @@ CMenu& CMenu::AppendPopup(const CStringU& text) {
     return *m_items.back().subMenu;
 }
 
-void CMenu::Insert(int position, UINT id, const CStringU& text) {
+CMenu::TItem& CMenu::Insert(int position, UINT id, const CStringU& text) {
     TItem item;
     item.id = id;
     item.text = text;
-    Place(position, std::move(item));
+    return Place(position, std::move(item));
 }
 
 void CMenu::AppendChecked(UINT id, const CStringU& text, bool checked) {
@@ -120,11 +120,25 @@ void CMenu::SetDefault(UINT id) {
         item.isDefault = item.kind == TItem::TKind::Command && item.id == id;
 }
 
+void CMenu::SetDefaultAt(int position) {
+    if (GetItem(position) == nullptr) return;
+    for (TItem& item : m_items)
+        item.isDefault = false;
+    m_items[static_cast<std::size_t>(position)].isDefault = true;
+}
+
+bool CMenu::Offers(UINT id) const {
+    return std::any_of(m_items.begin(), m_items.end(), [id](const TItem& item) {
+        if (item.subMenu) return item.subMenu->Offers(id);
+        return item.kind == TItem::TKind::Command && item.id == id && item.isEnabled;
+    });
+}
+
 UINT CMenu::Track(CWnd& owner, CPoint screen, TMenuAlign align) const {
     PeerFactory* factory = PeerFactory::Installed();
     if (factory == nullptr || m_items.empty()) return 0;
     const UINT picked = factory->TrackMenu(*this, owner, screen, align);
-    return IsEnabled(picked) ? picked : 0;
+    return Offers(picked) ? picked : 0;
 }
 
 CStringU gMenuTextOf(const CStringU& name) {

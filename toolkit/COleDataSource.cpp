@@ -13,17 +13,17 @@ COleDataSource::TDragRunner& DragRunner() {
 
 }  // namespace
 
-COleDataSource::COleDataSource() = default;
+COleDataSource::COleDataSource() : m_data(std::make_shared<TData>()) {}
 
 COleDataSource::~COleDataSource() = default;
 
 void COleDataSource::CacheData(const CString& format, std::any data) {
-    m_data[format] = std::move(data);
+    (*m_data)[format] = std::move(data);
 }
 
 const std::any* COleDataSource::GetData(const CString& format) const {
-    const auto found = m_data.find(format);
-    return found != m_data.end() ? &found->second : nullptr;
+    const auto found = m_data->find(format);
+    return found != m_data->end() ? &found->second : nullptr;
 }
 
 UINT COleDataSource::DoDragDrop(UINT effects, const CRect& start) {

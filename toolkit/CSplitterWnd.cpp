@@ -132,6 +132,10 @@ void CSplitterWnd::FreeEndedPanes() {
     const std::vector<std::unique_ptr<CView>> panes = std::exchange(m_endedPanes, {});
 }
 
+std::vector<std::unique_ptr<CView>> CSplitterWnd::TakeEndedPanes() {
+    return std::exchange(m_endedPanes, {});
+}
+
 std::unique_ptr<Peer> CSplitterWnd::CreatePeer(PeerFactory& factory) {
     return factory.CreateSplitter(*this);
 }

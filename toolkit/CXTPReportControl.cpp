@@ -158,6 +158,14 @@ void CXTPReportControl::DoubleClickedByUser(CPoint point) {
 
 void CXTPReportControl::OnDoubleClick(CPoint /*point*/) {}
 
+bool CXTPReportControl::DragBegunByUser(CPoint point, UINT flags) {
+    return IsWindow() && OnBeginDrag(point, flags);
+}
+
+bool CXTPReportControl::OnBeginDrag(CPoint /*point*/, UINT /*flags*/) {
+    return false;
+}
+
 void CXTPReportControl::KeyPressedByUser(TKey key, TModifiers modifiers) {
     const int focusBefore = m_cursor.GetFocus();
     if (m_cursor.Key(key, modifiers, m_rowCount, GetCountPerPage())) CursorChanged(focusBefore);

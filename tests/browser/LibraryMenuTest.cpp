@@ -3,6 +3,8 @@
 #include "tests/browser/AnsweringWindow.h"
 #include "tests/browser/NavigatorFixture.h"
 #include "tests/toolkit/RecordingPeers.h"
+#include "text/PlatformClipboard.h"
+#include "toolkit/MemoryClipboard.h"
 #include "vapp/toolkit/Clipboard.h"
 
 namespace {
@@ -162,6 +164,35 @@ TEST_F(LibraryMenuTest, SurvivesTheEndOfTheWindowWhileItIsFilledShownOrRun) {
         ASSERT_FALSE(m_browser.IsWindow());
         Show({"std", "io"});
     }
+}
+
+TEST_F(LibraryMenuTest, NamesAreCopiedInBothForms) {
+    if (vapp_platform::HasSystemClipboard()) GTEST_SKIP() << "the system has a clipboard of its own";
+    MemoryClipboard clipboard;
+    m_peers.clipboard = &clipboard;
+    Select("io");
+    EXPECT_EQ(Pick("CopyNamestoClipboard", StyleBuiltIn), TLibraryLines());
+    EXPECT_EQ(clipboard.GetText(), u"io\r\n");
+    EXPECT_EQ(clipboard.GetNarrowText(), "io\r\n");
+    Libraries().GetLibraryListCtrl().SetItemState(0, 0, cnListSelected);
+    Libraries().GetLibraryListCtrl().SetItemState(1, 0, cnListSelected);
+    ASSERT_TRUE(Selected().empty());
+    Pick("CopyNamestoClipboard", StyleBuiltIn);
+    EXPECT_EQ(clipboard.GetText(), u"") << "no names are copied as well";
+}
+
+// The handlers of both lists are one map: the 201st command of the cell list has the number of this list's
+// first.
+TEST_F(LibraryMenuTest, AnItemWithoutAHandlerMayRunACommandOfTheCellList) {
+    m_browser.SetCommandHandler(41200, "cell command", StyleCommandOnly);
+    m_fill = [this] {
+        Libraries().GetLibraryListCtrl().AddLibraryListMenuItem(0xA0F0, "x", false, false, false);
+    };
+    m_pick = 0xA0F0;
+    static_assert(0xA0F0 == 41200);
+    m_host.ClearLines();
+    RightClick();
+    EXPECT_EQ(m_host.Lines(), TLibraryLines{"logaction cell command top"});
 }
 
 }  // namespace

@@ -114,4 +114,28 @@ TEST_F(LibraryTipTest, SurvivesAHostThatEndsTheWindowWhenItIsTold) {
     EXPECT_FALSE(m_browser.IsWindow());
 }
 
+TEST_F(LibraryTipTest, OnlyALetterAndAColonAreADrive) {
+    vapp_platform::SetWineAnswer(false);
+    EXPECT_EQ(TipOf("C:"), "C:\\");
+    EXPECT_EQ(TipOf("lib:"), "lib:");
+    EXPECT_EQ(TipOf("lib:\\.."), "\\") << "nothing is left of it";
+}
+
+TEST_F(LibraryTipTest, ATipIsNotCutWithinACharacter) {
+    vapp_platform::SetWineAnswer(false);
+    const std::string smile = "\xED\xA0\xBD\xED\xB8\x80";  // as two units, the form in which texts hold it
+    EXPECT_TRUE(TipOf(std::string(2046, 'x') + smile) == std::string(2046, 'x'));
+    EXPECT_TRUE(TipOf(std::string(2045, 'x') + smile + "y") == std::string(2045, 'x') + smile);
+}
+
+TEST_F(LibraryTipTest, TheStatusTextGoesWithTheList) {
+    vapp_platform::SetWineAnswer(false);
+    TipOf("a");
+    m_browser.DestroyWindow();
+    EXPECT_EQ(m_status, (std::vector<std::string>{"a", "(cleared)"}));
+    ShowPath("b");
+    m_browser.DestroyWindow();
+    EXPECT_EQ(m_status.size(), 2u) << "nothing stood there";
+}
+
 }  // namespace

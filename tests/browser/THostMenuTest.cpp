@@ -109,3 +109,13 @@ TEST_F(THostMenuTest, AnUnfinishedSubMenuIsLostAndDoesNotReachTheNextMenu) {
     m_hostMenu.EndSubmenu();
     EXPECT_EQ(DrawnMenu(next), "41000 first");
 }
+
+TEST_F(THostMenuTest, AnItemsStateIsItsOwnWhateverElseHasItsNumber) {
+    m_hostMenu.Open(m_menu, 41000);
+    m_hostMenu.BeginSubmenu("more");
+    m_hostMenu.AddItem(9, "first", false, false, false);
+    m_hostMenu.EndSubmenu();
+    m_hostMenu.AddItem(9, "second", true, true, true);
+    m_hostMenu.AddItem(7, "third", true, false, true);
+    EXPECT_EQ(DrawnMenu(m_menu), "more (9 first) | 9 second grey checked | 7 third grey default | 7 fixed");
+}

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <tcl.h>
 
+#include "platform/World.h"
 #include "tests/browser/NavigatorFixture.h"
 #include "tests/text/TextHelpers.h"
 #include "tests/toolkit/RecordingPeers.h"
@@ -67,16 +68,20 @@ TEST_F(TSymbolPreviewTest, TheEditorModeNamesNoDesign) {
 }
 
 TEST_F(TSymbolPreviewTest, NamesAreSanitisedOneByOne) {
-    m_host.AnswerStart("database cells -lcv -library top -count", "1");
-    m_host.AnswerStart("database cells -lcv -library top -filter", "{{my lib} {a b} {c d}}");
-    Show({"lib"});
+    const HookGuard hook;
+    m_host.Answer("database all_libs", "{{my top} {{my lib} /lib}}");
+    m_host.AnswerStart("database cells -lcv -library {my top} -count", "1");
+    m_host.AnswerStart("database cells -lcv -library {my top} -filter", "{{my lib} {a b} {c d}}");
+    Initialize();
+    m_browser.Populate();
     Cells().GetReport().ClickedByUser(0, {});
     m_host.ClearLines();
-    const HookGuard hook;
     Preview().DisplayNewPreview();
     ASSERT_EQ(PreviewLines().size(), 1u);
-    EXPECT_TRUE(PreviewLines()[0].starts_with(
-        "librarynavigator preview set -primary top -library {my lib} -cell {a b} -view {c d} -bmwidth "));
+    EXPECT_TRUE(
+        PreviewLines()[0].starts_with("librarynavigator preview set -primary {my top} -library {my lib} "
+                                      "-cell {a b} -view {c d} -bmwidth "))
+        << PreviewLines()[0];
 }
 
 TEST_F(TSymbolPreviewTest, AResizeSendsOneLineWithTheNewSize) {
@@ -88,7 +93,8 @@ TEST_F(TSymbolPreviewTest, AResizeSendsOneLineWithTheNewSize) {
     EXPECT_EQ(PreviewLines().size(), 1u) << "the size is the same";
 }
 
-TEST_F(TSymbolPreviewTest, AMovedPaneIsRepaintedWhole) {
+TEST_F(TSymbolPreviewTest, AMovedPaneIsRepaintedWholeWherePixelsComeAlong) {
+    vapp_platform::SetWineAnswer(true);
     Initialize();
     Preview().MoveWindow({0, 0, 208, 232});
     const unsigned pane = Preview().GetInvalidateCount();
@@ -98,6 +104,11 @@ TEST_F(TSymbolPreviewTest, AMovedPaneIsRepaintedWhole) {
     EXPECT_EQ(Preview().GetInvalidateCount(), pane + 1);
     EXPECT_EQ(Preview().GetPicture().GetInvalidateCount(), picture + 1);
     EXPECT_EQ(Preview().GetCaption().GetInvalidateCount(), caption + 1);
+    vapp_platform::SetWineAnswer(false);
+    Preview().MoveWindow({0, 20, 208, 252});
+    EXPECT_EQ(Preview().GetInvalidateCount(), pane + 1) << "elsewhere nothing need be painted";
+    EXPECT_EQ(Preview().GetPicture().GetInvalidateCount(), picture + 1);
+    vapp_platform::SetWineAnswer(std::nullopt);
 }
 
 TEST_F(TSymbolPreviewTest, TheCaptionStandsBelowThePictureWithinTheMargins) {

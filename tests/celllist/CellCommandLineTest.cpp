@@ -133,4 +133,51 @@ TEST_F(CellCommandLineTest, EachNameArrivesAsOneWordAndNothingElseRuns) {
     EXPECT_EQ(Tcl_GetVar(interp, "hit", TCL_GLOBAL_ONLY), nullptr);
 }
 
+// The selected cells stand in quotes within one word. Each is a list of three again, unless a name holds what
+// Tcl's reader of lists ends or changes a quoted element by.
+TEST_F(CellCommandLineTest, TheSelectedCellsArriveAsOneWordAndNothingElseRuns) {
+    const HookGuard hook;
+    Tcl_Interp* interp = m_host.GetInterp();
+    ASSERT_EQ(Tcl_Eval(interp,
+                       "proc logaction {line} {uplevel #0 $line}; proc edit args {set ::got $args}; "
+                       "proc exit args {set ::hit exit}"),
+              TCL_OK);
+    const auto ask = [&](const std::string& script) {
+        return Tcl_Eval(interp, script.c_str()) == TCL_OK
+                   ? std::string(Tcl_GetStringResult(interp))
+                   : "ERROR " + std::string(Tcl_GetStringResult(interp));
+    };
+    std::vector<NamesOfCommand> rows(cnNamesOfCommand.begin(), cnNamesOfCommand.end());
+    rows.push_back({"backslashes", "t\\op", {"li\\b", "a\\b", "sy\\"}});
+    for (const NamesOfCommand& names : rows) {
+        SCOPED_TRACE(names.what);
+        const CellCommandSubject subject = SubjectWith(names, false);
+        const bool isHarmless =
+            std::string(names.what) != "quotes" && std::string(names.what) != "backslashes";
+        for (const bool fromMenu : {true, false}) {
+            const CStringU line = fromMenu ? MakeCellMenuLine("edit", StyleSelectedLcvs, subject)
+                                           : MakeDoubleClickLine("edit", StyleSelectedLcvs, subject);
+            EXPECT_EQ(ask("unset -nocomplain got"), "");
+            ASSERT_EQ(Tcl_Eval(interp, line.Payload()), TCL_OK) << line.Payload();
+            EXPECT_EQ(ask("llength $got"), fromMenu ? "3" : "2");
+            EXPECT_EQ(ask("lindex $got 0"), names.design);
+            if (fromMenu) {
+                EXPECT_EQ(ask("lindex $got 1"), "-lcvs");
+            }
+            if (!isHarmless) continue;
+            std::vector<std::string> wanted;
+            for (const TLibCellView& cell : subject.selected)
+                for (const CStringU* name : {&cell.library, &cell.cell, &cell.view})
+                    wanted.emplace_back(name->Payload());
+            EXPECT_EQ(ask("set all {}; foreach c [lindex $got end] {lappend all {*}$c}; set all"),
+                      RecordingHost::List(wanted));
+        }
+        if (isHarmless) continue;
+        Tcl_SetVar(interp, "wanted", names.cell.cell.Payload(), TCL_GLOBAL_ONLY);
+        EXPECT_EQ(ask("catch {lindex [lindex $got end] 1 1} name; expr {$name eq $wanted}"), "0")
+            << "no list can be made of it";
+    }
+    EXPECT_EQ(Tcl_GetVar(interp, "hit", TCL_GLOBAL_ONLY), nullptr);
+}
+
 }  // namespace

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "tests/browser/AnsweringWindow.h"
 #include "tests/celllist/CellListFixture.h"
 #include "tests/toolkit/RecordingPeers.h"
+#include "text/PlatformClipboard.h"
+#include "toolkit/MemoryClipboard.h"
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListCommand.h"
 #include "vapp/toolkit/Clipboard.h"
@@ -103,6 +106,7 @@ TEST_F(CellCommandsTest, TheHostsHandlersAreForgottenBeforeEachMenu) {
     RightClick();
     EXPECT_EQ(Sent(), TSentLines());
     ASSERT_EQ(m_peers.boxes.size(), 1u);
+    EXPECT_EQ(m_peers.boxes[0].GetTitle(), "tool");
     EXPECT_EQ(m_peers.boxes[0].GetText(), "Not yet implemented.");
     m_fill = [this] { m_browser.SetCommandHandler(SelectHierarchy, "act", StyleCommandOnly); };
     RightClick();
@@ -199,6 +203,28 @@ TEST_F(CellCommandsTest, ClipboardWordsCopyInPlaceOfALine) {
         << "the words are exact";
 }
 
+// Some programs know the system's code page alone: they get all names, and none of the selected ones.
+TEST_F(CellCommandsTest, TheSelectedNamesAreCopiedAsUnicodeAlone) {
+    if (vapp_platform::HasSystemClipboard()) GTEST_SKIP() << "the system has a clipboard of its own";
+    MemoryClipboard clipboard;
+    m_peers.clipboard = &clipboard;
+    Report().OnSelectAll();
+    struct Case {
+        const char* word;
+        const char16_t* text;
+        const char* narrow;
+    };
+    for (const Case& test : {Case{"CopySelectedCellNamesToClipboard", u"A\na\nb\n", ""},
+                             Case{"CopySelectedCellViewsToClipboard", u"l2 A lay\nl1 a sym\nl1 b sch\n", ""},
+                             Case{"CopyAllCellNamesToClipboard", u"A\r\na\r\nb\r\n", "A\r\na\r\nb\r\n"},
+                             Case{"CopyAllCellViewsToClipboard", u"l2 A lay\r\nl1 a sym\r\nl1 b sch\r\n",
+                                  "l2 A lay\r\nl1 a sym\r\nl1 b sch\r\n"}}) {
+        PickCommand(test.word, StyleCommandOnly);
+        EXPECT_EQ(clipboard.GetText(), test.text) << test.word;
+        EXPECT_EQ(clipboard.GetNarrowText(), test.narrow) << test.word;
+    }
+}
+
 TEST_F(CellCommandsTest, CopyingAllOfAnEmptyListEmptiesTheClipboard) {
     if (!SetClipboardText("before")) GTEST_SKIP() << "no clipboard can be opened here";
     AnswerCells({});
@@ -283,17 +309,79 @@ TEST_F(CellCommandsTest, SurvivesTheEndOfTheWindowAtEveryStep) {
 
 TEST_F(CellCommandsTest, SurvivesAHookThatEndsTheWindow) {
     static TLibraryBrowser* s_browser = nullptr;
+    static int s_calls = 0;
     s_browser = &m_browser;
+    s_calls = 0;
     FocusRow(0);
+    const HookGuard hook(nullptr);
     m_look = [](const CMenu&) {
         vapp::gSetTclSanitizeInputUPointer([](const CStringU& name) {
+            ++s_calls;
             s_browser->DestroyWindow();
             return name;
         });
     };
-    PickCommand("act", StyleFocusedLcv);
-    vapp::gSetTclSanitizeInputUPointer(nullptr);
+    EXPECT_EQ(PickCommand("act", StyleFocusedLcv), TSentLines{"logaction act top l2 A lay"})
+        << "what was picked is done; the names were read before";
+    EXPECT_GE(s_calls, 1);
     EXPECT_FALSE(m_browser.IsWindow());
+}
+
+TEST_F(CellCommandsTest, SurvivesTheEndOfTheWindowWhileTheMenuOfAHeaderIsOpen) {
+    m_look = [this](const CMenu&) { m_browser.DestroyWindow(); };
+    m_pick = FirstViewName;
+    int left = 1;
+    for (int at = 0; Report().GetColumns().GetAt(at) != &Column("View"); ++at)
+        left += Report().GetColumns().GetAt(at)->GetShownWidth();
+    Report().ContextMenuByPeer(Report().ClientToScreen({left, 1}));
+    EXPECT_EQ(m_shown, 1);
+    EXPECT_FALSE(m_browser.IsWindow());
+    EXPECT_TRUE(m_host.LinesStarting(csCount).empty()) << "and nothing was fetched";
+}
+
+TEST_F(CellCommandsTest, RowsThatAreGoneAreNotAmongTheSelectedCells) {
+    Report().OnSelectAll();
+    m_host.AnswerCode(csCount, 1);
+    m_host.HandleStart(csList, [](Tcl_Interp*) { return 1; });
+    Repopulate();
+    ASSERT_EQ(Report().GetCellViewCount(), 0u);
+    Report().GetSelectedRows().AddBlock(0, 0);
+    EXPECT_EQ(PickCommand("act", StyleSelectedLcvs), TSentLines{"logaction act top -lcvs {}"});
+    if (!SetClipboardText("before")) GTEST_SKIP() << "no clipboard can be opened here";
+    PickCommand("CopySelectedCellNamesToClipboard", StyleCommandOnly);
+    PickCommand("CopySelectedCellViewsToClipboard", StyleCommandOnly);
+    EXPECT_EQ(GetClipboardText(), "before");
+}
+
+TEST_F(CellCommandsTest, TheHeaderOfAHostsOwnColumnHasNoMenuAndIsNoEmptyPlace) {
+    CXTPReportControl& report = Report();
+    CXTPReportColumn* column = report.AddColumn(std::make_unique<CXTPReportColumn>(90, "Own", "Own", 60));
+    ASSERT_NE(column, nullptr);
+    int left = 1;
+    for (int at = 0; report.GetColumns().GetAt(at) != column; ++at)
+        left += report.GetColumns().GetAt(at)->GetShownWidth();
+    Report().ContextMenuByPeer(Report().ClientToScreen({left, 1}));
+    EXPECT_EQ(m_shown, 0);
+    Type("a");
+    Report().DoubleClickedByUser({left, 1});
+    EXPECT_EQ(FilterEdit().GetWindowText(), "a");
+}
+
+TEST_F(CellCommandsTest, AMenuWithinAnOpenMenuTakesItsHandlers) {
+    int depth = 0;
+    m_fill = [&] {
+        m_browser.AddCellListMenuCommand("Act", depth == 0 ? "outer" : "inner", StyleCommandOnly, false,
+                                         false, false);
+    };
+    m_look = [&](const CMenu&) {
+        if (depth++ > 0) return;
+        m_pick = 0;
+        RightClick();
+        m_pick = FirstHostCommand;
+    };
+    RightClick();
+    EXPECT_EQ(m_shown, 2);
+    EXPECT_EQ(Sent(), TSentLines{"logaction inner"}) << "handlers are one map, which each menu begins anew";
 }
 
 TEST_F(CellCommandsTest, AMenuItemMayStartAPopulation) {

@@ -22,6 +22,7 @@ protected:
             m_start = start;
             const std::any* data = source.GetData(CLibCellViewOleDataSource::ClipboardFormatLibCellView);
             const auto* record = std::any_cast<CLibCellViewOleData>(data);
+            m_text = source.GetText();
             m_record = record != nullptr ? std::make_unique<CLibCellViewOleData>(*record) : nullptr;
             if (m_during) m_during(source);
             return m_effect;
@@ -34,6 +35,7 @@ protected:
 
     std::function<void(COleDataSource&)> m_during;
     std::unique_ptr<CLibCellViewOleData> m_record;
+    CStringU m_text;
     CRect m_start;
     UINT m_effects = 0;
     UINT m_effect = cnDropCopy;
@@ -61,6 +63,14 @@ TEST_F(CellDragTest, TheRowUnderThePointerIsDraggedWhateverIsSelected) {
     EXPECT_EQ(m_effects, 5u) << "copy and link";
     EXPECT_EQ(m_start.top, Report().GetHeaderHeight() + Report().GetRowHeight());
     EXPECT_EQ(m_start.Height(), Report().GetRowHeight());
+}
+
+TEST_F(CellDragTest, OtherProgramsGetTheThreeNamesAsTheyAre) {
+    EXPECT_TRUE(Report().OnBeginDrag(InRow(1), 0));
+    EXPECT_EQ(m_text, "l2 b lay");
+    const HookGuard hook;
+    EXPECT_TRUE(Report().StartDragAndDrop(false, {"my lib", "a\"b", ""}, nullptr));
+    EXPECT_EQ(m_text, "my lib a\"b ") << "no line is made of them, so no hook makes them safe";
 }
 
 TEST_F(CellDragTest, TheSecondBitOfTheFlagsIsTheRightButton) {
@@ -138,15 +148,50 @@ TEST_F(CellDragTest, TheHostMayFetchRowsOrEndTheWindowDuringADrag) {
 }
 
 TEST_F(CellDragTest, ARecordIsCopiedWhole) {
-    const CLibCellViewOleData record("d", {"l", "c", "v"}, true);
+    CLibCellViewOleData record("d", {"l", "c", "v"}, true);
+    record.sortKey = "k";
     CLibCellViewOleData other("", {}, false);
     other = record;
+    EXPECT_EQ(other.sortKey, "k");
     const CLibCellViewOleData copy(other);
+    EXPECT_EQ(copy.sortKey, "k");
     EXPECT_EQ(copy.design, "d");
     EXPECT_EQ(copy.library, "l");
     EXPECT_EQ(copy.cell, "c");
     EXPECT_EQ(copy.view, "v");
     EXPECT_TRUE(copy.startedByRightButton);
+}
+
+TEST_F(CellDragTest, WhileRowsAreFetchedNoneCanBeDragged) {
+    bool asked = false;
+    m_host.HandleStart(csList, [&](Tcl_Interp*) {
+        asked = true;
+        EXPECT_FALSE(Report().OnBeginDrag(InRow(0), 0));
+        EXPECT_FALSE(Report().QueryDragAndDrop(false, InRow(0)));
+        return 0;
+    });
+    Repopulate();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(m_drags, 0);
+}
+
+TEST_F(CellDragTest, ADragCanBeStartedWithoutAPlace) {
+    EXPECT_TRUE(Report().StartDragAndDrop(true, {"l", "c", "v"}, nullptr));
+    EXPECT_EQ(m_start, CRect());
+    EXPECT_TRUE(m_record->startedByRightButton);
+}
+
+TEST_F(CellDragTest, TheLastSourceEndsWithTheList) {
+    std::weak_ptr<int> kept;
+    m_during = [&kept](COleDataSource& source) {
+        const auto token = std::make_shared<int>(1);
+        kept = token;
+        source.CacheData("token", token);
+    };
+    EXPECT_TRUE(Report().OnBeginDrag(InRow(0), 0));
+    EXPECT_FALSE(kept.expired());
+    m_browser.DestroyWindow();
+    EXPECT_TRUE(kept.expired());
 }
 
 }  // namespace

@@ -81,7 +81,11 @@ DesktopProgram::~DesktopProgram() {
 }
 
 void DesktopProgram::Start(const QStringList& words) {
-    m_process.start(QStringLiteral(NAVIGATOR_PROGRAM), words);
+    StartProgram(QStringLiteral(DESKTOP_PROGRAM), words);
+}
+
+void DesktopProgram::StartProgram(const QString& program, const QStringList& words) {
+    m_process.start(program, words);
 }
 
 std::optional<QString> DesktopProgram::WaitFor(const QString& word,

@@ -33,13 +33,16 @@ private:
     std::string m_whyNot;
 };
 
-/// The navigator on a desktop, with settings and run-time files in a folder of its own.
+/// A program on a desktop, the navigator or an example, with settings and run-time files in a folder of its
+/// own.
 class DesktopProgram {
 public:
     DesktopProgram(const Desktop& desktop, const std::filesystem::path& home);
     ~DesktopProgram();
 
+    /// Starts the program that DESKTOP_PROGRAM names at the build of the test.
     void Start(const QStringList& words);
+    void StartProgram(const QString& program, const QStringList& words);
     /// Waits for a line of the standard output that begins with the word and is what is wanted; gives what
     /// follows the word. Lines that have gone by count if none came after them.
     std::optional<QString> WaitFor(const QString& word, const std::function<bool(const QString&)>& isWanted);

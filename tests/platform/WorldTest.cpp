@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "text/PlatformScreen.h"
+
 namespace {
 
 using vapp_platform::CurrentWorld;
@@ -33,6 +35,13 @@ TEST_F(WorldTest, NativeLinuxIsWinesWorldButNotWine) {
     for (const bool answer : {false, true}) {
         SetWineAnswer(answer);
         EXPECT_EQ(vapp_platform::IsWindowsUnderWine(), answer);
+    }
+}
+
+TEST_F(WorldTest, OnlyWineMovesPixelsAlong) {
+    for (const bool answer : {false, true}) {
+        SetWineAnswer(answer);
+        EXPECT_EQ(vapp_platform::MovedWindowsKeepOldPixels(), answer);
     }
 }
 

@@ -2,8 +2,15 @@
 /// Mouse, keys, wheel and bars of a view of rows, by a report; and the copy of the selection for onlookers.
 #include "toolkit/qt/QtRowView.h"
 
+#include <QDropEvent>
+#include <QEventLoop>
+#include <QMimeData>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
+#include <utility>
+#include <vector>
 
 #include "tests/qt/QtTestReport.h"
 
@@ -190,4 +197,118 @@ TEST_F(QtRowViewTest, AKeyThatEndsTheWindowIsNoHarm) {
     QTest::keyClick(View(), Qt::Key_Right);
     QTest::keyClick(View(), Qt::Key_Down);
     EXPECT_FALSE(report.IsWindow());
+}
+
+// --- Dragging rows out ---------------------------------------------------------------------------------
+
+class QtRowViewDragTest : public testing::Test {
+protected:
+    QtRowViewDragTest() {
+        report.Create(&shown.form, 7, {0, 0, 300, 200});
+        report.AddNamedColumn("Cell", 140);
+        report.EnableDragDrop("format", 6);
+        report.SetRows(100);
+        QApplication::processEvents();
+    }
+    [[nodiscard]] QWidget& Rows() { return *gWidgetAs<vapp_qt::QtReportView>(report)->viewport(); }
+    [[nodiscard]] QPoint At(int row, int x = 20) const {
+        return {x, row * report.GetRowHeight() + report.GetRowHeight() / 2};
+    }
+    void Send(QEvent::Type type, QPoint at, Qt::MouseButton button) {
+        const bool moves = type == QEvent::MouseMove;
+        QMouseEvent event(type, at, Rows().mapToGlobal(at), moves ? Qt::NoButton : button,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
+        QApplication::sendEvent(&Rows(), &event);
+    }
+
+    ShownFrame shown;
+    DraggedReport report;
+};
+
+TEST_F(QtRowViewDragTest, ARowIsDraggedOnceThePointerHasLeftIt) {
+    gSendMouse(Rows(), QEvent::MouseButtonPress, At(2));
+    gSendMouse(Rows(), QEvent::MouseMove, At(2, 280));
+    EXPECT_TRUE(report.begun.empty()) << "still within the row";
+    gSendMouse(Rows(), QEvent::MouseMove, At(3, 60));
+    ASSERT_EQ(report.begun.size(), 1u);
+    EXPECT_EQ(report.begun[0].point.x, 20) << "where the button went down";
+    EXPECT_EQ(report.begun[0].point.y, At(2).y() + report.GetHeaderHeight());
+    EXPECT_EQ(report.begun[0].flags, 1u);
+    gSendMouse(Rows(), QEvent::MouseMove, At(5));
+    EXPECT_EQ(report.begun.size(), 1u) << "once";
+    EXPECT_EQ(report.GetSelectedRows().GetSelection().GetRanges(), (std::vector<RowSelection::Range>{{2, 2}}))
+        << "the pointer's way selects nothing";
+}
+
+TEST_F(QtRowViewDragTest, ARowIsDraggedOutAtTheSideToo) {
+    gDrag(Rows(), At(2), At(2, 500));
+    EXPECT_EQ(report.begun.size(), 1u);
+}
+
+TEST_F(QtRowViewDragTest, TheFlagsTellTheButton) {
+    for (const auto& [button, flags] :
+         {std::pair(Qt::LeftButton, 1u), std::pair(Qt::RightButton, 2u), std::pair(Qt::MiddleButton, 0u)}) {
+        report.begun.clear();
+        Send(QEvent::MouseButtonPress, At(1), button);
+        Send(QEvent::MouseMove, At(4), button);
+        Send(QEvent::MouseButtonRelease, At(4), button);
+        ASSERT_EQ(report.begun.size(), flags != 0 ? 1u : 0u);
+        if (flags != 0) {
+            EXPECT_EQ(report.begun[0].flags, flags);
+        }
+    }
+}
+
+TEST_F(QtRowViewDragTest, AClickOrAPressBelowTheRowsDragsNothing) {
+    gSendMouse(Rows(), QEvent::MouseButtonPress, At(1));
+    gSendMouse(Rows(), QEvent::MouseButtonRelease, At(1));
+    gSendMouse(Rows(), QEvent::MouseMove, At(4));
+    report.SetRows(2);
+    gDrag(Rows(), At(3), At(0));
+    EXPECT_TRUE(report.begun.empty());
+}
+
+TEST_F(QtRowViewDragTest, RowsThatCameAfterThePressAreNotDragged) {
+    gSendMouse(Rows(), QEvent::MouseButtonPress, At(1));
+    report.SetRows(50);
+    gSendMouse(Rows(), QEvent::MouseMove, At(4));
+    EXPECT_TRUE(report.begun.empty());
+}
+
+TEST_F(QtRowViewDragTest, TheWindowMayEndDuringADrag) {
+    const QPointer<QWidget> rows(&Rows());
+    report.onDrag = [&] {
+        report.DestroyWindow();
+        // The drag waits in a loop of its own.
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, &QEventLoop::quit);
+        loop.exec();
+        EXPECT_FALSE(rows.isNull()) << "its event isn't over";
+    };
+    QEventLoop outer;
+    QTimer::singleShot(0, &outer, [&] {
+        gDrag(*rows, At(1), At(4));
+        outer.quit();
+    });
+    outer.exec();
+    EXPECT_EQ(report.begun.size(), 1u);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(rows.isNull());
+}
+
+TEST_F(QtRowViewDragTest, NothingCanBeDroppedOnRowsNorThroughThem) {
+    gWidgetOf(shown.frame)->setAcceptDrops(true);
+    QMimeData data;
+    data.setText("lib inv sym");
+    ASSERT_TRUE(Rows().acceptDrops()) << "else Qt would ask the window around";
+    QDragEnterEvent enter(At(1), Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Rows(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_EQ(enter.dropAction(), Qt::IgnoreAction);
+    QDragMoveEvent move(At(1), Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Rows(), &move);
+    EXPECT_FALSE(move.isAccepted());
+    QDropEvent drop(At(1), Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Rows(), &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::IgnoreAction);
 }

@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "tests/qt/QtTestFrame.h"
 #include "toolkit/qt/QtReportHeader.h"
@@ -107,6 +108,24 @@ inline void gSendMouse(QWidget& widget, QEvent::Type type, const QPoint& at,
     QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, modifiers);
     QApplication::sendEvent(&widget, &event);
 }
+
+/// A report whose rows can be dragged out; it writes down where a drag began and with which flags.
+class DraggedReport : public FakeReport {
+public:
+    struct Begun {
+        CPoint point;
+        UINT flags;
+    };
+    std::vector<Begun> begun;
+    std::function<void()> onDrag;  ///< what happens while the drag is going on
+
+    bool OnBeginDrag(CPoint point, UINT flags) override {
+        begun.push_back({point, flags});
+        const auto during = onDrag;
+        if (during) during();
+        return false;
+    }
+};
 
 /// Press, move in two steps, release.
 inline void gDrag(QWidget& widget, const QPoint& from, const QPoint& to) {

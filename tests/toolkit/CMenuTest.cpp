@@ -133,4 +133,31 @@ TEST(CMenuTest, TextsOfNamesHaveNoKeys) {
     EXPECT_EQ(gMenuTextOf(""), "");
 }
 
+TEST(CMenuTest, OfTwoItemsWithOneNumberTheOneThatCanBePickedCounts) {
+    RecordingPeers peers;
+    peers.pick = [](const CMenu&) { return 7U; };
+    CWnd owner;
+    CMenu menu;
+    menu.Insert(0, 7, "grey").isEnabled = false;
+    EXPECT_FALSE(menu.Offers(7));
+    EXPECT_EQ(menu.Track(owner, {}), 0u);
+    menu.AppendPopup("more").Append(7, "below");
+    EXPECT_TRUE(menu.Offers(7));
+    EXPECT_EQ(menu.Track(owner, {}), 7u);
+    EXPECT_FALSE(menu.Offers(0)) << "a sub-menu is no command";
+}
+
+TEST(CMenuTest, ThereIsOneDefaultItemInAMenu) {
+    CMenu menu;
+    menu.Append(1, "one");
+    menu.Append(1, "other");
+    menu.SetDefaultAt(1);
+    EXPECT_FALSE(menu.GetItem(0)->isDefault);
+    EXPECT_TRUE(menu.GetItem(1)->isDefault);
+    menu.SetDefaultAt(0);
+    EXPECT_FALSE(menu.GetItem(1)->isDefault);
+    menu.SetDefaultAt(9);
+    EXPECT_TRUE(menu.GetItem(0)->isDefault) << "there is no such place";
+}
+
 }  // namespace

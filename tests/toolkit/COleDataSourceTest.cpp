@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -25,6 +27,24 @@ TEST(COleDataSource, KeepsDataOfAnyTypeUnderItsFormat) {
     EXPECT_EQ(std::any_cast<int>(*source.GetData("A")), 7);
     source.CacheData("a", 8);
     EXPECT_EQ(std::any_cast<int>(*source.GetData("a")), 8);
+}
+
+TEST(COleDataSource, DataThatIsWatchedEndsWithItsSource) {
+    auto source = std::make_unique<COleDataSource>();
+    const std::weak_ptr<const COleDataSource::TData> data = source->WatchData();
+    source->CacheData("a", 7);
+    ASSERT_NE(data.lock(), nullptr);
+    EXPECT_EQ(data.lock()->count("a"), 1u) << "also what came later";
+    source.reset();
+    EXPECT_TRUE(data.expired());
+}
+
+TEST(COleDataSource, HasOneTextForEverybody) {
+    COleDataSource source;
+    EXPECT_TRUE(source.GetText().IsEmpty());
+    source.SetText("lib inv sym");
+    EXPECT_EQ(source.GetText(), "lib inv sym");
+    EXPECT_EQ(source.GetData("text/plain"), nullptr) << "it is no data of a format";
 }
 
 TEST(COleDataSource, WithoutAnAdapterADragEndsWithNoDrop) {

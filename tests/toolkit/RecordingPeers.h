@@ -89,10 +89,11 @@ public:
         for (auto& [window, record] : m_records)
             record->Forget();
     }
-    CPoint cursor;                     ///< what CursorPosition answers
-    std::vector<CRect> monitors;       ///< what MonitorAreas answers
-    std::vector<TMessageBox> boxes;    ///< those that were shown
-    std::optional<int> answer = IDOK;  ///< to every box; nothing: boxes can't be shown
+    ClipboardPeer* clipboard = nullptr;  ///< the toolkit's clipboard; none
+    CPoint cursor;                       ///< what CursorPosition answers
+    std::vector<CRect> monitors;         ///< what MonitorAreas answers
+    std::vector<TMessageBox> boxes;      ///< those that were shown
+    std::optional<int> answer = IDOK;    ///< to every box; nothing: boxes can't be shown
     /// The user of menus: sees one and gives the command that is picked.
     std::function<UINT(const CMenu& menu)> pick;
     /// The user of dialogs.
@@ -127,6 +128,7 @@ public:
     }
     [[nodiscard]] std::vector<CRect> MonitorAreas() const override { return monitors; }
     [[nodiscard]] CPoint CursorPosition() const override { return cursor; }
+    [[nodiscard]] ClipboardPeer* GetClipboard() override { return clipboard; }
 
 private:
     std::unique_ptr<Peer> Make(const CWnd& window, const char* kind) {

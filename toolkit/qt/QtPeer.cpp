@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QThread>
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "toolkit/qt/QtText.h"
 
@@ -17,6 +19,8 @@ namespace {
 
 int s_paintingDepth = 0;
 int s_tellingDepth = 0;
+// Widgets without a control, which wait for the end of the event.
+std::vector<QPointer<QWidget>> s_ended;
 
 QtPeer* PeerOf(const CWnd& window) {
     return dynamic_cast<QtPeer*>(window.GetPeer());
@@ -44,7 +48,12 @@ QtPeer::~QtPeer() {
     m_widget->removeEventFilter(this);
     // Without its application object Qt can't end a widget in order; the process is about to end anyway.
     if (QCoreApplication::instance() == nullptr) return;
-    if (QtBusyScope::IsActive() || QThread::currentThread()->loopLevel() > 0) {
+    if (QtBusyScope::IsActive()) {
+        // The event may be waiting in a loop of its own, for a menu or a drag: there `deleteLater` would end
+        // the widget under its feet.
+        m_widget->hide();
+        s_ended.push_back(m_widget);
+    } else if (QThread::currentThread()->loopLevel() > 0) {
         m_widget->hide();
         m_widget->deleteLater();
     } else {
@@ -160,6 +169,10 @@ QtBusyScope::QtBusyScope(TKind kind) : m_kind(kind) {
 
 QtBusyScope::~QtBusyScope() {
     --(m_kind == TKind::Painting ? s_paintingDepth : s_tellingDepth);
+    if (IsActive()) return;
+    for (const QPointer<QWidget>& widget : std::exchange(s_ended, {})) {
+        if (widget) widget->deleteLater();
+    }
 }
 
 bool QtBusyScope::IsPainting() {

@@ -11,6 +11,7 @@
 #include "toolkit/qt/QtClipboard.h"
 #include "toolkit/qt/QtComboPeer.h"
 #include "toolkit/qt/QtDialogPeer.h"
+#include "toolkit/qt/QtDrag.h"
 #include "toolkit/qt/QtEditPeer.h"
 #include "toolkit/qt/QtFormPeer.h"
 #include "toolkit/qt/QtFramePeer.h"
@@ -30,6 +31,7 @@
 #include "vapp/toolkit/CEdit.h"
 #include "vapp/toolkit/CFrameWnd.h"
 #include "vapp/toolkit/CListCtrl.h"
+#include "vapp/toolkit/COleDataSource.h"
 #include "vapp/toolkit/CSplitterWnd.h"
 #include "vapp/toolkit/CStatic.h"
 #include "vapp/toolkit/CTabCtrl.h"
@@ -51,6 +53,7 @@ QtPeerFactory::~QtPeerFactory() {
 void QtPeerFactory::Install() {
     static QtPeerFactory factory;
     PeerFactory::Install(&factory);
+    COleDataSource::InstallDragRunner(&gRunDrag);
 }
 
 std::unique_ptr<Peer> QtPeerFactory::CreateFrame(CFrameWnd& frame) {

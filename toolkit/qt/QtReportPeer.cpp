@@ -85,6 +85,14 @@ void QtReportControl::DoubleClick(CPoint client) {
     m_report.DoubleClickedByUser(client);
 }
 
+bool QtReportControl::CanDrag() const {
+    return !m_report.GetDragFormat().IsEmpty();
+}
+
+void QtReportControl::BeginDrag(CPoint client, UINT flags) {
+    m_report.DragBegunByUser(client, flags);
+}
+
 bool QtReportControl::Find() {
     return m_report.KeyByPeer(TKey::Find, {});
 }
@@ -139,6 +147,7 @@ void QtReportPeer::TellView(UINT changes) {
     QtReportView* const view = View();
     if ((changes & cnChangeItems) != 0) {
         m_model.ResetRows();
+        view->ForgetPress();
     } else if ((changes & cnChangeColumns) != 0) {
         m_model.ResetColumns();
     }

@@ -32,6 +32,8 @@ public:
     void ContextClick(int row) override;
     void ContextMenu(CPoint client) override;
     void DoubleClick(CPoint client) override;
+    [[nodiscard]] bool CanDrag() const override;
+    void BeginDrag(CPoint client, UINT flags) override;
     bool Find() override;
     void Key(TKey key, TModifiers modifiers) override;
     void Type(const CStringU& text, std::int64_t milliseconds) override;

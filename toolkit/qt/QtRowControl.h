@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "vapp/text/CStringU.h"
+#include "vapp/toolkit/BasicTypes.h"
 #include "vapp/toolkit/CPoint.h"
 #include "vapp/toolkit/CSize.h"
 #include "vapp/toolkit/InputTypes.h"
@@ -42,6 +43,11 @@ public:
     /// The menu of what is at a client point, asked for by mouse or key.
     virtual void ContextMenu(CPoint client) = 0;
     virtual void DoubleClick(CPoint client) = 0;
+    /// Whether rows can be dragged out; else the pointer's way over them selects them.
+    [[nodiscard]] virtual bool CanDrag() const { return false; }
+    /// The user drags what is at a client point; bit 0 of the flags is the left button, bit 1 the right one.
+    /// Comes back when the drag is over.
+    virtual void BeginDrag(CPoint /*client*/, UINT /*flags*/) {}
     /// The user wants to look for something; true if that has led somewhere.
     virtual bool Find() = 0;
     virtual void Key(TKey key, TModifiers modifiers) = 0;

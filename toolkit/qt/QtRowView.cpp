@@ -4,7 +4,9 @@
 #include "toolkit/qt/QtRowView.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -56,6 +58,8 @@ QtRowView::QtRowView(QtRowControl& control, QWidget* parent)
     setSelectionBehavior(SelectRows);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // So that what is refused here isn't offered to the windows around; see `dragEnterEvent`.
+    viewport()->setAcceptDrops(true);
 }
 
 void QtRowView::Detach() {
@@ -241,20 +245,48 @@ void QtRowView::mousePressEvent(QMouseEvent* event) {
     if (m_control == nullptr) return;
     const QtBusyScope busy;
     const int row = RowAt(event->position().toPoint());
-    m_draggedTo = event->button() == Qt::LeftButton ? row : -1;
+    const bool canDrag = m_control->CanDrag();
+    m_draggedTo = event->button() == Qt::LeftButton && !canDrag ? row : -1;
+    m_pressedRow = canDrag ? row : -1;
+    m_pressed = event->position().toPoint();
+    m_pressedButton = event->button();
     if (event->button() == Qt::LeftButton) m_control->Click(row, ModifiersOf(event->modifiers()));
     if (event->button() == Qt::RightButton) m_control->ContextClick(row);
 }
 
-// Dragging over rows selects them, as shift and a click would; beyond an edge it scrolls row by row.
 void QtRowView::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
-    if (m_control == nullptr || m_draggedTo < 0 || !event->buttons().testFlag(Qt::LeftButton)) return;
-    const int row = DragTarget(event->position().toPoint().y());
+    if (m_control == nullptr) return;
+    if (m_draggedTo >= 0 && event->buttons().testFlag(Qt::LeftButton)) SelectAlong(*event);
+    if (m_pressedRow >= 0 && event->buttons().testFlag(m_pressedButton)) DragOut(*event);
+}
+
+void QtRowView::ForgetPress() {
+    m_pressedRow = -1;
+}
+
+// A row is dragged once the pointer has left it. What is dragged is what was pressed, wherever the pointer
+// is.
+void QtRowView::DragOut(const QMouseEvent& event) {
+    const QPoint at = event.position().toPoint();
+    const bool isFar = (at - m_pressed).manhattanLength() >= QApplication::startDragDistance();
+    if (!isFar || RowRect(m_pressedRow).contains(at)) return;
+    UINT flags = 0;
+    if (m_pressedButton == Qt::LeftButton) flags = 1;
+    if (m_pressedButton == Qt::RightButton) flags = 2;
+    m_pressedRow = -1;
+    if (flags == 0) return;
+    const QtBusyScope busy;
+    m_control->BeginDrag(ClientPoint(m_pressed), flags);
+}
+
+// Rows that are passed are selected, as shift and a click would; beyond an edge it scrolls row by row.
+void QtRowView::SelectAlong(const QMouseEvent& event) {
+    const int row = DragTarget(event.position().toPoint().y());
     if (row < 0 || row == m_draggedTo) return;
     m_draggedTo = row;
     const QtBusyScope busy;
-    m_control->Click(row, {.shift = true, .control = event->modifiers().testFlag(Qt::ControlModifier)});
+    m_control->Click(row, {.shift = true, .control = event.modifiers().testFlag(Qt::ControlModifier)});
 }
 
 int QtRowView::DragTarget(int y) const {
@@ -266,6 +298,23 @@ int QtRowView::DragTarget(int y) const {
 void QtRowView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
     m_draggedTo = -1;
+    m_pressedRow = -1;
+}
+
+// Nothing can be dropped on rows. The drag is taken, so that Qt doesn't ask the parents, one of which may be
+// a host's window that takes files, and refused at every place.
+void QtRowView::dragEnterEvent(QDragEnterEvent* event) {
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
+}
+
+void QtRowView::dragMoveEvent(QDragMoveEvent* event) {
+    event->ignore();
+}
+
+void QtRowView::dropEvent(QDropEvent* event) {
+    event->setDropAction(Qt::IgnoreAction);
+    event->ignore();
 }
 
 void QtRowView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -32,6 +32,9 @@ public:
     /// Selection or focus is another: paints, and soon copies it for onlookers.
     void ApplySelection();
 
+    /// The rows are others: what was pressed isn't what would be dragged.
+    void ForgetPress();
+
     /// The row at a point of the viewport, -1 for none.
     [[nodiscard]] int RowAt(const QPoint& point) const;
     /// The row's place in the viewport, as wide as it.
@@ -69,8 +72,13 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
+    void SelectAlong(const QMouseEvent& event);
+    void DragOut(const QMouseEvent& event);
     void ApplyBar(QScrollBar& bar, int last, int page, int step, int value);
     void MirrorSelection();
     void Type(const QString& text);
@@ -80,7 +88,10 @@ private:
     QtRowControl* m_control;
     bool m_applyingBars = false;
     bool m_mirrorPending = false;
-    int m_draggedTo = -1;  ///< row of the drag that is under way
+    int m_draggedTo = -1;   ///< row of the selecting that is under way
+    int m_pressedRow = -1;  ///< row that may be dragged out
+    QPoint m_pressed;
+    Qt::MouseButton m_pressedButton = Qt::NoButton;
 };
 
 }  // namespace vapp_qt

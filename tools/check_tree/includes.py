@@ -39,7 +39,7 @@ OPEN_ROOMS = {"tests", "bench", "fuzz"}
 # Outside libraries: name, headers, the folders that may know them.
 LIBRARIES = [
     ("Qt", r"Q[A-Z]\w*$|Qt[A-Z]\w*/", {"toolkit/qt", "host", "examples", "tests/qt", "tests/host", "tests/embedding/qt",
-                                       "bench"}),
+                                       "tests/examples/drop-target", "bench"}),
     ("ICU", r"unicode/", {"platform/posix", "bench"}),
     ("GLib", r"glib(\.h$|/)", {"bench"}),
     ("Google Benchmark", r"benchmark/", {"bench"}),

@@ -16,8 +16,9 @@
 /// setting of the excluded views.
 ///
 /// DestroyWindow may come from inside of a line; the panes' objects then live on until the next Initialize or
-/// the end of this object. The object itself must not be destroyed from inside of a line,
-/// nor while a menu, a drag or a message of the navigator is open.
+/// the end of this object. The object itself may be destroyed while a menu or a drag of the navigator is
+/// open, and by the command that a menu or a double click runs: then the panes' objects live on until the
+/// next navigator's Initialize. It must not be destroyed from inside of any other line or message.
 #pragma once
 
 #include <cstddef>

@@ -56,6 +56,7 @@ public:
 protected:
     /// Asks the host to fill a menu, shows it, and runs what the user picks.
     void OnContextMenu(CWnd& from, CPoint screen) override;
+    void OnDestroy() override;
 
 private:
     [[nodiscard]] int RowUnderCursor() const;

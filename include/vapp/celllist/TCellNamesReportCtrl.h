@@ -31,6 +31,7 @@
 #include "vapp/browser/THostMenu.h"
 #include "vapp/browser/TLibCellView.h"
 #include "vapp/browser/TLibraryBrowserTclInterfaceStyle.h"
+#include "vapp/celllist/TCellListCommand.h"
 #include "vapp/text/CStringIU.h"
 #include "vapp/toolkit/CXTPReportControl.h"
 
@@ -293,7 +294,7 @@ public:
     void SetOptions(TOptions options) { m_options = std::move(options); }
 
     /// First identifier of the names in the menu of the view filter.
-    static constexpr UINT cnBaseID = 43000;
+    static constexpr UINT cnBaseID = FirstViewName;
     /// Puts the names into a menu, in the order of the set, those of the filter checked, behind an item for
     /// all of them. The menu's first item, which stands for them until then, goes; null does nothing.
     void CreateViewNameFilterMenu(CMenu* menu, const std::set<CStringIU>& views) const;
@@ -309,7 +310,7 @@ public:
 
     /// The user begins to drag at a client point; bit 1 of the flags says that it is by the right button.
     /// True if it ended with a drop.
-    virtual bool OnBeginDrag(CPoint point, unsigned flags);
+    bool OnBeginDrag(CPoint point, UINT flags) override;
     /// Drags the row under a client point; false, with nothing done, without one or while the rows are not
     /// complete.
     bool QueryDragAndDrop(bool rightButton, CPoint point);

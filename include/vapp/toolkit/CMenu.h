@@ -55,7 +55,8 @@ public:
     void AppendSeparator() { InsertSeparator(GetItemCount()); }
     /// Adds an empty sub-menu and gives it back.
     CMenu& AppendPopup(const CStringU& text);
-    void Insert(int position, UINT id, const CStringU& text);
+    /// The new item, whose state may be set until the menu is changed again.
+    TItem& Insert(int position, UINT id, const CStringU& text);
     void InsertSeparator(int position);
     /// A null menu adds nothing.
     void InsertPopup(int position, const CStringU& text, std::unique_ptr<CMenu> subMenu);
@@ -69,6 +70,10 @@ public:
     [[nodiscard]] bool IsEnabled(UINT id) const;
     /// Makes the command the default of its menu, in place of any other there.
     void SetDefault(UINT id);
+    /// The same for the item at a place, whatever its number is.
+    void SetDefaultAt(int position);
+    /// Whether the user can pick a command of this number here or in a sub-menu.
+    [[nodiscard]] bool Offers(UINT id) const;
 
     /// Shows the menu at a point of the screen and waits for the user. The identifier of the picked command;
     /// 0 if none was picked, if it could not be picked (disabled, not here), and where nobody can show menus.

@@ -53,6 +53,8 @@ protected:
     [[nodiscard]] virtual bool MayFreePanes() const;
     /// Frees the panes that were kept.
     void FreeEndedPanes();
+    /// The panes that were kept, for someone who keeps them longer than this object lives.
+    [[nodiscard]] std::vector<std::unique_ptr<CView>> TakeEndedPanes();
 
 private:
     [[nodiscard]] bool IsCell(int row, int column) const;

@@ -103,7 +103,8 @@ public:
     [[nodiscard]] UINT GetImageListResource() const { return m_imageResource; }
     [[nodiscard]] int GetImageWidth() const { return m_imageWidth; }
     [[nodiscard]] COLORREF GetImageMaskColor() const { return m_imageMask; }
-    /// Clipboard format and permissions of dragging rows out.
+    /// Clipboard format and permissions of dragging rows out. With an empty format, as from the start, no row
+    /// can be dragged, and the pointer's way over rows selects them.
     void EnableDragDrop(const CString& format, UINT flags);
     [[nodiscard]] const CString& GetDragFormat() const { return m_dragFormat; }
     [[nodiscard]] UINT GetDragFlags() const { return m_dragFlags; }
@@ -118,11 +119,17 @@ public:
     void ContextClickedByUser(int row);
     /// A double click at a client point: `OnDoubleClick` follows. The row has got its click before.
     void DoubleClickedByUser(CPoint point);
+    /// The user drags what is at a client point, where a button went down: `OnBeginDrag` follows.
+    bool DragBegunByUser(CPoint point, UINT flags);
     void KeyPressedByUser(TKey key, TModifiers modifiers);
     /// Type-ahead, as for lists, over `GetTypeAheadText`.
     void TypedByUser(const CStringU& text, std::int64_t milliseconds);
     /// The peer scrolled by wheel or scroll bar.
     void ScrolledByUser(int topRow, int scrollX);
+
+    /// The user begins to drag at a client point; bit 0 of the flags stands for the left mouse button, bit 1
+    /// for the right one. True if it ended with a drop. The base drags nothing.
+    virtual bool OnBeginDrag(CPoint point, UINT flags);
 
     /// Text that type-ahead compares for a row; must be cheap. The base has none.
     [[nodiscard]] virtual CStringU GetTypeAheadText(int row) const;

@@ -1,0 +1,122 @@
+/// @file
+/// A cell is dragged by a real pointer: onto the canvas of the same program, onto another program, and onto
+/// the list itself.
+#include <gtest/gtest.h>
+
+#include <QPoint>
+#include <QStringList>
+#include <memory>
+
+#include "tests/host/Desktop.h"
+#include "tests/host/TempFolder.h"
+
+namespace {
+
+using navigator_test::Desktop;
+using navigator_test::DesktopProgram;
+
+class DropTargetTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() { s_desktop = std::make_unique<Desktop>(); }
+    static void TearDownTestSuite() { s_desktop.reset(); }
+
+    void SetUp() override {
+        if (!s_desktop->WhyNot().empty()) GTEST_SKIP() << s_desktop->WhyNot();
+        m_navigator = std::make_unique<DesktopProgram>(*s_desktop, m_home.Path());
+        m_navigator->Start({QStringLiteral("--tell")});
+        // The canvas and four rows.
+        const auto told = m_navigator->WaitFor(QStringLiteral("places"), [](const QString& places) {
+            return places.count(QLatin1Char(' ')) == 9;
+        });
+        ASSERT_TRUE(told) << m_navigator->Errors();
+        const QStringList numbers = told->split(QLatin1Char(' '));
+        for (int at = 0; at + 1 < numbers.size(); at += 2)
+            m_places.emplace_back(numbers[at].toInt(), numbers[at + 1].toInt());
+    }
+
+    [[nodiscard]] QPoint MiddleOfCanvas() const { return m_places[0]; }
+    [[nodiscard]] QPoint Row(std::size_t row) const { return m_places[row + 1]; }
+
+    // First just out of the row; on its way the pointer stops often, as a hand's does.
+    void Drag(QPoint from, QPoint to) {
+        const QPoint out = from + QPoint(0, from.y() < to.y() ? 30 : -30);
+        ASSERT_TRUE(s_desktop->Do(At(from) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")} +
+                                  At(from + (out - from) / 2) + At(out)));
+        ASSERT_TRUE(Hear("drag", "begun")) << m_navigator->Errors();
+        QStringList words;
+        for (int step = 1; step <= cnSteps; ++step)
+            words += At(out + (to - out) * step / cnSteps);
+        words += At(to + QPoint(1, 0));
+        ASSERT_TRUE(s_desktop->Do(words));
+    }
+    void Release() {
+        ASSERT_TRUE(s_desktop->Do({QStringLiteral("mouseup"), QStringLiteral("1")}));
+        ASSERT_TRUE(Hear("drag", "over")) << m_navigator->Errors();
+    }
+    [[nodiscard]] bool Hear(const char* word, const char* rest) {
+        return m_navigator
+            ->WaitFor(QLatin1String(word),
+                      [rest](const QString& heard) { return heard == QLatin1String(rest); })
+            .has_value();
+    }
+    // Ends a drag over the canvas; the cell that is placed, in words of its line.
+    std::string Drop() {
+        const bool released = s_desktop->Do({QStringLiteral("mouseup"), QStringLiteral("1")}).has_value();
+        const auto told = m_navigator->WaitFor(QStringLiteral("placed"), [](const QString&) { return true; });
+        if (!released || !told || !Hear("drag", "over")) return "none: " + m_navigator->Errors();
+        return told->toStdString();
+    }
+
+    static constexpr int cnSteps = 12;
+    static std::unique_ptr<Desktop> s_desktop;
+    navigator_test::TempFolder m_home;
+    std::unique_ptr<DesktopProgram> m_navigator;
+    std::vector<QPoint> m_places;
+
+private:
+    static QStringList At(QPoint point) {
+        return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
+    }
+};
+
+std::unique_ptr<Desktop> DropTargetTest::s_desktop;
+
+TEST_F(DropTargetTest, TheCanvasOfTheSameProgramReadsTheSixFields) {
+    Drag(Row(3), MiddleOfCanvas());
+    EXPECT_EQ(Drop(), R"("chip" "my io" "pad in" "layout" "" left)");
+    Drag(Row(0), MiddleOfCanvas() + QPoint(0, 100));
+    EXPECT_EQ(Drop(), R"("chip" "logic" "inv" "symbol" "" left)") << "and the next drag is another one";
+}
+
+TEST_F(DropTargetTest, AnotherProgramGetsTheNamesAsText) {
+    DesktopProgram other(*s_desktop, m_home.Path());
+    other.StartProgram(QStringLiteral(TEXT_TARGET), {});
+    const auto place = other.WaitFor(QStringLiteral("places"), [](const QString&) { return true; });
+    ASSERT_TRUE(place) << other.Errors();
+    const QStringList numbers = place->split(QLatin1Char(' '));
+    Drag(Row(3), {numbers[0].toInt(), numbers[1].toInt()});
+    ASSERT_TRUE(other.WaitFor(QStringLiteral("ready"),
+                              [](const QString& answer) { return answer == QStringLiteral("yes"); }));
+    Release();
+    const auto text = other.WaitFor(QStringLiteral("text"), [](const QString&) { return true; });
+    ASSERT_TRUE(text) << other.Errors();
+    EXPECT_EQ(*text, QStringLiteral("\"my io pad in layout\""));
+}
+
+TEST_F(DropTargetTest, ADropOnTheListItselfIsRefused) {
+    Drag(Row(0), Row(2));
+    Release();
+    // What is told next is the drop that follows.
+    Drag(Row(1), MiddleOfCanvas());
+    EXPECT_EQ(Drop(), R"("chip" "logic" "nand2" "symbol" "" left)");
+}
+
+TEST_F(DropTargetTest, EscapeEndsADragWithoutADrop) {
+    Drag(Row(0), MiddleOfCanvas());
+    ASSERT_TRUE(s_desktop->Do({QStringLiteral("key"), QStringLiteral("Escape")}));
+    Release();
+    Drag(Row(2), MiddleOfCanvas());
+    EXPECT_EQ(Drop(), R"("chip" "logic" "nor2" "symbol" "" left)");
+}
+
+}  // namespace
