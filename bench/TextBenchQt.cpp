@@ -47,12 +47,14 @@ struct QtChanges {
         }
     }
 
-private:
     template <Change What>
     [[nodiscard]] static Text Changed(const Text& text) {
         if constexpr (What == Change::Trim) return text.trimmed();
         if constexpr (What == Change::Quote) return u'"' + text + u'"';
-        if constexpr (What == Change::Unquote) return text.sliced(1, text.size() - 2);
+        if constexpr (What == Change::Unquote) {
+            const bool quoted = text.size() > 1 && text.front() == u'"' && text.back() == u'"';
+            return quoted ? text.sliced(1, text.size() - 2) : text;
+        }
         if constexpr (What == Change::Lower) return text.toLower();
         if constexpr (What == Change::Upper) return text.toUpper();
         Text changed = text;
@@ -60,6 +62,26 @@ private:
         if constexpr (What == Change::ReplaceText)
             changed.replace(QLatin1String("_x"), QLatin1String("-by-"));
         return changed;
+    }
+};
+
+// Qt for a program whose texts are UTF-8: in and out each time.
+struct QtUtf8Changes {
+    using Text = std::string;
+    using Change = text_bench::Change;
+    [[nodiscard]] static Text Make(const std::string& text) { return text; }
+
+    template <Change What>
+    [[nodiscard]] std::size_t Run(const Text& text) const {
+        const QString wide = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        if constexpr (What == Change::Tokens) {
+            std::size_t size = 0;
+            for (const QString& token : wide.split(u',', Qt::SkipEmptyParts))
+                size += static_cast<std::size_t>(token.toUtf8().size());
+            return size;
+        } else {
+            return static_cast<std::size_t>(QtChanges::Changed<What>(wide).toUtf8().size());
+        }
     }
 };
 
@@ -74,6 +96,7 @@ void RegisterQtPeers() {
 
 void RegisterQtChangePeers() {
     RegisterChanges<QtChanges>("QString");
+    RegisterChanges<QtUtf8Changes>("QString_utf8");
 }
 
 }  // namespace text_bench

@@ -1,8 +1,13 @@
 /// @file
 /// Changes of whole texts beside std::string (ASCII) and ICU's UnicodeString.
 ///
-/// The standard string's peer is what a careful programmer writes with it. Characters are counted in UTF-16
-/// where the peer has it; ours and the standard string's in bytes, so that the counters agree for ASCII only.
+/// The standard string's peer is what a careful programmer writes with it, for texts that are told at run
+/// time as ours are. Characters are counted in UTF-16 where the peer has it, and in bytes where it has those,
+/// so that the counters of all agree for ASCII only.
+///
+/// ICU and Qt stand there twice. A program like ours has its texts as UTF-8, from the interpreter, from files
+/// and from the system, and hands them on as UTF-8: the "_utf8" peers do that. The others have UTF-16 already
+/// and keep it, which no caller of ours can.
 #include "bench/TextChangesBench.h"
 
 #include <unicode/locid.h>
@@ -32,6 +37,8 @@ struct OursPeer {
                 size += Size(token);
             });
             return size;
+        } else if constexpr (What == Change::IsBlank) {
+            return text.IsBlank() ? 1 : 0;
         } else if constexpr (What == Change::QuotedList) {
             CStringArray items;
             vapp_text::SplitQuoted(text.Stored(), items);
@@ -52,6 +59,9 @@ private:
         if constexpr (What == Change::Lower) return text.ToLower();
         if constexpr (What == Change::Upper) return text.ToUpper();
         if constexpr (What == Change::TrimSet) return text.TrimmedLeft(m_set);
+        if constexpr (What == Change::TrimSetRight) return text.TrimmedRight(m_endSet);
+        if constexpr (What == Change::SpanOf) return text.SpanIncluding(m_set);
+        if constexpr (What == Change::SpanTo) return text.SpanExcluding(m_digits);
         Text changed = text;
         if constexpr (What == Change::ReplaceChar) changed.Replace(u'_', u'-');
         if constexpr (What == Change::ReplaceText) changed.Replace(m_old, m_new);
@@ -65,6 +75,8 @@ private:
     const Text m_new{"-by-"};
     const Text m_asLong{"-y"};
     const Text m_set{"bns_"};
+    const Text m_endSet{"0123456789x_"};
+    const Text m_digits{"0123456789"};
 };
 
 constexpr char Folded(char byte) {
@@ -85,6 +97,8 @@ struct StdPeer {
                 at = text.find_first_not_of(',', end);
             }
             return size;
+        } else if constexpr (What == Change::IsBlank) {
+            return text.find_first_not_of(" \t") == Text::npos ? 1 : 0;
         } else if constexpr (What == Change::QuotedList) {
             return Joined(Split(text)).size();
         } else {
@@ -120,7 +134,7 @@ private:
     }
 
     template <Change What>
-    [[nodiscard]] static Text Changed(const Text& text) {
+    [[nodiscard]] Text Changed(const Text& text) const {
         if constexpr (What == Change::Trim) {
             const std::size_t first = text.find_first_not_of(" \t\n\v\f\r");
             if (first == Text::npos) return {};
@@ -130,22 +144,29 @@ private:
             quoted.reserve(text.size() + 2);
             return quoted.append(1, '"').append(text).append(1, '"');
         } else if constexpr (What == Change::TrimSet) {
-            return text.substr(std::min(text.find_first_not_of("bns_"), text.size()));
+            return text.substr(std::min(text.find_first_not_of(m_set), text.size()));
+        } else if constexpr (What == Change::TrimSetRight) {
+            return text.substr(0, text.find_last_not_of(m_endSet) + 1);
+        } else if constexpr (What == Change::SpanOf) {
+            return text.substr(0, text.find_first_not_of(m_set));
+        } else if constexpr (What == Change::SpanTo) {
+            return text.substr(0, text.find_first_of(m_digits));
         } else if constexpr (What == Change::ReplaceTextNoCase) {
             Text changed = text;
-            const std::string_view wanted = "_x";
             for (auto at = changed.begin(); at != changed.end();) {
-                at = std::search(at, changed.end(), wanted.begin(), wanted.end(),
+                at = std::search(at, changed.end(), m_old.begin(), m_old.end(),
                                  [](char a, char b) { return Folded(a) == Folded(b); });
-                if (at != changed.end()) at = std::copy_n("-y", 2, at);
+                if (at != changed.end()) at = std::copy(m_asLong.begin(), m_asLong.end(), at);
             }
             return changed;
         } else if constexpr (What == Change::Unquote) {
-            return text.substr(1, text.size() - 2);
+            const bool quoted = text.size() > 1 && text.front() == '"' && text.back() == '"';
+            return quoted ? text.substr(1, text.size() - 2) : text;
         } else if constexpr (What == Change::ReplaceText) {
             Text changed = text;
-            for (std::size_t at = changed.find("_x"); at != Text::npos; at = changed.find("_x", at + 4))
-                changed.replace(at, 2, "-by-");
+            for (std::size_t at = changed.find(m_old); at != Text::npos;
+                 at = changed.find(m_old, at + m_new.size()))
+                changed.replace(at, m_old.size(), m_new);
             return changed;
         } else {
             Text changed = text;
@@ -162,6 +183,13 @@ private:
             return changed;
         }
     }
+
+    const Text m_old{"_x"};
+    const Text m_new{"-by-"};
+    const Text m_asLong{"-y"};
+    const Text m_set{"bns_"};
+    const Text m_endSet{"0123456789x_"};
+    const Text m_digits{"0123456789"};
 };
 
 struct IcuPeer {
@@ -172,12 +200,7 @@ struct IcuPeer {
     [[nodiscard]] std::size_t Run(const Text& text) const {
         if constexpr (What == Change::Tokens) {
             std::size_t size = 0;
-            for (int32_t at = 0; at < text.length();) {
-                int32_t end = text.indexOf(u',', at);
-                if (end < 0) end = text.length();
-                if (end > at) size += static_cast<std::size_t>(Text(text, at, end - at).length());
-                at = end + 1;
-            }
+            ForEachToken(text, [&](const Text& token) { size += static_cast<std::size_t>(token.length()); });
             return size;
         } else {
             return static_cast<std::size_t>(Changed<What>(text).length());
@@ -186,7 +209,10 @@ struct IcuPeer {
 
     template <Change What>
     [[nodiscard]] Text Changed(const Text& text) const {
-        if constexpr (What == Change::Unquote) return Text(text, 1, text.length() - 2);
+        if constexpr (What == Change::Unquote) {
+            const int32_t last = text.length() - 1;
+            return last > 0 && text[0] == u'"' && text[last] == u'"' ? Text(text, 1, last - 1) : text;
+        }
         Text changed = text;
         if constexpr (What == Change::Trim) changed.trim();
         if constexpr (What == Change::Quote) changed.insert(0, u'"').append(u'"');
@@ -197,6 +223,16 @@ struct IcuPeer {
         return changed;
     }
 
+    template <typename Use>
+    static void ForEachToken(const Text& text, const Use& use) {
+        for (int32_t at = 0; at < text.length();) {
+            int32_t end = text.indexOf(u',', at);
+            if (end < 0) end = text.length();
+            if (end > at) use(Text(text, at, end - at));
+            at = end + 1;
+        }
+    }
+
 private:
     const icu::Locale m_root = icu::Locale::getRoot();
     const Text m_underscore{u"_"};
@@ -205,7 +241,7 @@ private:
     const Text m_new{u"-by-"};
 };
 
-/// ICU for a program whose texts are UTF-8, like ours: in and out each time.
+/// ICU for a program whose texts are UTF-8: in and out each time.
 struct IcuUtf8Peer {
     using Text = std::string;
     [[nodiscard]] static Text Make(const std::string& text) { return text; }
@@ -214,9 +250,16 @@ struct IcuUtf8Peer {
     [[nodiscard]] std::size_t Run(const Text& text) const {
         const icu::UnicodeString wide = icu::UnicodeString::fromUTF8(text);
         std::string result;
-        if constexpr (What == Change::Tokens) return m_peer.Run<What>(wide);
-        if constexpr (What != Change::Tokens) m_peer.Changed<What>(wide).toUTF8String(result);
-        return result.size();
+        if constexpr (What == Change::Tokens) {
+            std::size_t size = 0;
+            IcuPeer::ForEachToken(wide, [&](const icu::UnicodeString& token) {
+                result.clear();
+                size += token.toUTF8String(result).size();
+            });
+            return size;
+        } else {
+            return m_peer.Changed<What>(wide).toUTF8String(result).size();
+        }
     }
 
 private:

@@ -27,6 +27,10 @@ enum class Change {
     Upper,
     Tokens,
     TrimSet,            ///< the characters of a set off the left end
+    TrimSetRight,       ///< and off the right one
+    SpanOf,             ///< the head of characters of a set
+    SpanTo,             ///< the head up to one of a set
+    IsBlank,            ///< no text is made
     ReplaceCharNoCase,  ///< in either case
     ReplaceTextNoCase,  ///< in either case, by one as long
     QuotedList,         ///< read, and written again
@@ -87,6 +91,10 @@ void RegisterChanges(const std::string& name, bool asciiOnly = false) {
 template <typename Peer>
 void RegisterMoreChanges(const std::string& name, bool asciiOnly = false) {
     RegisterChange<Peer, Change::TrimSet>("trimset", name, asciiOnly);
+    RegisterChange<Peer, Change::TrimSetRight>("trimsetright", name, asciiOnly);
+    RegisterChange<Peer, Change::SpanOf>("spanof", name, asciiOnly);
+    RegisterChange<Peer, Change::SpanTo>("spanto", name, asciiOnly);
+    RegisterChange<Peer, Change::IsBlank>("isblank", name, asciiOnly);
     RegisterChange<Peer, Change::ReplaceCharNoCase>("replacecharnocase", name, asciiOnly);
     RegisterChange<Peer, Change::ReplaceTextNoCase>("replacetextnocase", name, asciiOnly);
     RegisterChange<Peer, Change::QuotedList>("quotedlist", name, asciiOnly);

@@ -105,8 +105,11 @@ CString::CString(TUnfilled /*way*/, std::size_t length) : m_text(EmptyText()) {
     m_text = Allocate(checked, checked);
 }
 
-CString::CString(std::string_view text) : CString(TUnfilled(), text.size()) {
-    if (!text.empty()) std::memcpy(m_text, text.data(), text.size());
+CString::CString(std::string_view text) : m_text(EmptyText()) {
+    if (text.empty()) return;
+    const int length = CheckedLength(text.size());
+    m_text = Allocate(length, length);
+    std::memcpy(m_text, text.data(), text.size());
 }
 
 CString::CString(char character, int count) : CString(TUnfilled(), ClampedToZero(count)) {

@@ -7,10 +7,15 @@
 #include <algorithm>
 #include <cstring>
 
+#include "text/LinearSearch.h"
 #include "text/ReplaceBytes.h"
+#include "text/Words.h"
 #include "vapp/text/CString.h"
 
 namespace {
+
+using vapp_text::cnWordBytes;
+using vapp_text::Word;
 
 constexpr std::string_view csWhiteSpace = " \t\n\v\f\r";
 
@@ -18,11 +23,26 @@ int Clamp(int index, int length) {
     return std::clamp(index, 0, length);
 }
 
-char LowerAscii(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte;
+// Where the first word begins that has another form; the text's size for none.
+template <typename Form>
+std::size_t FirstToForm(std::string_view text, const Form& form) {
+    std::size_t at = 0;
+    for (; at + cnWordBytes <= text.size(); at += cnWordBytes) {
+        const Word word = vapp_text::LoadWord(text.data() + at);
+        if (form(word) != word) return at;
+    }
+    const Word word = vapp_text::LoadPart(text.data() + at, text.size() - at);
+    return form(word) != word ? at : text.size();
 }
-char UpperAscii(char byte) {
-    return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 32) : byte;
+
+// Writes the form of each byte; `to` may be where the text lies.
+template <typename Form>
+void WriteForms(std::string_view text, char* to, const Form& form) {
+    std::size_t at = 0;
+    for (; at + cnWordBytes <= text.size(); at += cnWordBytes)
+        vapp_text::StoreWord(to + at, form(vapp_text::LoadWord(text.data() + at)));
+    const std::size_t left = text.size() - at;
+    vapp_text::StorePart(to + at, left, form(vapp_text::LoadPart(text.data() + at, left)));
 }
 
 std::size_t FirstNotOf(std::string_view text, std::string_view set) {
@@ -94,42 +114,35 @@ int CString::Remove(char character) {
     return static_cast<int>(removed);
 }
 
-// Writes the form of every byte from `first`, which is inside of the text, to the end: where the text lies,
-// or else, where it is shared, on the way into a buffer of its own.
-template <typename Form>
-void CString::MapFrom(std::size_t first, const Form& form) {
-    const std::string_view text = View();
-    const char* const behind = text.data() + text.size();
-    if (!IsShared()) {
-        std::transform(text.data() + first, behind, m_text + first, form);
-        return;
-    }
-    CString mapped(TUnfilled(), text.size());
-    text.copy(mapped.m_text, first);
-    std::transform(text.data() + first, behind, mapped.m_text + first, form);
-    Swap(mapped);
-}
-
-// Gives every byte its form; what already has it stays shared.
+// Gives every byte its form, eight at a time; what already has it stays shared.
 template <typename Form>
 CString& CString::MakeForm(const Form& form) {
-    const char* const behind = m_text + GetLength();
-    const char* first = m_text;
-    while (first != behind && form(*first) == *first)
-        ++first;
-    if (first != behind) MapFrom(static_cast<std::size_t>(first - m_text), form);
+    const std::string_view text = View();
+    const std::size_t first = FirstToForm(text, form);
+    if (first == text.size()) return *this;
+    if (!IsShared()) {
+        WriteForms(text.substr(first), m_text + first, form);
+        return *this;
+    }
+    CString formed(TUnfilled(), text.size());
+    WriteForms(text, formed.m_text, form);
+    Swap(formed);
     return *this;
 }
 
 int CString::Replace(char oldCharacter, char newCharacter) {
-    const std::size_t first = View().find(oldCharacter);
-    if (first == std::string_view::npos) return 0;
-    if (oldCharacter == newCharacter) {
-        return static_cast<int>(std::count(m_text + first, m_text + GetLength(), oldCharacter));
+    const std::string_view text = View();
+    if (oldCharacter == newCharacter)
+        return static_cast<int>(std::count(text.begin(), text.end(), oldCharacter));
+    std::size_t replaced = 0;
+    if (!IsShared()) {
+        replaced = vapp_text::ReplaceBytes(m_text, m_text, text.size(), oldCharacter, newCharacter);
+    } else if (text.find(oldCharacter) != std::string_view::npos) {
+        CString changed(TUnfilled(), text.size());
+        replaced = vapp_text::ReplaceBytes(m_text, changed.m_text, text.size(), oldCharacter, newCharacter);
+        Swap(changed);
     }
-    MakeWritable(0, false);
-    return static_cast<int>(
-        vapp_text::ReplaceBytes(m_text + first, View().size() - first, oldCharacter, newCharacter));
+    return static_cast<int>(replaced);
 }
 
 int CString::Replace(const char* oldText, const char* newText) {
@@ -137,10 +150,10 @@ int CString::Replace(const char* oldText, const char* newText) {
     const std::string_view inserted = ViewOf(newText);
     if (searched.empty()) return 0;
     const std::string_view source = View();
-    const std::size_t first = source.find(searched);
+    vapp_text::LinearSearch search(searched);
+    const std::size_t first = search.Find(source, 0);
     std::size_t hits = 0;
-    for (std::size_t at = first; at != std::string_view::npos;
-         at = source.find(searched, at + searched.size()))
+    for (std::size_t at = first; at != std::string_view::npos; at = search.Find(source, at + searched.size()))
         ++hits;
     if (hits == 0) return 0;
     CString result = Filled(source.size() - hits * searched.size() + hits * inserted.size(), [&](char* out) {
@@ -150,7 +163,7 @@ int CString::Replace(const char* oldText, const char* newText) {
             out += source.copy(out, hit - from, from);
             out += inserted.copy(out, inserted.size());
             from = hit + searched.size();
-            if (left > 1) hit = source.find(searched, from);
+            if (left > 1) hit = search.Find(source, from);
         }
         source.copy(out, source.size() - from, from);
     });
@@ -203,9 +216,9 @@ CString& CString::TrimRight(const char* set) {
 }
 
 CString& CString::MakeLower() {
-    return MakeForm([](char byte) { return LowerAscii(byte); });
+    return MakeForm([](Word word) { return vapp_text::LowerWord(word); });
 }
 
 CString& CString::MakeUpper() {
-    return MakeForm([](char byte) { return UpperAscii(byte); });
+    return MakeForm([](Word word) { return vapp_text::UpperWord(word); });
 }

@@ -116,11 +116,7 @@ CStringU& CStringU::Assign(const char* text, TextEncoding encoding, int length) 
             if (!AllAscii(bytes)) return AssignAnsi(text, vapp_platform::ActiveCodePage(), length);
             break;
         case TextEncoding::Utf8Auto:
-            if (!AllAscii(bytes) && IsAsciiByte(bytes.front())) {
-                m_stored.Assign(csMarker, bytes);
-                return *this;
-            }
-            break;
+            return AssignUtf8(bytes);
         case TextEncoding::Utf8:
             if (!bytes.empty() && IsAsciiByte(bytes.front())) {
                 m_stored.Assign(csMarker, bytes);
@@ -131,6 +127,15 @@ CStringU& CStringU::Assign(const char* text, TextEncoding encoding, int length) 
             break;
     }
     m_stored.Assign(bytes);
+    return *this;
+}
+
+CStringU& CStringU::AssignUtf8(std::string_view utf8) {
+    if (!AllAscii(utf8) && IsAsciiByte(utf8.front())) {
+        m_stored.Assign(csMarker, utf8);
+    } else {
+        m_stored.Assign(utf8);
+    }
     return *this;
 }
 

@@ -9,6 +9,7 @@
 #include <climits>
 #include <string_view>
 
+#include "text/AsciiBytes.h"
 #include "text/Codec.h"
 #include "text/WideUnits.h"
 #include "vapp/text/CStringU.h"
@@ -66,11 +67,21 @@ std::int64_t CStringU::ClampOffset(std::int64_t offset) const noexcept {
 
 // The payload's bytes from one clamped offset up to another, classified anew.
 CStringU CStringU::Piece(std::int64_t first, std::int64_t behind) const {
-    const bool whole = first == 0 && behind == m_stored.GetLength();
-    if (whole && !HasNonAscii()) return *this;
-    const auto length = std::max<std::int64_t>(behind - first, 0);
-    if (HasNonAscii()) return {Payload() + first, TextEncoding::Utf8Auto, static_cast<int>(length)};
-    return {CString(std::string_view(Payload() + first, static_cast<std::size_t>(length))), TAscii()};
+    const auto length = static_cast<std::size_t>(std::max<std::int64_t>(behind - first, 0));
+    if (!HasNonAscii()) {
+        if (length == m_stored.View().size()) return *this;
+        return {CString(std::string_view(m_stored.GetString() + first, length)), TAscii()};
+    }
+    const char* const piece = Payload() + first;
+    const vapp_text::TScanned scanned = vapp_text::ScanToNul({piece, length});
+    const std::string_view bytes(piece, scanned.size);
+    if (!scanned.nonAscii || !vapp_text::IsAsciiByte(bytes.front())) return {CString(bytes), TAscii()};
+    return {CString::Filled(bytes.size() + 1,
+                            [bytes](char* out) {
+                                *out = vapp_text::cnTextMarker;
+                                bytes.copy(out + 1, bytes.size());
+                            }),
+            TAscii()};
 }
 
 CStringU CStringU::Left(std::int64_t byteCount) const {

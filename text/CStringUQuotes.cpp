@@ -56,6 +56,10 @@ CString Surrounded(std::string_view payload, bool marked) {
 }  // namespace
 
 CStringU CStringU::WithoutQuotes() const {
+    const std::string_view stored = m_stored.View();
+    if (stored.size() > 1 && stored.front() == '"' && stored.back() == '"') {
+        return {CString(stored.substr(1, stored.size() - 2)), TAscii()};  // no marker in front: ASCII
+    }
     const TQuoted quoted(PayloadView());
     return quoted.holds ? Piece(quoted.first, quoted.behind) : *this;
 }

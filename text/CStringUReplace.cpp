@@ -1,38 +1,58 @@
 /// @file
-/// The four replacements of a CStringU: of a character and of a text, with and without case.
+/// The replacements of a CStringU: of a character with and without case, and of a text with case. That of a
+/// text without case stands in CStringUReplaceNoCase.cpp.
 ///
-/// What is all ASCII is replaced byte by byte. Everything else goes by characters, and comes back classified
-/// anew; an overlong NUL in it ends it on that way. For texts that way leads through UTF-16.
-///
-/// The surprise is ReplaceNoCase of texts. It searches a folded copy that is never edited, but applies each
-/// hit to the text that is: with a new text of another length every hit behind the first lands off its place,
-/// by as much as the text has grown or shrunk so far. "aXbX" from "x" to "yy" becomes "ayyyyX": the second
-/// hit, at index 3, is applied where by then the "b" stands. Texts have been stored that way, and so it
-/// stays. What is added here are two ends that the rule lacks: an empty new text goes on behind its hit, and
-/// a hit that has drifted behind the end is none.
+/// Whatever its script, a text that is encoded as this type encodes is replaced byte by byte: in it, bytes
+/// stand exactly where their characters stand. All else, malformed, overlong or with a NUL inside, goes by
+/// characters as they decode, and comes back classified anew; an overlong NUL in it ends it on that way.
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "text/AsciiBytes.h"
 #include "text/Codec.h"
 #include "text/Fold.h"
+#include "text/LinearSearch.h"
 #include "text/MappedText.h"
 #include "text/ReplaceBytes.h"
-#include "text/Search.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
 
 namespace {
 
 using vapp_text::FoldChar;
+using vapp_text::FormOf;
+using vapp_text::TextForm;
 
-// An ASCII byte is no part of another character, so that FindChar finds the first one, if nothing before.
-bool HoldsByte(std::string_view payload, char16_t unit) {
-    return unit < 0x80U && payload.find(static_cast<char>(unit)) != std::string_view::npos;
+constexpr bool IsAsciiUnit(char16_t unit) {
+    return unit < 0x80U;
 }
+
+// True where the bytes are those of the characters that the text decodes to. High bytes in a text that says
+// that it is ASCII are read one by one.
+bool IsEncoded(const CStringU& text) {
+    const TextForm form = FormOf(text.PayloadView());
+    return form == TextForm::Plain || (form == TextForm::Encoded && text.HasNonAscii());
+}
+
+// True where the marker is there just if it is due.
+bool HasDueMarker(const CStringU& text) {
+    const std::string_view payload = text.PayloadView();
+    const bool due = !vapp_text::AllAscii(payload) && vapp_text::IsAsciiByte(payload.front());
+    return due == (payload.size() != text.Stored().View().size());
+}
+
+// The bytes of a character, with a NUL behind them.
+class EncodedUnit {
+public:
+    explicit EncodedUnit(char16_t unit) { vapp_text::EncodeChar(unit, m_bytes.data()); }
+    [[nodiscard]] const char* Bytes() const { return m_bytes.data(); }
+
+private:
+    std::array<char, vapp_text::cnMaxEncodedBytes + 1> m_bytes{};
+};
 
 // What is stored of a text once each of its units is changed by `change`, which gives the number of its
 // replacements; they are summed up in `replaced`. Text outside of ASCII goes straight from bytes to bytes.
@@ -55,13 +75,14 @@ CString WithChangedUnits(const CStringU& text, int& replaced, const Change& chan
     });
 }
 
-int ReplaceText(std::u16string& units, std::u16string_view oldText, std::u16string_view newText) {
+int ReplaceUnits(std::u16string& units, std::u16string_view oldText, std::u16string_view newText) {
     if (oldText.empty()) return 0;
+    vapp_text::LinearSearch search(oldText);
     int replaced = 0;
     std::size_t from = 0;
     std::u16string result;
-    for (std::size_t hit = units.find(oldText); hit != std::u16string::npos;
-         hit = units.find(oldText, from)) {
+    for (std::size_t hit = search.Find(units, 0); hit != std::u16string::npos;
+         hit = search.Find(units, from)) {
         result.append(units, from, hit - from).append(newText);
         from = hit + oldText.size();
         ++replaced;
@@ -70,89 +91,28 @@ int ReplaceText(std::u16string& units, std::u16string_view oldText, std::u16stri
     return replaced;
 }
 
-std::u16string Folded(std::u16string units) {
-    std::transform(units.begin(), units.end(), units.begin(), FoldChar);
-    return units;
-}
-
-/// A text under edits from left to right: what is done, and what is left of the original.
-template <typename Text>
-class DriftingEdit {
-public:
-    explicit DriftingEdit(Text original) : m_original(std::move(original)) {}
-
-    [[nodiscard]] const Text& Original() const { return m_original; }
-    /// Units of the text as it is now.
-    [[nodiscard]] std::size_t Size() const { return m_done.size() + (m_original.size() - m_taken); }
-
-    /// Replaces `count` units at an index of the text as it is now, at or behind the last edit.
-    void ReplaceAt(std::size_t index, std::size_t count,
-                   std::basic_string_view<typename Text::value_type> inserted) {
-        const std::size_t kept = index - m_done.size();
-        m_done.append(m_original, m_taken, kept).append(inserted);
-        m_taken = std::min(m_taken + kept + count, m_original.size());
-    }
-    [[nodiscard]] const Text& Finish() { return m_done.append(m_original, m_taken); }
-
-private:
-    Text m_original;
-    Text m_done;
-    std::size_t m_taken = 0;
-};
-
-// Text of which each byte is a character, and which ends at its end.
-bool IsPlain(const CStringU& text) {
-    const std::string_view payload = text.PayloadView();
-    return vapp_text::AllAscii(payload) && payload.find('\0') == std::string_view::npos;
-}
-
-std::size_t FindFolded(std::string_view text, std::string_view wanted, std::size_t from) {
-    if (from > text.size()) return std::string_view::npos;
-    const auto first = text.begin() + static_cast<std::ptrdiff_t>(from);
-    const auto folded = [](char byte) { return vapp_text::FoldAsciiChar(static_cast<unsigned char>(byte)); };
-    const auto hit = std::search(first, text.end(), wanted.begin(), wanted.end(),
-                                 [&](char left, char right) { return folded(left) == folded(right); });
-    return hit != text.end() ? static_cast<std::size_t>(hit - text.begin()) : std::string_view::npos;
-}
-
-// ReplaceNoCase of texts, all of them plain and `wanted` not empty, by bytes.
-int ReplacePlainNoCase(CString& text, std::string_view wanted, std::string_view inserted) {
-    const CString original = text;  // a share: hits are searched in what is never edited
-    std::size_t hit = FindFolded(original.View(), wanted, 0);
-    if (hit == std::string_view::npos) return 0;
-    const std::size_t step = inserted.empty() ? wanted.size() : inserted.size();
-    int replaced = 0;
-    if (inserted.size() == wanted.size()) {  // nothing drifts
-        char* const bytes = text.GetBuffer();
-        for (; hit != std::string_view::npos; hit = FindFolded(original.View(), wanted, hit + step)) {
-            inserted.copy(bytes + hit, inserted.size());
-            ++replaced;
-        }
-        text.ReleaseBuffer(original.GetLength());
-        return replaced;
-    }
-    DriftingEdit<std::string> edit{std::string(original.View())};
-    for (; hit <= edit.Size(); hit = FindFolded(original.View(), wanted, hit + step)) {
-        edit.ReplaceAt(hit, wanted.size(), inserted);
-        ++replaced;
-    }
-    text = CString(edit.Finish());
-    return replaced;
-}
-
-bool IsAsciiUnit(char16_t unit) {
-    return unit < 0x80U;
-}
-
 }  // namespace
+
+void CStringU::DeriveMarker() {
+    if (!HasDueMarker(*this)) AssignUtf8(PayloadView());
+}
 
 int CStringU::Replace(char16_t oldUnit, char16_t newUnit) {
     if (oldUnit == 0 || newUnit == 0) return 0;
+    const bool bothAscii = IsAsciiUnit(oldUnit) && IsAsciiUnit(newUnit);
     if (!HasNonAscii() && IsAsciiUnit(newUnit)) {
-        if (!IsAsciiUnit(oldUnit)) return 0;
-        return m_stored.Replace(static_cast<char>(oldUnit), static_cast<char>(newUnit));
+        return bothAscii ? m_stored.Replace(static_cast<char>(oldUnit), static_cast<char>(newUnit)) : 0;
     }
-    if (!HoldsByte(PayloadView(), oldUnit) && FindChar(oldUnit, true, Begin()) == End()) return 0;
+    if (!IsEncoded(*this)) return ReplaceByDecoding(oldUnit, newUnit);
+    const int replaced = bothAscii
+                             ? m_stored.Replace(static_cast<char>(oldUnit), static_cast<char>(newUnit))
+                             : m_stored.Replace(EncodedUnit(oldUnit).Bytes(), EncodedUnit(newUnit).Bytes());
+    if (replaced != 0) DeriveMarker();
+    return replaced;
+}
+
+int CStringU::ReplaceByDecoding(char16_t oldUnit, char16_t newUnit) {
+    if (FindChar(oldUnit, true, Begin()) == End()) return 0;
     int replaced = 0;
     m_stored = WithChangedUnits(*this, replaced, [=](char16_t& unit) {
         const bool hit = unit == oldUnit;
@@ -166,8 +126,18 @@ int CStringU::ReplaceNoCase(char16_t oldUnit, char16_t newUnit) {
     if (oldUnit == 0 || newUnit == 0) return 0;
     const char16_t lower = FoldChar(oldUnit);
     const char16_t upper = vapp_text::UpperChar(oldUnit);
-    if (!HasNonAscii() && IsAsciiUnit(oldUnit) && IsAsciiUnit(newUnit)) {
+    const bool bothAscii = IsAsciiUnit(oldUnit) && IsAsciiUnit(newUnit);
+    if (!HasNonAscii() && bothAscii) {
         return ReplaceAsciiNoCase(static_cast<char>(lower), static_cast<char>(newUnit));
+    }
+    if (bothAscii && HasDueMarker(*this) && IsEncoded(*this)) {
+        const auto replace = [&](char16_t form) {
+            return m_stored.Replace(static_cast<char>(form), static_cast<char>(newUnit));
+        };
+        int replaced = replace(oldUnit);
+        if (lower != oldUnit) replaced += replace(lower);
+        if (upper != oldUnit) replaced += replace(upper);
+        return replaced;
     }
     if (FindChar(oldUnit, false, Begin()) == End()) return 0;
     int replaced = 0;
@@ -195,9 +165,9 @@ int CStringU::ReplaceAsciiNoCase(char lower, char newByte) {
     const std::size_t size = text.size();
     char* const bytes = m_stored.GetBuffer();
     const char first = newByte == upper ? upper : lower;
-    std::size_t replaced = vapp_text::ReplaceBytes(bytes, size, first, newByte);
+    std::size_t replaced = vapp_text::ReplaceBytes(bytes, bytes, size, first, newByte);
     if (upper != lower) {
-        replaced += vapp_text::ReplaceBytes(bytes, size, first == upper ? lower : upper, newByte);
+        replaced += vapp_text::ReplaceBytes(bytes, bytes, size, first == upper ? lower : upper, newByte);
     }
     m_stored.ReleaseBuffer(length);
     return static_cast<int>(replaced);
@@ -216,29 +186,20 @@ int CStringU::Replace(const CStringU& oldText, const CStringU& newText) {
     if (!HasNonAscii() && !newText.HasNonAscii()) {
         return oldText.HasNonAscii() ? 0 : m_stored.Replace(oldText.Payload(), newText.Payload());
     }
-    if (PayloadView().find(oldText.PayloadView()) == std::string_view::npos) return 0;
-    std::u16string units = ToWide();
-    const int replaced = ReplaceText(units, oldText.ToWide(), newText.ToWide());
-    AssignWide(std::u16string_view(units));
+    if (!IsEncoded(*this) || !IsEncoded(oldText) || !IsEncoded(newText)) {
+        return ReplaceByDecoding(oldText, newText);
+    }
+    const bool always = oldText.IsEmpty();
+    const int replaced = m_stored.Replace(oldText.Payload(), newText.Payload());
+    if (replaced != 0 || always) DeriveMarker();
     return replaced;
 }
 
-int CStringU::ReplaceNoCase(const CStringU& oldText, const CStringU& newText) {
-    if (!oldText.IsEmpty() && IsPlain(*this) && IsPlain(oldText) && IsPlain(newText)) {
-        return ReplacePlainNoCase(m_stored, CStringU(oldText).PayloadView(), CStringU(newText).PayloadView());
-    }
-    if (vapp_text::FindTextNoCaseU(Payload(), oldText.Payload()) == vapp_text::cnNotFound) return 0;
-    DriftingEdit edit(ToWide());
-    const std::u16string searched = Folded(edit.Original());
-    const std::u16string wanted = Folded(oldText.ToWide());
-    const std::u16string inserted = newText.ToWide();
-    const std::size_t step = !inserted.empty() ? inserted.size() : std::max<std::size_t>(wanted.size(), 1);
-    int replaced = 0;
-    for (std::size_t hit = searched.find(wanted); hit <= edit.Size();
-         hit = searched.find(wanted, hit + step)) {
-        edit.ReplaceAt(hit, wanted.size(), inserted);
-        ++replaced;
-    }
-    AssignWide(std::u16string_view(edit.Finish()));
+int CStringU::ReplaceByDecoding(const CStringU& oldText, const CStringU& newText) {
+    vapp_text::LinearSearch search(oldText.PayloadView());
+    if (search.Find(PayloadView(), 0) == std::string_view::npos) return 0;
+    std::u16string units = ToWide();
+    const int replaced = ReplaceUnits(units, oldText.ToWide(), newText.ToWide());
+    AssignWide(std::u16string_view(units));
     return replaced;
 }

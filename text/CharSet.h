@@ -28,8 +28,7 @@ public:
             const char16_t unit = DecodeNext(payload);
             Add(folded ? FoldChar(unit) : unit);
         }
-        std::sort(m_others.begin(), m_others.end());
-        m_others.erase(std::unique(m_others.begin(), m_others.end()), m_others.end());
+        if (!m_others.empty()) SortOthers();
     }
 
     [[nodiscard]] bool Holds(char16_t unit) const noexcept {
@@ -37,11 +36,14 @@ public:
         return std::binary_search(m_others.begin(), m_others.end(), unit);
     }
 
+    /// True where no character of the set is outside of ASCII.
+    [[nodiscard]] bool IsAscii() const noexcept { return m_others.empty(); }
     /// The one ASCII character of the set; 0 for none or for more.
     [[nodiscard]] char OnlyAscii() const noexcept {
-        if (std::popcount(m_ascii[0]) + std::popcount(m_ascii[1]) != 1) return '\0';
-        return static_cast<char>(m_ascii[0] != 0 ? std::countr_zero(m_ascii[0])
-                                                 : std::countr_zero(m_ascii[1]) + static_cast<int>(cnBits));
+        const bool inFirst = m_ascii[0] != 0;
+        const std::uint64_t word = m_ascii[inFirst ? 0 : 1];
+        if (word == 0 || (word & (word - 1)) != 0 || (inFirst && m_ascii[1] != 0)) return '\0';
+        return static_cast<char>(std::countr_zero(word) + (inFirst ? 0 : static_cast<int>(cnBits)));
     }
 
 private:
@@ -53,6 +55,11 @@ private:
         } else {
             m_others += unit;
         }
+    }
+
+    void SortOthers() {
+        std::sort(m_others.begin(), m_others.end());
+        m_others.erase(std::unique(m_others.begin(), m_others.end()), m_others.end());
     }
 
     std::array<std::uint64_t, 2> m_ascii{};

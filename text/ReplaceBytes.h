@@ -6,34 +6,27 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
+
+#include "text/Words.h"
 
 namespace vapp_text {
 
-/// Replaces each such byte of `size` and gives the number of replacements.
-inline std::size_t ReplaceBytes(char* bytes, std::size_t size, char oldByte, char newByte) noexcept {
-    using Word = std::uint64_t;
-    constexpr Word cnOnes = 0x0101010101010101U;
-    constexpr Word cnLow = 0x7F * cnOnes;
-    const auto oldBits = static_cast<unsigned char>(oldByte);
-    const auto changedBits = static_cast<unsigned char>(oldBits ^ static_cast<unsigned char>(newByte));
+/// Copies `size` bytes with each `oldByte` replaced, and gives the number of replacements. `to` is `from`, or
+/// does not overlap with it.
+inline std::size_t ReplaceBytes(const char* from, char* to, std::size_t size, char oldByte,
+                                char newByte) noexcept {
+    const Word oldBytes = EightOf(oldByte);
+    const auto changedBits =
+        static_cast<unsigned char>(static_cast<unsigned char>(oldByte) ^ static_cast<unsigned char>(newByte));
     std::size_t replaced = 0;
-    for (; size >= sizeof(Word); size -= sizeof(Word), bytes += sizeof(Word)) {
-        Word word = 0;
-        std::memcpy(&word, bytes, sizeof word);
-        const Word differing = word ^ (oldBits * cnOnes);
-        // The lowest bit of each byte that does not differ; no carry leaves its byte.
-        const Word hits = (~(((differing & cnLow) + cnLow) | differing | cnLow)) >> 7U;
-        word ^= hits * changedBits;
-        std::memcpy(bytes, &word, sizeof word);
-        replaced += static_cast<std::size_t>((hits * cnOnes) >> 56U);
-    }
-    for (; size > 0; --size, ++bytes) {
-        const bool hit = *bytes == oldByte;
-        *bytes = hit ? newByte : *bytes;
-        replaced += static_cast<std::size_t>(hit);
-    }
+    const auto replacedIn = [&](Word word, Word counted) {
+        const Word hits = (ZeroBytes(word ^ oldBytes) & counted) >> 7U;  // the lowest bit of each
+        replaced += static_cast<std::size_t>((hits * cnEachByte) >> 56U);
+        return word ^ (hits * changedBits);
+    };
+    for (; size >= cnWordBytes; size -= cnWordBytes, from += cnWordBytes, to += cnWordBytes)
+        StoreWord(to, replacedIn(LoadWord(from), cnHighBits));
+    if (size > 0) StorePart(to, size, replacedIn(LoadPart(from, size), cnHighBits >> (64U - 8U * size)));
     return replaced;
 }
 

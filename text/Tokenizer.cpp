@@ -6,18 +6,17 @@
 #include <algorithm>
 #include <string_view>
 
-#include "text/AsciiBytes.h"
-
 namespace vapp_text {
-
-// Raw text may have high bytes behind an ASCII first byte, and text declared ASCII may have a NUL.
-bool TTokenizer::IsPlain(const CStringU& text) noexcept {
-    const std::string_view payload = text.PayloadView();
-    return AllAscii(payload) && payload.find('\0') == std::string_view::npos;
-}
 
 char TTokenizer::WithoutCase(char separator) const noexcept {
     return m_fold && separator >= 'a' && separator <= 'z' ? '\0' : separator;
+}
+
+// In text outside of ASCII only one separator is looked for by its byte, and no letter: characters outside of
+// ASCII have small forms within it.
+bool TTokenizer::GoesByBytes(TextForm form) const noexcept {
+    if (form != TextForm::Encoded) return form == TextForm::Plain;
+    return m_onlySeparator != '\0' && m_separators.IsAscii();
 }
 
 // Moves over characters while they are separators, or while they are none.
@@ -31,9 +30,9 @@ std::int64_t TTokenizer::Skip(std::int64_t from) const noexcept {
     }
 }
 
-// The same in plain text, of which it is given what is left; gives the number of bytes.
+// The same by bytes, given what is left of the text; gives their number.
 template <bool Separators>
-std::size_t TTokenizer::SkipPlain(std::string_view left) const noexcept {
+std::size_t TTokenizer::SkipBytes(std::string_view left) const noexcept {
     std::size_t at = 0;
     if (m_onlySeparator != '\0') {
         if (!Separators) return std::min(left.find(m_onlySeparator), left.size());
@@ -47,27 +46,32 @@ std::size_t TTokenizer::SkipPlain(std::string_view left) const noexcept {
 }
 
 std::int64_t TTokenizer::SkipSeparators(std::int64_t from) const noexcept {
-    const std::int64_t length = m_text.GetByteLength();
-    const std::int64_t at = Skip<true>(std::clamp<std::int64_t>(from, 0, length));
-    return m_text.Payload()[at] == '\0' ? length : at;
+    const std::string_view payload = m_text.PayloadView();
+    const auto length = static_cast<std::int64_t>(payload.size());
+    const std::int64_t start = std::clamp<std::int64_t>(from, 0, length);
+    if (m_byBytes) {
+        return start +
+               static_cast<std::int64_t>(SkipBytes<true>(payload.substr(static_cast<std::size_t>(start))));
+    }
+    const std::int64_t at = Skip<true>(start);
+    return payload.data()[at] == '\0' ? length : at;
 }
 
 void TTokenizer::ReadToken(std::int64_t& pos, CStringU& token) const {
-    const char* const start = m_text.Payload() + pos;
-    if (m_plain) {
-        const std::string_view left(start, static_cast<std::size_t>(m_text.GetByteLength() - pos));
-        const std::size_t size = SkipPlain<false>(left);
-        pos += static_cast<std::int64_t>(size + SkipPlain<true>(left.substr(size)));
-        token.AssignAscii(left.substr(0, size));
-        return;
-    }
-    const std::int64_t end = Skip<false>(pos);
-    const auto size = static_cast<int>(end - pos);
-    pos = SkipSeparators(end);
-    if (m_text.HasNonAscii()) {
-        token.Assign(start, TextEncoding::Utf8Auto, size);
+    std::string_view read = m_text.PayloadView().substr(static_cast<std::size_t>(pos));
+    if (m_byBytes) {
+        const std::size_t size = SkipBytes<false>(read);
+        pos += static_cast<std::int64_t>(size + SkipBytes<true>(read.substr(size)));
+        read = read.substr(0, size);
     } else {
-        token.AssignAscii({start, static_cast<std::size_t>(size)});
+        const std::int64_t end = Skip<false>(pos);
+        read = read.substr(0, static_cast<std::size_t>(end - pos));
+        pos = SkipSeparators(end);
+    }
+    if (m_text.HasNonAscii()) {
+        token.AssignUtf8(read);
+    } else {
+        token.AssignAscii(read);
     }
 }
 

@@ -16,6 +16,7 @@
 #include <string_view>
 #include <utility>
 
+#include "text/AsciiBytes.h"
 #include "text/CharSet.h"
 #include "vapp/text/CStringU.h"
 
@@ -29,8 +30,8 @@ public:
         : m_text(std::move(text)),
           m_separators(separators.Payload(), !caseSensitive),
           m_fold(!caseSensitive),
-          m_plain(IsPlain(m_text)),
-          m_onlySeparator(WithoutCase(m_separators.OnlyAscii())) {}
+          m_onlySeparator(WithoutCase(m_separators.OnlyAscii())),
+          m_byBytes(GoesByBytes(FormOf(m_text.PayloadView()))) {}
 
     /// The next token at or behind the byte offset `pos`, which moves behind the token and the separators
     /// that follow it. When no token is left: empty text, and `pos` is the text's end; a NUL inside of the
@@ -58,20 +59,20 @@ private:
     [[nodiscard]] bool IsSeparator(char16_t unit) const noexcept {
         return m_separators.Holds(m_fold ? FoldChar(unit) : unit);
     }
-    [[nodiscard]] static bool IsPlain(const CStringU& text) noexcept;
     [[nodiscard]] char WithoutCase(char separator) const noexcept;
+    [[nodiscard]] bool GoesByBytes(TextForm form) const noexcept;
     template <bool Separators>
     [[nodiscard]] std::int64_t Skip(std::int64_t from) const noexcept;
     template <bool Separators>
-    [[nodiscard]] std::size_t SkipPlain(std::string_view left) const noexcept;
+    [[nodiscard]] std::size_t SkipBytes(std::string_view left) const noexcept;
     // From an offset where no separator stands.
     void ReadToken(std::int64_t& pos, CStringU& token) const;
 
     CStringU m_text;
     CharSet m_separators;
     bool m_fold;
-    bool m_plain;          // each byte is a character
-    char m_onlySeparator;  // the one of plain text that is searched for as it stands; 0 for none
+    char m_onlySeparator;  // the one in ASCII that is searched for as it stands; 0 for none
+    bool m_byBytes;        // where bytes are separators, characters are, and nowhere else
 };
 
 }  // namespace vapp_text

@@ -198,6 +198,60 @@ TEST(CStringUReplace, ReplacingIsLinear) {
     EXPECT_EQ(text.Replace("y", CStringU(u"\u00e9\u00e9")), 200000);
 }
 
+// Texts of equal letters, of which the wanted one is nowhere, or only at the end: tried at each place anew
+// they would take hours.
+TEST(CStringUReplace, TextsThatAreAlikeTakeNoLonger) {
+    const std::u16string equal(400000, u'a');
+    const std::u16string half = equal.substr(0, 200000);
+    const std::u16string wide = equal + u"\u00e9";
+    EXPECT_EQ(Replaced(equal, half + u"b", u"x").count, 0);
+    EXPECT_EQ(ReplacedNoCase(equal, half + u"B", u"x").count, 0);
+    EXPECT_TRUE(ReplacedNoCase(equal, half, u"b") == (TReplaced{200001, std::u16string(200001, u'b')}))
+        << "hits overlap, and from the third on stand at the end of what is left";
+    EXPECT_EQ(Replaced(wide, half + u"b", u"x").count, 0);
+    EXPECT_EQ(ReplacedNoCase(wide, half + u"B", u"x").count, 0);
+    EXPECT_EQ(ReplacedNoCase(wide, half + u"\u00c9", half + u"x").text, equal + u"x");
+}
+
+// Such a text can't be assigned, but it can be declared ASCII without a look at it.
+TEST(CStringUReplace, ANulInsideOfATextEndsItOnlyBehindTheHits) {
+    CStringU text(CString("aX\0xb", 5), CStringU::TAscii());
+    EXPECT_EQ(text.ReplaceNoCase("x", "yy"), 2);
+    EXPECT_EQ(text, CStringU("ayyyyxb")) << "the second hit, at index 3, is applied to the NUL";
+    text = CStringU(CString("aX\0xb", 5), CStringU::TAscii());
+    EXPECT_EQ(text.ReplaceNoCase("q", "yy"), 0);
+    EXPECT_EQ(text.GetByteLength(), 5);
+    EXPECT_EQ(text.Replace("X", CStringU(u"\u00e9")), 1);
+    EXPECT_EQ(text, CStringU(u"a\u00e9"));
+}
+
+// High bytes of a text that says that it is ASCII are taken one by one, as they always were.
+TEST(CStringUReplace, RawTextIsReplacedByteByByte) {
+    CStringU text = Raw("a\xC3\xA9_");
+    EXPECT_EQ(text.Replace(u'_', u'\u00e9'), 1);
+    EXPECT_EQ(text, CStringU(u"a\u00c3\u00a9\u00e9"));
+    text = Raw("a\xC3\xA9_");
+    EXPECT_EQ(text.Replace("_", CStringU(u"\u00e9")), 1);
+    EXPECT_EQ(text, CStringU(u"a\u00c3\u00a9\u00e9"));
+}
+
+TEST(CStringUReplace, AStaleMarkerGoesWithAReplacement) {
+    CStringU text =
+        Raw("\x80"
+            "a_b");
+    EXPECT_EQ(text.Replace(u'_', u'-'), 1);
+    EXPECT_EQ(Stored(text), "a-b");
+    text = Raw("\x80\xC3\xA9_");
+    EXPECT_EQ(text.Replace(u'_', u'-'), 1);
+    EXPECT_EQ(Stored(text), "\xC3\xA9-");
+    text = Raw("\x80\xC3\xA9_");
+    EXPECT_EQ(text.ReplaceNoCase(u'_', u'-'), 1);
+    EXPECT_EQ(Stored(text), "\xC3\xA9-");
+    text = Raw("\x80\xC3\xA9_");
+    EXPECT_EQ(text.Replace("_", "-"), 1);
+    EXPECT_EQ(Stored(text), "\xC3\xA9-");
+}
+
 TEST(CStringUReplace, NoLocaleChangesTheFormsOfACharacter) {
     InEveryLocale([](const char* locale) {
         EXPECT_EQ(ReplacedNoCase(u"iI\u0131\u0130", u'I', u'x'), (TReplaced{2, u"xx\u0131\u0130"})) << locale;
@@ -216,6 +270,12 @@ std::u16string Letters(std::mt19937& random, std::size_t longest) {
     for (std::size_t left = UpTo(random, longest); left > 0; --left)
         text += alphabet[UpTo(random, alphabet.size() - 1)];
     return text;
+}
+
+// Something short, or a piece of the text that may be long; such a piece is found, and often more than once.
+std::u16string OldText(std::mt19937& random, const std::u16string& text, std::u16string shortOne) {
+    if (text.empty() || UpTo(random, 1) == 0) return shortOne;
+    return text.substr(UpTo(random, text.size() - 1), UpTo(random, 30));
 }
 
 TReplaced ReplaceModel(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
@@ -289,15 +349,16 @@ TReplaced ModelNoCase(std::u16string text, const std::u16string& oldText, const 
 TEST(CStringUReplace, RandomAsciiTextsAgreeWithPlainModels) {
     std::mt19937 random = SeededRandom();
     const auto ascii = [&](std::size_t longest) {
+        const std::size_t letters = UpTo(random, 3) == 0 ? 1 : 4;
         std::u16string text;
         for (std::size_t left = UpTo(random, longest); left > 0; --left)
-            text += u"aAbB_"[UpTo(random, 4)];
+            text += u"aAbB_"[UpTo(random, letters)];
         return text;
     };
-    for (int round = 0; round < 20000; ++round) {
-        const std::u16string text = ascii(14);
-        const std::u16string oldText = ascii(3);
-        const std::u16string newText = ascii(4);
+    for (int round = 0; round < 30000; ++round) {
+        const std::u16string text = ascii(round % 3 == 0 ? 60 : 14);
+        const std::u16string oldText = OldText(random, text, ascii(3));
+        const std::u16string newText = ascii(round % 4 == 0 ? 24 : 4);
         ASSERT_EQ(Replaced(text, oldText, newText), ReplaceModel(text, oldText, newText))
             << Shown(Bytes(text));
         ASSERT_EQ(ReplacedNoCase(text, oldText, newText), ModelNoCase(text, oldText, newText))
@@ -318,9 +379,9 @@ TEST(CStringUReplace, ATextReplacesItself) {
 TEST(CStringUReplace, RandomTextsAgreeWithPlainModels) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 20000; ++round) {
-        const std::u16string text = Letters(random, 12);
-        const std::u16string oldText = Letters(random, 3);
-        const std::u16string newText = Letters(random, 3);
+        const std::u16string text = Letters(random, round % 3 == 0 ? 50 : 12);
+        const std::u16string oldText = OldText(random, text, Letters(random, 3));
+        const std::u16string newText = Letters(random, round % 4 == 0 ? 24 : 3);
         const std::u16string two = Letters(random, 9) + u"ab\u00c9";
         const char16_t oldUnit = two[UpTo(random, two.size() - 1)];
         const char16_t newUnit = two[UpTo(random, two.size() - 1)];

@@ -59,6 +59,8 @@ TEST(CharSet, NamesTheOneAsciiCharacterThatItHolds) {
     EXPECT_EQ(CharSet("\x7f").OnlyAscii(), '\x7f');
     EXPECT_EQ(CharSet(text_test::Bytes(u"\u00e9,\u4e2d").c_str()).OnlyAscii(), ',');
     EXPECT_EQ(CharSet("").OnlyAscii(), '\0');
+    EXPECT_TRUE(CharSet(",;").IsAscii());
+    EXPECT_FALSE(CharSet(text_test::Bytes(u",\u00e9").c_str()).IsAscii());
     EXPECT_EQ(CharSet(",;").OnlyAscii(), '\0');
     EXPECT_EQ(CharSet("aA").OnlyAscii(), '\0');
     EXPECT_EQ(CharSet("aA", true).OnlyAscii(), 'a');

@@ -15,8 +15,13 @@ void ExpectAsALoop(std::string bytes, std::size_t from, char oldByte, char newBy
     const auto replaced =
         std::count(expected.begin() + static_cast<std::ptrdiff_t>(from), expected.end(), oldByte);
     std::replace(expected.begin() + static_cast<std::ptrdiff_t>(from), expected.end(), oldByte, newByte);
-    ASSERT_EQ(vapp_text::ReplaceBytes(bytes.data() + from, bytes.size() - from, oldByte, newByte),
+    std::string copied(bytes.size() - from, 0);
+    ASSERT_EQ(vapp_text::ReplaceBytes(bytes.data() + from, copied.data(), copied.size(), oldByte, newByte),
               static_cast<std::size_t>(replaced));
+    ASSERT_EQ(copied, expected.substr(from));
+    ASSERT_EQ(
+        vapp_text::ReplaceBytes(bytes.data() + from, bytes.data() + from, copied.size(), oldByte, newByte),
+        static_cast<std::size_t>(replaced));
     ASSERT_EQ(bytes, expected) << static_cast<int>(oldByte) << " to " << static_cast<int>(newByte);
 }
 

@@ -139,6 +139,41 @@ TEST(Tokenizer, RandomPlainTextsAgreeWithPlainUtf16) {
     }
 }
 
+// So has text outside of ASCII at one separator that is no letter, for as long as it is encoded as it should
+// be.
+TEST(Tokenizer, RandomTextsAtOneSeparatorAgreeWithPlainUtf16) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        std::u16string text = HostileName(random, 40);
+        for (std::size_t left = UpTo(random, 6); left > 0; --left)
+            text.insert(UpTo(random, text.size()), UpTo(random, 2), u',');
+        const std::u16string separators(1, u",,,k1\u00e9"[UpTo(random, 5)]);
+        const bool caseSensitive = UpTo(random, 1) == 0;
+        ASSERT_EQ(Tokens(CStringU(text.c_str()), CStringU(separators.c_str()), caseSensitive),
+                  Model(text, separators, caseSensitive))
+            << Shown(Bytes(text)) << " at " << Shown(Bytes(separators));
+    }
+}
+
+// An overlong comma, one in four bytes, and one that a lead byte swallows: a separator is what decodes to
+// one.
+TEST(Tokenizer, MalformedTextIsReadAsItDecodes) {
+    const auto tokens = [](const char* bytes) {
+        std::string joined;
+        TTokenizer(Utf8(bytes), ",").ForEachToken([&](const CStringU& token) {
+            joined += Stored(token) + '|';
+        });
+        return joined;
+    };
+    EXPECT_EQ(tokens("\xC3\xA9\xC0\xAC"
+                     "b,c"),
+              "\xC3\xA9|b|c|");
+    EXPECT_EQ(tokens("\xC3\xA9\xF0\x90\x80\xAC"
+                     "b,c"),
+              "\xC3\xA9|b|c|");
+    EXPECT_EQ(tokens("\xC3\xA9\xC3,b,c"), "\xC3\xA9\xC3,b|c|");
+}
+
 // It says that it is ASCII and is not: a lead byte takes the separator behind it for its second byte.
 TEST(Tokenizer, RawTextIsReadAsItDecodes) {
     const CStringU text("a\xC3,b,c", TextEncoding::Raw);

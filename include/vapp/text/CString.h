@@ -233,8 +233,6 @@ private:
     [[nodiscard]] int CompareFolded(std::string_view other) const noexcept;
     void ReplaceRange(int first, int count, std::string_view text);
     template <typename Form>
-    void MapFrom(std::size_t first, const Form& form);
-    template <typename Form>
     CString& MakeForm(const Form& form);
     CString& KeepRange(std::size_t first, std::size_t behind);
     CString& TrimSet(std::string_view set, bool left, bool right);

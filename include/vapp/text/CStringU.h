@@ -106,6 +106,9 @@ public:
         m_stored.Assign(ascii);
         return *this;
     }
+    /// Takes bytes known to be UTF-8 without a NUL, with the marker where it is due: TextEncoding::Utf8Auto
+    /// without the search for the end.
+    CStringU& AssignUtf8(std::string_view utf8);
     /// Encodes UTF-16, up to `count` units or the NUL, and puts the marker in front where it is due. A null
     /// pointer gives empty text.
     CStringU& AssignWide(const char16_t* text, int count = -1);
@@ -387,6 +390,9 @@ private:
     [[nodiscard]] CStringU Piece(std::int64_t first, std::int64_t behind) const;
     CStringU& Keep(std::int64_t first, std::int64_t behind);
     int ReplaceAsciiNoCase(char lower, char newByte);
+    void DeriveMarker();
+    int ReplaceByDecoding(char16_t oldUnit, char16_t newUnit);
+    int ReplaceByDecoding(const CStringU& oldText, const CStringU& newText);
     [[nodiscard]] std::int64_t ClampOffset(std::int64_t offset) const noexcept;
     void AppendBytes(std::string_view bytes, bool bringsNonAscii);
 

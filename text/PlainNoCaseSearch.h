@@ -1,0 +1,100 @@
+/// @file
+/// A plain text that is looked for without case in another one: ASCII without a NUL, both of them.
+///
+/// For the replacement of texts. The short search makes nothing before it begins and takes eight places at a
+/// time; the long one folds both texts first, so that a search takes no more than their lengths together,
+/// however alike they are.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "text/Fold.h"
+#include "text/LinearSearch.h"
+#include "text/Words.h"
+
+namespace vapp_text {
+
+/// The small letter of an ASCII byte that is a capital one.
+[[nodiscard]] constexpr char FoldAsciiByte(char byte) noexcept {
+    return static_cast<char>(FoldAsciiChar(static_cast<unsigned char>(byte)));
+}
+
+/// For a text of 1 to cnLongest bytes, which must outlive the search.
+class ShortNoCaseSearch {
+public:
+    static constexpr std::size_t cnLongest = LinearSearch<char>::cnShort;
+
+    explicit ShortNoCaseSearch(std::string_view wanted) noexcept
+        : m_wanted(wanted),
+          m_first(EightOf(FoldAsciiByte(wanted.front()))),
+          m_last(EightOf(FoldAsciiByte(wanted.back()))) {}
+
+    /// The first place at or behind `from`; npos for none.
+    [[nodiscard]] std::size_t Find(std::string_view text, std::size_t from) const noexcept {
+        const std::size_t toLast = m_wanted.size() - 1;
+        if (text.size() <= toLast) return std::string_view::npos;
+        const char* const bytes = text.data();
+        const std::size_t places = text.size() - toLast;
+        for (; from + cnWordBytes <= places; from += cnWordBytes) {
+            const std::size_t hit =
+                FindIn(bytes, from, LoadWord(bytes + from), LoadWord(bytes + from + toLast));
+            if (hit != std::string_view::npos) return hit;
+        }
+        if (from >= places) return std::string_view::npos;
+        const std::size_t left = places - from;
+        return FindIn(bytes, from, LoadPart(bytes + from, left), LoadPart(bytes + from + toLast, left));
+    }
+
+private:
+    // Of eight places, given the bytes where the first and where the last byte would have to stand.
+    [[nodiscard]] std::size_t FindIn(const char* text, std::size_t from, Word firsts,
+                                     Word lasts) const noexcept {
+        Word hits = ZeroBytes(LowerWord(firsts) ^ m_first) & ZeroBytes(LowerWord(lasts) ^ m_last);
+        for (; hits != 0; hits &= hits - 1) {
+            const std::size_t place = from + FirstMarked(hits);
+            if (HoldsAt(text + place)) return place;
+        }
+        return std::string_view::npos;
+    }
+    [[nodiscard]] bool HoldsAt(const char* text) const noexcept {
+        for (std::size_t at = 1; at + 1 < m_wanted.size(); ++at) {
+            if (FoldAsciiByte(text[at]) != FoldAsciiByte(m_wanted[at])) return false;
+        }
+        return true;
+    }
+
+    std::string_view m_wanted;
+    Word m_first;
+    Word m_last;
+};
+
+/// For a text of any length. The searched text is that of the constructor, whatever is edited later.
+class LongNoCaseSearch {
+public:
+    LongNoCaseSearch(std::string_view text, std::string_view wanted)
+        : m_text(Folded(text)), m_wanted(Folded(wanted)), m_search(m_wanted) {}
+    LongNoCaseSearch(const LongNoCaseSearch&) = delete;
+    LongNoCaseSearch& operator=(const LongNoCaseSearch&) = delete;
+
+    /// The first place at or behind `from` in the text that was given first; npos for none. Quick where calls
+    /// go forward.
+    [[nodiscard]] std::size_t Find(std::string_view /*edited*/, std::size_t from) {
+        return m_search.Find(m_text, from);
+    }
+
+private:
+    [[nodiscard]] static std::string Folded(std::string_view text) {
+        std::string folded(text);
+        std::transform(folded.begin(), folded.end(), folded.begin(), FoldAsciiByte);
+        return folded;
+    }
+
+    std::string m_text;
+    std::string m_wanted;
+    LinearSearch<char> m_search;
+};
+
+}  // namespace vapp_text
