@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -47,11 +46,11 @@ public:
     }
     [[nodiscard]] std::string Text() const {
         std::string text;
-        for (const auto piece : std::ranges::reverse_view(m_pieces)) {
+        std::for_each(m_pieces.rbegin(), m_pieces.rend(), [&text](auto piece) {
             const std::string digits = std::to_string(piece);
             if (!text.empty()) text.append(9 - digits.size(), '0');
             text += digits;
-        }
+        });
         return text;
     }
 
