@@ -52,7 +52,6 @@ LogPane::LogPane(ActionLog& log, QWidget* parent)
     m_text->setMaximumBlockCount(static_cast<int>(ActionLog::cnMostKept));
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_text->setTabChangesFocus(true);
-    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_text->setMinimumSize(1, 1);
     m_copy->setToolTip(tr("Copies what is selected, or all"));
     auto* const buttons = new QHBoxLayout;

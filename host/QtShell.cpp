@@ -157,9 +157,11 @@ void QtShell::AddLog(QMainWindow& window) {
 // What somebody should know who doesn't look at the log is told in the status line too.
 void QtShell::OnLogged(const ActionLog::TEntry* entry) {
     if (m_logPane != nullptr) m_logPane->Show(entry);
-    if (entry == nullptr || entry->kind == ActionLog::TKind::Action) return;
-    const std::size_t end = entry->text.find('\n');
-    if (m_status != nullptr) m_status->TellForAWhile(QString::fromStdString(entry->text.substr(0, end)));
+    if (entry == nullptr || m_status == nullptr) return;
+    // What was said of the action before is over.
+    const bool isAction = entry->kind == ActionLog::TKind::Action;
+    m_status->TellForAWhile(
+        isAction ? QString() : QString::fromStdString(entry->text.substr(0, entry->text.find('\n'))));
 }
 
 void QtShell::ArrangeBars(QMainWindow& window) {

@@ -72,6 +72,12 @@ std::optional<CRect> gPlaceOfRow(TLibraryBrowser& browser, int row) {
     return OnScreen(report, {0, top, report.GetClientRect().right, top + report.GetRowHeight()});
 }
 
+std::optional<CRect> gPlaceOfControl(TLibraryBrowser& browser, int id) {
+    const auto* const cells = browser.GetCellListView();
+    const CWnd* const found = cells != nullptr && id > 0 ? cells->GetDlgItem(static_cast<UINT>(id)) : nullptr;
+    return found != nullptr ? std::optional(found->GetWindowRect()) : std::nullopt;
+}
+
 std::optional<CRect> gPlaceOfPane(TLibraryBrowser& browser, int pane) {
     const CView* const found = browser.GetPane(pane, 0);
     return found != nullptr ? std::optional(found->GetWindowRect()) : std::nullopt;

@@ -21,6 +21,8 @@ namespace navigator {
                                                   const std::string& caption);
 /// A row of the cell list.
 [[nodiscard]] std::optional<CRect> gPlaceOfRow(vapp_library_browser::TLibraryBrowser& browser, int row);
+/// A control of the cell pane, by its identifier.
+[[nodiscard]] std::optional<CRect> gPlaceOfControl(vapp_library_browser::TLibraryBrowser& browser, int id);
 /// A pane, 0 to 2, and the bar below it, 0 or 1.
 [[nodiscard]] std::optional<CRect> gPlaceOfPane(vapp_library_browser::TLibraryBrowser& browser, int pane);
 [[nodiscard]] std::optional<CRect> gPlaceOfBar(vapp_library_browser::TLibraryBrowser& browser, int bar);

@@ -17,8 +17,8 @@ namespace navigator {
 
 namespace {
 
-enum TTarget { TargetBar, TargetHeader, TargetLibrary, TargetPane, TargetRow };
-constexpr std::array<const char*, 6> csTargets{"bar", "header", "library", "pane", "row", nullptr};
+enum TTarget { TargetBar, TargetControl, TargetHeader, TargetLibrary, TargetPane, TargetRow };
+constexpr std::array<const char*, 7> csTargets{"bar", "control", "header", "library", "pane", "row", nullptr};
 
 constexpr int cnLargestSide = 16384;
 
@@ -72,8 +72,9 @@ const SubCommandRow<UserCommand> UserCommand::csSubCommands[] = {
      0,
      0,
      &UserCommand::Menu},
-    {{"place", "user place library NAME|header CAPTION|row N|pane N|bar N",
-      "Where it stands on the screen: left, top, width and height; empty if it is not in sight."},
+    {{"place", "user place library NAME|header CAPTION|row N|pane N|bar N|control N",
+      "Where it stands on the screen: left, top, width and height; empty if it is not in sight. A control is "
+      "one of the cell pane, by its number: 7695 the filter, 7718 the tabs."},
      2,
      2,
      &UserCommand::Place},
@@ -178,11 +179,13 @@ int UserCommand::Place(Tcl_Interp* interp, TclWords words) {
     int target = 0;
     int number = 0;
     if (ReadTarget(interp, words[0], target) != TCL_OK) return TCL_ERROR;
-    const bool isNumbered = target == TargetBar || target == TargetPane || target == TargetRow;
+    const bool isNumbered =
+        target == TargetBar || target == TargetControl || target == TargetPane || target == TargetRow;
     if (isNumbered && Tcl_GetIntFromObj(interp, words[1], &number) != TCL_OK) return TCL_ERROR;
     const std::string name(gTextOf(words[1]));
     std::optional<CRect> place;
     if (target == TargetBar) place = gPlaceOfBar(m_browser, number);
+    if (target == TargetControl) place = gPlaceOfControl(m_browser, number);
     if (target == TargetPane) place = gPlaceOfPane(m_browser, number);
     if (target == TargetRow) place = gPlaceOfRow(m_browser, number);
     if (target == TargetLibrary) place = gPlaceOfLibrary(m_browser, name);

@@ -2,6 +2,7 @@
 
 #include "host/UserScripts.h"
 
+#include "host/FileText.h"
 #include "tests/host/MenuFixture.h"
 #include "vapp/toolkit/Clipboard.h"
 
@@ -76,6 +77,30 @@ TEST_F(UserScriptsTest, TheExampleUsesEveryStyle) {
     PickFromTab(1, "Tell me when shown");
     EXPECT_THAT(m_seen, Contains("Tell me when shown *"));
     EXPECT_EQ(Answer("set example::said"), "Tab 1 is not watched any more.");
+}
+
+TEST_F(UserScriptsTest, AnExamplePlacesCellsOntoASchematic) {
+    m_folder.Write("lib/sheet.sch", "v {}\n");
+    m_navigator->Rescan();
+    m_navigator->Populate();
+    ASSERT_EQ(gSourceScripts(*m_navigator, EXAMPLE_SCRIPTS), 0) << testing::PrintToString(Log());
+    SelectRows(1, 1);
+    PickFromCells("Place");
+    EXPECT_THAT(m_seen, Contains("&Place>Place -")) << "there is no sheet";
+    EXPECT_THAT(m_seen, Contains("&Place>Place cells here -")) << "a symbol is none";
+    SelectRows(4, 4);
+    PickFromCells("Place cells here");
+    EXPECT_THAT(m_seen, Contains("&Place>Place cells here"));
+    SelectRows(1, 1);
+    PickFromCells("Place");
+    SelectRows(3, 3);
+    PickFromCells("Place");
+    EXPECT_EQ(gReadFileText(m_folder.Path() / "lib" / "sheet.sch").text,
+              "v {}\nC {lib/a.sym} 0 0 0 0 {name=x1}\nC {other/c.sym} 200 0 0 0 {name=x2}\n");
+    m_navigator->Populate();
+    m_navigator->Populate();
+    EXPECT_EQ(Answer("dict get [user state] cell"), "lib sheet schematic") << "the sheet is shown again";
+    EXPECT_EQ(Answer("cell selecthierarchy " + m_design + " lib sheet schematic"), "4");
 }
 
 }  // namespace
