@@ -381,7 +381,7 @@ private:
         return (static_cast<char32_t>(character) >> 16U) == 0;
     }
     [[nodiscard]] static constexpr bool IsUnit(char16_t /*unit*/) noexcept { return true; }
-    [[nodiscard]] static CStringU OfCharacter(char character) { return CStringU(CString(character)); }
+    [[nodiscard]] static CStringU OfCharacter(char character) { return {CString(character)}; }
     [[nodiscard]] static CStringU OfCharacter(wchar_t character) { return CStringU(character); }
     [[nodiscard]] static CStringU OfCharacter(char16_t unit) { return CStringU(unit); }
     int ReplaceCharacter(const CStringU& oldText, const CStringU& newText, bool caseSensitive);
