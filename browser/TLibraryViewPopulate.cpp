@@ -18,6 +18,7 @@ namespace vapp_library_browser {
 
 namespace {
 
+constexpr COLORREF cnDarkEmptyText = 0xA0A0A0;
 constexpr COLORREF cnLightBackground = 0xFFFFFF;
 
 }  // namespace
@@ -69,6 +70,7 @@ void TLibraryView::UpdateListBackground() {
     const COLORREF wanted = gIsDarkTheme() ? cnDarkBackground : cnLightBackground;
     if (m_libraryList.GetBkColor() == wanted) return;
     m_libraryList.SetBkColor(wanted);
+    m_libraryList.SetEmptyTextColor(wanted == cnDarkBackground ? cnDarkEmptyText : cnNoColor);
     m_libraryList.Invalidate();
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -212,6 +213,20 @@ CStringU CListCtrl::GetEmptyText() {
     question.code = cnListEmptyMarkup;
     if (NotifyParent(question) == 0) return {};
     return {question.markup, static_cast<int>(std::size(question.markup))};
+}
+
+void CListCtrl::SetEmptyTextColor(COLORREF color) {
+    if (std::exchange(m_emptyTextColor, color) != color) TellPeer(cnChangeLook);
+}
+
+std::optional<CStringU> CListCtrl::OnToolTipNotify() {
+    return std::nullopt;
+}
+
+void CListCtrl::OnTipTimer() {}
+
+bool CListCtrl::IsTipTimerRunning() const {
+    return false;
 }
 
 ListItemLook CListCtrl::DrawItem(int index) {

@@ -261,10 +261,12 @@ TEST_F(TLibraryViewPopulate, TheListsBackgroundFollowsTheTheme) {
     Show({"a"});
     auto& list = Libraries().GetLibraryListCtrl();
     EXPECT_EQ(list.GetBkColor(), 0xFFFFFFu);
+    EXPECT_EQ(list.GetEmptyTextColor(), cnNoColor);
     m_frame.dark = true;
     const unsigned paints = list.GetInvalidateCount();
     Refresh();
     EXPECT_EQ(list.GetBkColor(), 0x2D2D2Du);
+    EXPECT_EQ(list.GetEmptyTextColor(), 0xA0A0A0u);
     EXPECT_EQ(list.GetInvalidateCount(), paints + 2) << "once for the request, once for the colour";
     m_frame.dark = false;
     Refresh();

@@ -3,8 +3,13 @@
 #include "toolkit/qt/QtListPeer.h"
 
 #include <QAbstractItemModelTester>
+#include <QHelpEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextDocument>
+#include <QToolTip>
+#include <optional>
 
 #include "tests/qt/QtTestReport.h"
 #include "toolkit/qt/QtListView.h"
@@ -17,7 +22,21 @@ public:
     std::vector<int> asked;
     std::function<void(int, ListItemLook&)> look;
     std::function<void(int)> onAsked;
+    std::optional<CStringU> tip;
+    std::function<void()> onTip;  ///< host script of the tip
+    bool tipTimerRuns = false;
+    int ticks = 0;
 
+    std::optional<CStringU> OnToolTipNotify() override {
+        const auto telling = onTip;
+        if (telling) telling();
+        return tip;
+    }
+    void OnTipTimer() override {
+        ++ticks;
+        tipTimerRuns = false;
+    }
+    [[nodiscard]] bool IsTipTimerRunning() const override { return tipTimerRuns; }
     ListItemLook DrawItem(int index) override {
         asked.push_back(index);
         ListItemLook answer = CListCtrl::DrawItem(index);
@@ -170,6 +189,47 @@ TEST_F(QtListPeerTest, AnEmptyListShowsTheParentsText) {
     }
     EXPECT_GT(ink, 30);
     EXPECT_EQ(with.pixelColor(5, with.height() - 5), QColor(0x2D, 0x2D, 0x2D));
+}
+
+TEST_F(QtListPeerTest, TheEmptyTextHasTheControlsColour) {
+    Fill(0);
+    list.SetBkColor(0x2D2D2D);
+    list.SetEmptyTextColor(0xA0A0A0);
+    const QImage picture = Paint();
+    int exact = 0;
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor pixel = picture.pixelColor(x, y);
+            exact += pixel == QColor(0xA0, 0xA0, 0xA0) ? 1 : 0;
+            EXPECT_LE(pixel.lightness(), 0xA0) << "nothing is lighter";
+        }
+    }
+    EXPECT_GT(exact, 0);
+}
+
+TEST_F(QtListPeerTest, ATipIsTheControlsAndItsTimerTicks) {
+    Fill(3);
+    const auto hover = [this](int row) {
+        QHelpEvent event(QEvent::ToolTip, At(row), View()->viewport()->mapToGlobal(At(row)));
+        QApplication::sendEvent(View()->viewport(), &event);
+    };
+    hover(0);
+    EXPECT_FALSE(QToolTip::isVisible());
+    list.tip = CStringU("/libs/<b>std</b>");
+    list.tipTimerRuns = true;
+    hover(1);
+    ASSERT_TRUE(QToolTip::isVisible());
+    QTextDocument shownText;
+    shownText.setHtml(QToolTip::text());
+    EXPECT_EQ(shownText.toPlainText(), "/libs/<b>std</b>") << "no markup";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list.ticks > 0; }));
+    QToolTip::hideText();
+    list.onTip = [this] { list.DestroyWindow(); };
+    list.tip = CStringU("gone");
+    const QPointer<QWidget> widget = View();
+    hover(2);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(widget.isNull());
 }
 
 TEST_F(QtListPeerTest, RefillInsidePaintingIsShownAfterwards) {

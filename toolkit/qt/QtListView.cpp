@@ -3,8 +3,13 @@
 /// or end the window, so that the list is looked at anew for every row.
 #include "toolkit/qt/QtListView.h"
 
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTextDocument>
+#include <QTimerEvent>
+#include <QToolTip>
+#include <optional>
 
 #include "toolkit/qt/QtColor.h"
 #include "toolkit/qt/QtIcons.h"
@@ -29,6 +34,7 @@ QtListView::QtListView(CListCtrl& list, QtRowControl& control, QtListModel& list
 
 void QtListView::Detach() {
     m_list = nullptr;
+    m_tipTimer.stop();
     QtRowView::Detach();
 }
 
@@ -91,11 +97,43 @@ void QtListView::PaintRow(QPainter& painter, const QRect& row, const ListItemLoo
     painter.drawRect(row.adjusted(0, 0, -1, -1));
 }
 
+bool QtListView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QtRowView::viewportEvent(event);
+    ShowTip(static_cast<QHelpEvent*>(event)->pos());
+    return true;
+}
+
+// It goes when the pointer leaves the row: the next row has another one.
+void QtListView::ShowTip(const QPoint& at) {
+    if (m_list == nullptr) return;
+    const QtBusyScope busy;
+    const std::optional<CStringU> tip = m_list->OnToolTipNotify();
+    if (m_list == nullptr) return;
+    if (m_list->IsTipTimerRunning())
+        m_tipTimer.start(static_cast<int>(CListCtrl::cnTipTimerMilliseconds), this);
+    QString text = tip ? gToQString(*tip) : QString();
+    // A path that looks like markup is none.
+    if (Qt::mightBeRichText(text))
+        text = QLatin1String("<qt>") + text.toHtmlEscaped() + QLatin1String("</qt>");
+    QToolTip::showText(viewport()->mapToGlobal(at), text, viewport(), RowRect(RowAt(at)));
+}
+
+void QtListView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != m_tipTimer.timerId()) {
+        QtRowView::timerEvent(event);
+        return;
+    }
+    const QtBusyScope busy;
+    if (m_list != nullptr) m_list->OnTipTimer();
+    if (m_list == nullptr || !m_list->IsTipTimerRunning()) m_tipTimer.stop();
+}
+
 void QtListView::PaintEmptyText(QPainter& painter) const {
     const QString text = gToQString(m_list->GetEmptyText());
     if (m_list == nullptr || text.isEmpty()) return;
     painter.setFont(gToQFont(font(), {.bold = false, .italic = true}));
-    painter.setPen(gReadableOn(BackColor(), palette().color(QPalette::PlaceholderText)));
+    const QColor usual = gReadableOn(BackColor(), palette().color(QPalette::PlaceholderText));
+    painter.setPen(gToQColor(m_list->GetEmptyTextColor(), usual));
     painter.drawText(viewport()->rect().adjusted(cnEmptyTextOffset, cnEmptyTextOffset, 0, 0),
                      Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
 }

@@ -3,6 +3,8 @@
 /// that moment.
 #pragma once
 
+#include <QBasicTimer>
+
 #include "toolkit/qt/QtListModel.h"
 #include "toolkit/qt/QtRowView.h"
 
@@ -24,13 +26,17 @@ public:
 protected:
     void ApplyFont() override;
     void paintEvent(QPaintEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
+    void ShowTip(const QPoint& at);
     [[nodiscard]] QColor BackColor() const;
     void PaintRow(QPainter& painter, const QRect& row, const ListItemLook& look) const;
     void PaintEmptyText(QPainter& painter) const;
 
     CListCtrl* m_list;
+    QBasicTimer m_tipTimer;
 };
 
 }  // namespace vapp_qt

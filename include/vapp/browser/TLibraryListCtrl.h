@@ -40,18 +40,14 @@ public:
     void BeginLibraryListSubmenu(const CString& text) { m_hostMenu.BeginSubmenu(text); }
     void EndLibraryListSubmenu() { m_hostMenu.EndSubmenu(); }
 
-    // --- The tip, for whoever shows it: a tool as large as the list -----------------------------------
-
-    /// Number of the timer that looks whether the pointer has left the rows, and its milliseconds.
+    /// Number of the timer that looks whether the pointer has left the rows.
     static constexpr UINT cnTipTimer = 1499;
-    static constexpr UINT cnTipTimerMilliseconds = 500;
     /// The path of the library under the pointer, also sent to the host as a status text; starts the timer.
     /// Nothing over no row.
-    [[nodiscard]] std::optional<CStringU> OnToolTipNotify();
-    /// To be called each time the timer's milliseconds have passed while it runs: once the pointer is over no
-    /// row, ends the timer and clears the status text.
-    void OnTipTimer();
-    [[nodiscard]] bool IsTipTimerRunning() const { return m_tipTimerRuns; }
+    [[nodiscard]] std::optional<CStringU> OnToolTipNotify() override;
+    /// Once the pointer is over no row, ends the timer and clears the status text.
+    void OnTipTimer() override;
+    [[nodiscard]] bool IsTipTimerRunning() const override { return m_tipTimerRuns; }
 
 protected:
     /// Asks the host to fill a menu, shows it, and runs what the user picks.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "vapp/toolkit/CFont.h"
@@ -101,6 +102,19 @@ public:
     /// How the row is to be painted now. The base gives text and default colours, and shows selection and
     /// focus.
     [[nodiscard]] virtual ListItemLook DrawItem(int index);
+    /// Colour of the empty list's text; cnNoColor for the desktop's own.
+    [[nodiscard]] COLORREF GetEmptyTextColor() const { return m_emptyTextColor; }
+    void SetEmptyTextColor(COLORREF color);
+
+    // The tip of the list's own, for whoever shows it: a tool as large as the list. The base has none.
+    /// Milliseconds between two calls of OnTipTimer.
+    static constexpr UINT cnTipTimerMilliseconds = 500;
+    /// The tip of what is under the pointer, asked when one is to be shown; nothing for none. It may start
+    /// the timer.
+    [[nodiscard]] virtual std::optional<CStringU> OnToolTipNotify();
+    /// To be called each time the timer's milliseconds have passed, as long as it runs.
+    virtual void OnTipTimer();
+    [[nodiscard]] virtual bool IsTipTimerRunning() const;
 
 protected:
     void OnSize(UINT type, int cx, int cy) override;
@@ -120,6 +134,7 @@ private:
     RowCursor m_cursor;
     TypeAhead m_typeAhead;
     COLORREF m_backColor = 0xFFFFFF;
+    COLORREF m_emptyTextColor = cnNoColor;
     UINT m_extendedStyle = 0;
     int m_top = 0;
     int m_rowHeight = 18;
