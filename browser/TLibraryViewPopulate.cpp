@@ -88,18 +88,17 @@ bool TLibraryView::FetchDesigns() {
     return true;
 }
 
+// A design is known by its libraries: one that has none stands nowhere, and falls out of the combo box.
 bool TLibraryView::TakeDesign(const TTclList& design) {
     if (design.empty()) return true;
     const CStringU name = MakeText(design[0]);
-    TPathOfLibrary& paths = m_designLibraries[name];
-    std::vector<CStringU>& order = m_designLibraryOrder[name];
     for (std::size_t item = 1; item < design.size(); ++item) {
         const auto pair = TTclList::Read(design[item]);
         if (!pair) return false;
         if (pair->size() != 2) continue;
         const CStringU library = MakeText((*pair)[0]);
-        paths[library] = MakeText((*pair)[1]);
-        order.push_back(library);
+        m_designLibraries[name][library] = MakeText((*pair)[1]);
+        m_designLibraryOrder[name].push_back(library);
     }
     return true;
 }

@@ -81,14 +81,33 @@ TEST_F(TLibraryViewPopulate, AnAnswerThatBreaksOffKeepsWhatCameBefore) {
 
 TEST_F(TLibraryViewPopulate, OddElementsAreSkipped) {
     Initialize();
-    m_host.Answer("database all_libs", "{} {top {a /a} one {b /b extra} {} {c /c}} {empty}");
+    m_host.Answer("database all_libs", "{} {top {a /a} one {b /b extra} {} {c /c}} {other {d /d}} {empty}");
     m_browser.Populate();
     EXPECT_FALSE(Libraries().NeedsPopulate());
     EXPECT_EQ(Libraries().GetDesignCombo().GetCount(), 2);
     m_browser.SetSelectedDesign("top");
     EXPECT_EQ(Shown(), (Names{"a", "c"}));
-    m_browser.SetSelectedDesign("empty");
-    EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(TLibraryViewPopulate, ADesignWithoutLibrariesIsNotOffered) {
+    Initialize();
+    m_host.Answer("database all_libs", "{empty} {full {a /a}} {odd {b /b extra} word}");
+    m_browser.Populate();
+    EXPECT_EQ(Libraries().GetDesignCombo().GetCount(), 1);
+    EXPECT_EQ(Libraries().GetSelectedDesign(), CStringU("full"));
+    EXPECT_EQ(Shown(), (Names{"a"}));
+}
+
+TEST_F(TLibraryViewPopulate, TheSelectedDesignThatLosesItsLibrariesGivesWayToTheFirst) {
+    Initialize();
+    m_host.Answer("database all_libs", "{first {a /a}} {second {b /b}}");
+    m_browser.Populate();
+    m_browser.SetSelectedDesign("second");
+    m_host.Answer("database all_libs", "{first {a /a}} {second}");
+    m_browser.RequestLibraryViewDelayedPopulate();
+    m_browser.Populate();
+    EXPECT_EQ(Libraries().GetSelectedDesign(), CStringU("first"));
+    EXPECT_EQ(Shown(), (Names{"a"}));
 }
 
 TEST_F(TLibraryViewPopulate, OddCompletionCodesFailLikeErrors) {
