@@ -6,8 +6,11 @@
 #include <tcl.h>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
+#include "celllist/OddName.h"
+#include "text/Codec.h"
 #include "text/Compare.h"
 #include "vapp/browser/TTclList.h"
 #include "vapp/browser/TclBridge.h"
@@ -93,7 +96,8 @@ std::vector<bool> NamesThatEqual(const NameTable& names, const CStringU* text) {
     std::vector<bool> equal(names.Count(), true);
     if (text == nullptr) return equal;
     for (std::uint32_t number = 0; number < names.Count(); ++number)
-        equal[number] = vapp_text::CompareNoCaseU(names.At(number).data(), text->Payload()) == 0;
+        equal[number] =
+            vapp_text::CompareNoCaseU(vapp_text::SkipMarker(names.At(number).data()), text->Payload()) == 0;
     return equal;
 }
 
@@ -140,8 +144,34 @@ SortCriterion CellRows::Criterion(NameRole role, const NameRanks& ranks, bool fo
     return {m_rows.front().data() + Index(role), cnRoleCount, ranks.rank, ranks.count, forward};
 }
 
+bool CellRows::HasOddNames() const {
+    return std::any_of(m_names.begin(), m_names.end(), &HasOddName);
+}
+
+// What the keys stand for, done by hand: slower by far, and the names that need it are rare.
+void CellRows::InsertIntoSet() {
+    const auto compare = [this](std::uint32_t left, std::uint32_t right, NameRole role) {
+        return vapp_text::CompareNoCaseU(vapp_text::SkipMarker(Name(left, role).data()),
+                                         vapp_text::SkipMarker(Name(right, role).data()));
+    };
+    const auto isBefore = [&compare](std::uint32_t left, std::uint32_t right) {
+        for (const NameRole role : cnSetOrder) {
+            if (const int order = compare(left, right, role); order != 0) return order < 0;
+        }
+        return false;
+    };
+    std::set<std::uint32_t, decltype(isBefore)> set(isBefore);
+    for (std::uint32_t row = 0; row < m_rows.size(); ++row)
+        set.insert(row);
+    Reorder(std::vector<std::uint32_t>(set.begin(), set.end()));
+}
+
 void CellRows::ArrangeAsSet() {
     if (m_rows.empty()) return;
+    if (HasOddNames()) {
+        InsertIntoSet();
+        return;
+    }
     std::array<NameRanks, cnRoleCount> ranks;
     std::vector<SortCriterion> criteria;
     for (const NameRole role : cnSetOrder) {
@@ -153,6 +183,8 @@ void CellRows::ArrangeAsSet() {
 
 void CellRows::ArrangeByNames(std::span<const NameCriterion> names, bool dropEqual) {
     if (m_rows.empty()) return;
+    const bool isSetByHand = HasOddNames();
+    if (isSetByHand && dropEqual) InsertIntoSet();
     std::array<NameRanks, cnRoleCount> natural;
     std::array<NameRanks, cnRoleCount> folded;
     std::vector<SortCriterion> criteria;
@@ -166,11 +198,22 @@ void CellRows::ArrangeByNames(std::span<const NameCriterion> names, bool dropEqu
     // Names that are equal in this order are nearly always the same but for case. Where they aren't, what
     // makes rows equal has to be asked as well.
     for (const NameRole role : cnSetOrder) {
-        if (!joinsDifferentNames) break;
+        if (!joinsDifferentNames || isSetByHand) break;
         folded[Index(role)] = RankNames(Names(role), NameOrder::Folded);
         criteria.push_back(Criterion(role, folded[Index(role)], true));
     }
-    Arrange(criteria, dropEqual);
+    Arrange(criteria, dropEqual && !isSetByHand);
+}
+
+void CellRows::ArrangeByTies(std::span<const NameCriterion> names) {
+    if (m_rows.empty() || names.empty()) return;
+    std::array<NameRanks, cnRoleCount> natural;
+    std::vector<SortCriterion> criteria;
+    for (const NameCriterion& name : names) {
+        natural[Index(name.role)] = RankNames(Names(name.role), NameOrder::Natural);
+        criteria.push_back(Criterion(name.role, natural[Index(name.role)], name.forward));
+    }
+    Arrange(criteria, false);
 }
 
 void CellRows::ArrangeByKeys(const RowKeys& keys, std::span<const NameCriterion> names) {
@@ -187,7 +230,10 @@ void CellRows::ArrangeByKeys(const RowKeys& keys, std::span<const NameCriterion>
 }
 
 void CellRows::Arrange(std::span<const SortCriterion> criteria, bool dropEqual) {
-    const std::vector<std::uint32_t> order = SortRowNumbers(m_rows.size(), criteria, dropEqual);
+    Reorder(SortRowNumbers(m_rows.size(), criteria, dropEqual));
+}
+
+void CellRows::Reorder(std::span<const std::uint32_t> order) {
     std::vector<Row> arranged;
     arranged.reserve(order.size());
     for (const std::uint32_t row : order)

@@ -6,7 +6,8 @@
 /// row. Nothing here sends a line or knows a window; rows are read from an answer, arranged, and then stay.
 ///
 /// The surprise: the order of rows is decided by sort keys, not by the compare functions, and therefore
-/// holds for any bytes that a host may answer.
+/// holds for any bytes that a host may answer. Only which rows are one is not left to keys where a name is no
+/// proper text: the compare of such names reads their bytes in its own way, and rows are put into a set.
 #pragma once
 
 #include <array>
@@ -75,6 +76,11 @@ public:
     /// Orders by keys, in natural order without regard to case, then by the criteria. Rows without a
     /// difference keep their order.
     void ArrangeByKeys(const RowKeys& keys, std::span<const NameCriterion> criteria);
+    /// Orders by these names alone, in natural order without regard to case. Rows without a difference keep
+    /// their order.
+    void ArrangeByTies(std::span<const NameCriterion> criteria);
+    /// Puts the rows into the order of these numbers; rows that are not among them are dropped.
+    void Reorder(std::span<const std::uint32_t> order);
     /// Keeps the rows for which the test is true. It is asked in the order of the rows.
     template <typename Test>
     void Keep(const Test& test) {
@@ -91,6 +97,8 @@ private:
     [[nodiscard]] static constexpr std::size_t Index(NameRole role) { return static_cast<std::size_t>(role); }
     [[nodiscard]] SortCriterion Criterion(NameRole role, const NameRanks& ranks, bool forward) const;
     void Arrange(std::span<const SortCriterion> criteria, bool dropEqual);
+    [[nodiscard]] bool HasOddNames() const;
+    void InsertIntoSet();
 
     std::array<NameTable, cnRoleCount> m_names;
     std::vector<Row> m_rows;

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "celllist/OddName.h"
+#include "text/Codec.h"
 #include "text/NaturalKey.h"
 
 namespace vapp_library_browser {
@@ -14,9 +16,15 @@ namespace {
 constexpr std::uint32_t cnUnknown = 0xFFFFFFFFu;
 constexpr std::uint32_t cnAbsent = 0xFFFFFFFEu;
 
-// The fold key without the 0 byte at its end, which says nothing here.
-std::string Folded(const char* payload) {
+// No key begins so.
+constexpr char cnOddFront = '\xFF';
+
+// The fold key without the 0 byte at its end, which says nothing here. A name that is no proper text is found
+// again by its bytes: its key may be that of another one.
+std::string Folded(const char* stored) {
+    const char* const payload = vapp_text::SkipMarker(stored);
     std::string key;
+    if (IsOddName(payload)) return cnOddFront + std::string(payload);
     vapp_text::AppendFoldKey(payload, key);
     key.pop_back();
     return key;

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <memory>
 
+#include "celllist/ColumnSort.h"
 #include "text/NaturalOrder.h"
 #include "text/Search.h"
 #include "vapp/browser/StateWords.h"
@@ -57,7 +58,10 @@ bool TReport::TColumn::MatchesFilter(const TLibCellView& cell, const CStringU& t
 }
 
 int TReport::TColumn::CompareCells(const TLibCellView& left, const TLibCellView& right) {
-    return vapp_text::CompareNaturalNoCase(GetCellText(left), GetCellText(right));
+    const auto text = [this](const TLibCellView& cell) {
+        return m_sortTexts != nullptr ? m_sortTexts->At(cell) : GetCellText(cell);
+    };
+    return vapp_text::CompareNaturalNoCase(text(left), text(right));
 }
 
 int TReport::TColumn::GetCellIcon(const TLibCellView& /*cell*/) {

@@ -13,6 +13,7 @@
 #include "celllist/CellLines.h"
 #include "celllist/CellRows.h"
 #include "celllist/CellSet.h"
+#include "celllist/ColumnSort.h"
 #include "celllist/CountFormat.h"
 #include "celllist/RowOrder.h"
 #include "celllist/SubstringFilter.h"
@@ -76,6 +77,24 @@ RowKeys KeysOf(const CellRows& rows, const RowOrderPart& part) {
         keys.ofRow.push_back(keys.texts.Intern(text.Payload()));
     }
     return keys;
+}
+
+// What the column finds equal stands in the order of the names behind it.
+void ArrangeByCompare(CellRows& rows, const RowOrderPart& part) {
+    rows.ArrangeByTies(part.names);
+    std::vector<TLibCellView> cells;
+    cells.reserve(rows.Count());
+    for (std::size_t row = 0; row < rows.Count(); ++row)
+        cells.push_back(rows.At(row));
+    rows.Reorder(SortByColumn(*part.keyColumn, part.keyForward, cells));
+}
+
+void ArrangeByPart(CellRows& rows, const RowOrderPart& part) {
+    if (part.comparesCells) {
+        ArrangeByCompare(rows, part);
+    } else {
+        rows.ArrangeByKeys(KeysOf(rows, part), part.names);
+    }
 }
 
 }  // namespace
@@ -192,7 +211,7 @@ void TReport::SortRows(CellRows& rows, const RowOrder& order) {
         return;
     }
     std::for_each(order.parts.rbegin(), order.parts.rend(),
-                  [&rows](const RowOrderPart& part) { rows.ArrangeByKeys(KeysOf(rows, part), part.names); });
+                  [&rows](const RowOrderPart& part) { ArrangeByPart(rows, part); });
 }
 
 void TReport::ApplyTheme(bool dark) {

@@ -22,7 +22,7 @@ public:
         if (const auto role = RoleOf(own)) {
             AddName(*role, forward);
         } else if (custom == nullptr) {
-            AddKey(own, forward);
+            AddKey(own, forward).comparesCells = true;
         } else if (first) {
             AddKey(own, forward == custom->GetSortForward());
         }
@@ -39,11 +39,12 @@ private:
         m_order.parts.back().names.push_back({role, forward});
         ++m_nameCount;
     }
-    void AddKey(TReport::TColumn* column, bool forward) {
+    RowOrderPart& AddKey(TReport::TColumn* column, bool forward) {
         if (m_order.parts.size() > 1 || m_order.parts[0].keyColumn != nullptr || m_nameCount > 0)
             m_order.parts.emplace_back();
         m_order.parts.back().keyColumn = column;
         m_order.parts.back().keyForward = forward;
+        return m_order.parts.back();
     }
 
     RowOrder& m_order;

@@ -17,6 +17,7 @@ namespace vapp_library_browser {
 /// Criteria that follow one another, behind a column whose texts are the keys of the rows.
 struct RowOrderPart {
     TCellNamesReportCtrl::TColumn* keyColumn = nullptr;  ///< null: the names alone
+    bool comparesCells = false;  ///< the column compares cells itself, and has no keys
     bool keyForward = true;
     std::vector<NameCriterion> names;
 };

@@ -97,9 +97,8 @@ void TCellListView::RequestDelayedPopulate(TUpdateCellListReason reason) {
     TLineBuilder line("database filter ");
     line.Text(GetDropDownFilter());
     const TTclObject answer = AskTcl(m_libraryView->GetTclInterp(), line.GetString());
-    const bool matters = (ReadInteger(answer.Get()).value_or(0) & cnFilterAnswerMask) != 0;
-    // What the host asked for in the course of the line stands.
-    m_needsPopulate = m_needsPopulate || matters;
+    // The answer is the last word, also over what the host asked for in the course of the line.
+    if (const auto number = ReadInteger(answer.Get())) m_needsPopulate = (*number & cnFilterAnswerMask) != 0;
 }
 
 // An idle call that comes while rows are being fetched further up on the stack leaves nothing behind: a host

@@ -6,6 +6,8 @@
 #include <memory>
 
 #include "celllist/CellRows.h"
+#include "text/Codec.h"
+#include "text/Compare.h"
 #include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/TProfileSection.h"
 #include "vapp/celllist/CLibCellViewOleDataSource.h"
@@ -87,6 +89,13 @@ TCellNamesReportCtrl::TColumn* TCellNamesReportCtrl::HeaderHitTest(CPoint point)
 
 CStringU TCellNamesReportCtrl::GetTypeAheadText(int row) const {
     return GetCell(row).cell;
+}
+
+bool TCellNamesReportCtrl::IsTypeAheadMatch(int row, const CStringU& text) const {
+    const auto at = static_cast<std::size_t>(row);
+    if (row < 0 || at >= m_cells->Count()) return false;
+    const char* const name = vapp_text::SkipMarker(m_cells->Name(at, NameRole::Cell).data());
+    return vapp_text::CompareNNoCaseU(name, text.Payload(), text.GetCharCount()) == 0;
 }
 
 TCellNamesReportCtrl::TColCellName* TCellNamesReportCtrl::FindCellColumn() const {

@@ -172,8 +172,9 @@ void CXTPReportControl::KeyPressedByUser(TKey key, TModifiers modifiers) {
 }
 
 void CXTPReportControl::TypedByUser(const CStringU& text, std::int64_t milliseconds) {
-    const int row = m_typeAhead.Find(text, milliseconds, m_cursor.GetFocus(), m_rowCount,
-                                     [this](int index) { return GetTypeAheadText(index); });
+    const int row = m_typeAhead.FindMatch(
+        text, milliseconds, m_cursor.GetFocus(), m_rowCount,
+        [this](int index, const CStringU& wanted) { return IsTypeAheadMatch(index, wanted); });
     if (row >= 0) ClickedByUser(row, {});
 }
 
@@ -193,6 +194,10 @@ void CXTPReportControl::CursorChanged(int focusBefore) {
 
 CStringU CXTPReportControl::GetTypeAheadText(int /*row*/) const {
     return {};
+}
+
+bool CXTPReportControl::IsTypeAheadMatch(int row, const CStringU& text) const {
+    return GetTypeAheadText(row).StartsWithNoCase(text);
 }
 
 void CXTPReportControl::OnColumnsChanged(int /*change*/, CXTPReportColumn* /*column*/) {}

@@ -4,6 +4,13 @@
 
 int TypeAhead::Find(const CStringU& piece, std::int64_t milliseconds, int focus, int rowCount,
                     const std::function<CStringU(int)>& rowText) {
+    return FindMatch(piece, milliseconds, focus, rowCount, [&rowText](int row, const CStringU& wanted) {
+        return rowText(row).StartsWithNoCase(wanted);
+    });
+}
+
+int TypeAhead::FindMatch(const CStringU& piece, std::int64_t milliseconds, int focus, int rowCount,
+                         const std::function<bool(int, const CStringU&)>& rowBeginsWith) {
     if (piece.IsEmpty()) return -1;
     const bool grown = Grow(piece, milliseconds);
     if (rowCount <= 0) return -1;
@@ -13,16 +20,20 @@ int TypeAhead::Find(const CStringU& piece, std::int64_t milliseconds, int focus,
     const CStringU& wanted = m_repeated ? m_firstPiece : m_typed;
     for (int step = 0; step < rowCount; ++step) {
         const int row = step < rowCount - first ? first + step : step - (rowCount - first);
-        if (rowText(row).StartsWithNoCase(wanted)) return row;
+        if (rowBeginsWith(row, wanted)) return row;
     }
     return -1;
 }
 
+// A clock that goes backward counts as a pause; the difference is unsigned, which no clock can overflow.
+bool TypeAhead::IsPending(std::int64_t milliseconds) const {
+    const auto sinceLast = static_cast<std::uint64_t>(milliseconds) - static_cast<std::uint64_t>(m_typedAt);
+    return !m_typed.IsEmpty() && sinceLast <= static_cast<std::uint64_t>(cnPause);
+}
+
 // True if the piece lengthens the text; false if it begins a new one or repeats the only letter of it.
 bool TypeAhead::Grow(const CStringU& piece, std::int64_t milliseconds) {
-    // A clock that goes backward counts as a pause; the difference is unsigned, which no clock can overflow.
-    const auto sinceLast = static_cast<std::uint64_t>(milliseconds) - static_cast<std::uint64_t>(m_typedAt);
-    const bool isNew = m_typed.IsEmpty() || sinceLast > static_cast<std::uint64_t>(cnPause);
+    const bool isNew = !IsPending(milliseconds);
     m_typedAt = milliseconds;
     if (isNew) {
         m_typed = piece;

@@ -23,6 +23,19 @@ TEST(CellSet, FindsRowsWithoutRegardToCase) {
     EXPECT_EQ(set.RowsOf(rows), (std::vector<std::uint32_t>{0, 2, 4}));
 }
 
+TEST(CellSet, FindsANameThatIsNoTextByItsBytes) {
+    const RecordingHost host;
+    const TTclObject list(Tcl_NewStringObj("{l \xC3\x80 v} {l \xC3 v} {l \x80 v}", -1));
+    const CellRows rows = *CellRows::Read(list.Get());
+    CellSet set;
+    CellSet::Adder adder(set, rows);
+    adder.Add(1);
+    EXPECT_EQ(set.RowsOf(rows), (std::vector<std::uint32_t>{1}));
+    CellSet whole;
+    whole.Add(rows.At(0));
+    EXPECT_EQ(whole.RowsOf(rows), (std::vector<std::uint32_t>{0}));
+}
+
 TEST(CellSet, TakesRowsOfAnotherList) {
     const RecordingHost host;
     const TTclObject before(Tcl_NewStringObj("{l a v} {l b v} {l c v}", -1));

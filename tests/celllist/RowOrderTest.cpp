@@ -125,6 +125,34 @@ TEST_F(RowOrderTest, AsksAColumnClassOfTheHostOnceForEachRowAndNotBehindAllNames
     EXPECT_EQ(Rows(), (std::vector<std::string>{"l1 aaa v", "l1 cc v", "l1 b v"}));
 }
 
+// A number as a host's class compares it: the shortest name first, whatever the text in the column says.
+class LengthColumn : public TCellNamesReportCtrl::TColumn {
+public:
+    LengthColumn(TCellNamesReportCtrl& report, int itemIndex) : TColumn(report, itemIndex, "Length") {}
+    [[nodiscard]] CStringU GetCellText(const TLibCellView& cell) override { return cell.cell; }
+    [[nodiscard]] int CompareCells(const TLibCellView& left, const TLibCellView& right) override {
+        return left.cell.GetByteLength() - right.cell.GetByteLength();
+    }
+};
+
+TEST_F(RowOrderTest, AColumnClassOfTheHostDecidesByItsOwnCompare) {
+    ShowCells({{"l1", "zz", "v"}, {"l1", "aaa", "v"}, {"l1", "b", "v"}, {"l2", "yy", "v"}, {"l1", "a", "v"}});
+    auto length = std::make_unique<LengthColumn>(Report(), Report().GetColumns().GetCount());
+    LengthColumn* const column = length.get();
+    Report().AddColumn(std::move(length));
+    Report().GetColumns().SetSortColumn(column, true);
+    Report().Populate();
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"l1 a v", "l1 b v", "l2 yy v", "l1 zz v", "l1 aaa v"}));
+    Report().GetColumns().SetSortColumn(column, false);
+    Report().Populate();
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"l1 aaa v", "l2 yy v", "l1 zz v", "l1 a v", "l1 b v"}));
+    // Behind the library it decides within each of them, and in front of the other ties.
+    Report().GetColumns().SetSortColumn(&Column("Library"), false);
+    Report().GetColumns().GetSortOrder().Add(column, true);
+    Report().Populate();
+    EXPECT_EQ(Rows(), (std::vector<std::string>{"l2 yy v", "l1 a v", "l1 b v", "l1 zz v", "l1 aaa v"}));
+}
+
 TEST_F(RowOrderTest, TakesTwoBuiltInColumnsThatBothDecrease) {
     ShowCells({{"l1", "a", "v"}, {"l1", "b", "v"}, {"l2", "a", "x"}, {"l2", "a", "v"}, {"l2", "b", "v"}});
     Report().GetColumns().SetSortColumn(&Column("Library"), false);

@@ -66,11 +66,18 @@ TEST_F(TCellListViewTest, CountsEveryOtherReasonAlike) {
     EXPECT_TRUE(Cells().NeedsPopulate());
 }
 
-TEST_F(TCellListViewTest, KeepsARequestThatTheHostMakesWhileItIsAsked) {
+TEST_F(TCellListViewTest, TakesTheAnswerOverARequestThatTheHostMakesWhileItIsAsked) {
     m_host.HandleStart("database filter", [this](Tcl_Interp* interp) {
         Cells().RequestDelayedPopulate(UpdateAlways);
         Tcl_SetObjResult(interp, Tcl_NewIntObj(0));
         return TCL_OK;
+    });
+    Cells().RequestDelayedPopulate(UpdateIfFilterSaysSo);
+    EXPECT_FALSE(Cells().NeedsPopulate());
+    // No answer says nothing about it.
+    m_host.HandleStart("database filter", [this](Tcl_Interp*) {
+        Cells().RequestDelayedPopulate(UpdateAlways);
+        return TCL_ERROR;
     });
     Cells().RequestDelayedPopulate(UpdateIfFilterSaysSo);
     EXPECT_TRUE(Cells().NeedsPopulate());

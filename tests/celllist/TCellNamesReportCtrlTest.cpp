@@ -116,4 +116,15 @@ TEST_F(TCellNamesReportCtrlTest, OffersCellsForTypeAhead) {
     EXPECT_TRUE(Report().GetTypeAheadText(5).IsEmpty());
 }
 
+TEST_F(TCellNamesReportCtrlTest, ComparesItsCellsWithWhatIsTypedAsTheirTextsWould) {
+    for (const char* typed : {"b", "B", "bb", "a", "\xC3\xA9", "\xC3\x89", " "}) {
+        const CStringU text(typed, TextEncoding::Utf8Auto);
+        for (int row = -1; row < 6; ++row) {
+            const bool isMatch = row >= 0 && row < static_cast<int>(Report().GetCellViewCount()) &&
+                                 Report().GetTypeAheadText(row).StartsWithNoCase(text);
+            EXPECT_EQ(Report().IsTypeAheadMatch(row, text), isMatch) << typed << " in row " << row;
+        }
+    }
+}
+
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "tests/qt/QtTestReport.h"
+#include "toolkit/qt/QtColor.h"
 
 class QtReportViewTest : public ShownReport {
 protected:
@@ -132,6 +133,21 @@ TEST_F(QtReportViewTest, TheForegroundColourIsThatOfTheText) {
         metrics.foreground = 0x0000DF;
     };
     EXPECT_GT(CountOf(Paint(), cell, QColor(0xDF, 0, 0)), 3);
+}
+
+// Red on the blue of a selection can't be read as it is: what is left of it is a tint.
+TEST_F(QtReportViewTest, TheForegroundColourTintsTheTextOfASelectedRow) {
+    Populate(1);
+    report.ClickedByUser(0, {});
+    const QRect cell(0, report.GetHeaderHeight(), 140, report.GetRowHeight());
+    const QColor tint = vapp_qt::gTintedOn(Palette(QPalette::Highlight), QColor(0xDF, 0, 0),
+                                           Palette(QPalette::HighlightedText));
+    ASSERT_NE(tint, Palette(QPalette::HighlightedText));
+    EXPECT_EQ(CountOf(Paint(), cell, tint), 0);
+    report.decoration = [](FakeReport::Cell, CXTPReportRecordItemMetrics& metrics) {
+        metrics.foreground = 0x0000DF;
+    };
+    EXPECT_GT(CountOf(Paint(), cell, tint), 3);
 }
 
 TEST_F(QtReportViewTest, AnIconMovesTheTextToTheRight) {

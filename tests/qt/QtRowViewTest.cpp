@@ -312,3 +312,12 @@ TEST_F(QtRowViewDragTest, NothingCanBeDroppedOnRowsNorThroughThem) {
     QApplication::sendEvent(&Rows(), &drop);
     EXPECT_EQ(drop.dropAction(), Qt::IgnoreAction);
 }
+
+TEST_F(QtRowViewTest, ABlankBelongsToTheTextThatIsBeingTyped) {
+    report.typedNames = {"amp", "op amp", "op art", "x"};
+    Populate(4);
+    QTest::keyClick(View(), Qt::Key_Space, Qt::ControlModifier);
+    QTest::keyClicks(View(), "op ar");
+    EXPECT_EQ(Focus(), 2);
+    EXPECT_EQ(Selected(), (Ranges{{2, 2}}));
+}

@@ -26,6 +26,7 @@ public:
     std::map<Cell, int> asked;                                           ///< how often a cell was asked for
     std::function<void(int row, int item)> onAsked;                      ///< host script of the answer
     std::function<void(Cell, CXTPReportRecordItemMetrics&)> decoration;  ///< icon, font, colours
+    std::vector<CStringU> typedNames;  ///< what type-ahead looks through instead
 
     void SetRows(int count) {
         SetVirtualMode(std::make_unique<Record>(*this), count);
@@ -50,7 +51,10 @@ public:
         }
         return text;
     }
-    [[nodiscard]] CStringU GetTypeAheadText(int row) const override { return CStringU(TextOf(row, 0)); }
+    [[nodiscard]] CStringU GetTypeAheadText(int row) const override {
+        const auto at = static_cast<std::size_t>(row);
+        return at < typedNames.size() ? typedNames[at] : CStringU(TextOf(row, 0));
+    }
 
 private:
     class Record : public CXTPReportRecord {

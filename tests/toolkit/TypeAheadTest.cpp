@@ -115,3 +115,35 @@ TEST_F(TypeAheadTest, EachRowIsAskedAtMostOnce) {
               -1);
     EXPECT_EQ(asked, std::vector<int>(1000, 1));
 }
+
+TEST_F(TypeAheadTest, IsPendingWhileTheTextMayGrow) {
+    TypeAhead typeAhead;
+    EXPECT_FALSE(typeAhead.IsPending(0)) << "nothing was typed";
+    EXPECT_EQ(typeAhead.Find("x", 500, -1, 0, {}), -1);
+    EXPECT_TRUE(typeAhead.IsPending(500));
+    EXPECT_TRUE(typeAhead.IsPending(500 + TypeAhead::cnPause));
+    EXPECT_FALSE(typeAhead.IsPending(501 + TypeAhead::cnPause));
+    EXPECT_FALSE(typeAhead.IsPending(499)) << "a clock that goes backward";
+}
+
+TEST_F(TypeAheadTest, ABlankInTheMiddleOfANameBelongsToIt) {
+    TypeAhead typeAhead;
+    const std::vector<CStringU> names = {"op amp", "op art", "opus"};
+    int row = -1;
+    for (const char* piece : {"o", "p", " ", "a", "r"})
+        row = typeAhead.Find(piece, 10, row, 3,
+                             [&names](int at) { return names[static_cast<std::size_t>(at)]; });
+    EXPECT_EQ(row, 1);
+}
+
+TEST_F(TypeAheadTest, RowsMayCompareForThemselves) {
+    TypeAhead typeAhead;
+    std::vector<std::string> asked;
+    EXPECT_EQ(typeAhead.FindMatch("x", 0, 1, 4,
+                                  [&asked](int row, const CStringU& wanted) {
+                                      asked.push_back(std::to_string(row) + wanted.Payload());
+                                      return row == 0;
+                                  }),
+              0);
+    EXPECT_EQ(asked, (std::vector<std::string>{"2x", "3x", "0x"}));
+}

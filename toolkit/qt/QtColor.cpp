@@ -38,6 +38,14 @@ QColor gReadableOn(const QColor& background, const QColor& preferred) {
     return Contrast(background, Qt::black) >= Contrast(background, Qt::white) ? Qt::black : Qt::white;
 }
 
+QColor gTintedOn(const QColor& background, const QColor& wanted, const QColor& readable) {
+    for (const int percent : {100, 80, 60, 40, 20}) {
+        const QColor tint = gMixed(wanted, readable, percent);
+        if (Contrast(background, tint) >= cnLeastContrast) return tint;
+    }
+    return readable;
+}
+
 QColor gMixed(const QColor& first, const QColor& second, int percent) {
     const auto mix = [percent](int one, int other) {
         return (one * percent + other * (100 - percent)) / 100;

@@ -15,6 +15,8 @@ namespace vapp_qt {
 /// `preferred` if it stands out from the background, else black or white, whichever does. A control may ask
 /// for a background of its own and leave the text to a palette that was chosen for another background.
 [[nodiscard]] QColor gReadableOn(const QColor& background, const QColor& preferred);
+/// As much of `wanted` as stands out from the background, mixed with a colour that does.
+[[nodiscard]] QColor gTintedOn(const QColor& background, const QColor& wanted, const QColor& readable);
 /// A colour between two: `percent` of the first.
 [[nodiscard]] QColor gMixed(const QColor& first, const QColor& second, int percent);
 /// The control's font in the wanted weight and slant.

@@ -77,6 +77,10 @@ void QtListControl::Type(const CStringU& text, std::int64_t milliseconds) {
     m_list.TypedByUser(text, milliseconds);
 }
 
+bool QtListControl::IsTyping(std::int64_t milliseconds) const {
+    return m_list.IsTyping(milliseconds);
+}
+
 void QtListControl::Scroll(int topRow, int /*scrollX*/) {
     m_list.SetTopIndex(topRow);
 }

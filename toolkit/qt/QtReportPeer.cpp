@@ -105,6 +105,10 @@ void QtReportControl::Type(const CStringU& text, std::int64_t milliseconds) {
     m_report.TypedByUser(text, milliseconds);
 }
 
+bool QtReportControl::IsTyping(std::int64_t milliseconds) const {
+    return m_report.IsTyping(milliseconds);
+}
+
 void QtReportControl::Scroll(int topRow, int scrollX) {
     m_report.ScrolledByUser(topRow, m_report.IsFullColumnScrolling() ? WholeColumns(scrollX) : scrollX);
 }

@@ -37,6 +37,7 @@ public:
     bool Find() override;
     void Key(TKey key, TModifiers modifiers) override;
     void Type(const CStringU& text, std::int64_t milliseconds) override;
+    [[nodiscard]] bool IsTyping(std::int64_t milliseconds) const override;
     void Scroll(int topRow, int scrollX) override;
     void EnsureVisible(int row) override;
 

@@ -52,6 +52,8 @@ public:
     virtual bool Find() = 0;
     virtual void Key(TKey key, TModifiers modifiers) = 0;
     virtual void Type(const CStringU& text, std::int64_t milliseconds) = 0;
+    /// True while a blank belongs to what the user is typing.
+    [[nodiscard]] virtual bool IsTyping(std::int64_t milliseconds) const = 0;
     virtual void Scroll(int topRow, int scrollX) = 0;
     virtual void EnsureVisible(int row) = 0;
 };

@@ -47,6 +47,11 @@ bool IsTyping(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().front().isPrint();
 }
 
+std::int64_t Now() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
 }  // namespace
 
 QtRowView::QtRowView(QtRowControl& control, QWidget* parent)
@@ -352,6 +357,12 @@ void QtRowView::keyPressEvent(QKeyEvent* event) {
         m_control->Key(TKey::SelectAll, {});
         return;
     }
+    // Names may have blanks in them: in the middle of one, a blank selects nothing.
+    if (event->key() == Qt::Key_Space && IsTyping(*event) && m_control->IsTyping(Now())) {
+        event->accept();
+        Type(event->text());
+        return;
+    }
     const auto* entry = std::find_if(std::begin(cnKeys), std::end(cnKeys),
                                      [event](const KeyEntry& known) { return known.qt == event->key(); });
     if (entry != std::end(cnKeys)) {
@@ -371,8 +382,7 @@ void QtRowView::keyPressEvent(QKeyEvent* event) {
 
 void QtRowView::Type(const QString& text) {
     if (m_control == nullptr) return;
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    m_control->Type(gToText(text), std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+    m_control->Type(gToText(text), Now());
 }
 
 }  // namespace vapp_qt

@@ -10,8 +10,8 @@
 /// one is running leave no such trace.
 ///
 /// Rows are ordered by ranks of their names and keys, which equal what `CompareCells` of the built-in and the
-/// added columns says; it is not called for each pair. A column class of a host that derives from `TColumn`
-/// directly is ordered by the natural order of its `GetCellText`, whatever its `CompareCells` says.
+/// added columns says; it is not called for each pair. Of a column class of a host that derives from
+/// `TColumn` directly, `CompareCells` is called and decides.
 ///
 /// Not here: the widgets around the report, and the mark (TCellListView); what the report looks like on a
 /// screen (its peer).
@@ -42,6 +42,7 @@ namespace vapp_library_browser {
 
 class CellRows;
 class CellSet;
+class ColumnTexts;
 class CLibCellViewOleDataSource;
 class TCellListView;
 struct CellQuery;
@@ -68,7 +69,9 @@ public:
         /// True if the column's text holds the other one: byte by byte, or without regard to case.
         [[nodiscard]] virtual bool MatchesFilter(const TLibCellView& cell, const CStringU& text,
                                                  bool caseSensitive);
-        /// Below, at or above 0: the natural order of the two texts, without regard to case.
+        /// Below, at or above 0: the natural order of the two texts, without regard to case. While rows are
+        /// sorted it is called for pairs of them, and asks for the text of each row once; a class that
+        /// compares otherwise is best off with numbers that it has at hand.
         [[nodiscard]] virtual int CompareCells(const TLibCellView& left, const TLibCellView& right);
         /// The text in the row of the cell.
         [[nodiscard]] virtual CStringU GetCellText(const TLibCellView& cell) = 0;
@@ -85,7 +88,11 @@ public:
         int m_defaultWidth[cnSetupCount] = {50, 50, 50};
 
     private:
+        friend class vapp_library_browser::ColumnTexts;
+
         TCellNamesReportCtrl& m_report;
+        // The texts of the sort that runs, if one does.
+        ColumnTexts* m_sortTexts = nullptr;
     };
 
     /// The cell's name, with the row's icon. Stays in place when the list scrolls sideways.
@@ -344,6 +351,7 @@ public:
 
     void OnColumnsChanged(int change, CXTPReportColumn* column) override;
     [[nodiscard]] CStringU GetTypeAheadText(int row) const override;
+    [[nodiscard]] bool IsTypeAheadMatch(int row, const CStringU& text) const override;
 
 protected:
     void OnDestroy() override;

@@ -94,6 +94,10 @@ public:
     /// Type-ahead: goes to the next row that begins with the typed text, without regard to case.
     /// `milliseconds` is any steady clock; a pause of a second begins a new text.
     void TypedByUser(const CStringU& text, std::int64_t milliseconds);
+    /// True while a blank belongs to what the user is typing, and is no key.
+    [[nodiscard]] bool IsTyping(std::int64_t milliseconds) const {
+        return m_typeAhead.IsPending(milliseconds);
+    }
 
     [[nodiscard]] const RowSelection& GetSelection() const { return m_cursor.GetSelection(); }
     [[nodiscard]] int GetFocusedItem() const { return m_cursor.GetFocus(); }

@@ -124,6 +124,10 @@ public:
     void KeyPressedByUser(TKey key, TModifiers modifiers);
     /// Type-ahead, as for lists, over `GetTypeAheadText`.
     void TypedByUser(const CStringU& text, std::int64_t milliseconds);
+    /// True while a blank belongs to what the user is typing, and is no key.
+    [[nodiscard]] bool IsTyping(std::int64_t milliseconds) const {
+        return m_typeAhead.IsPending(milliseconds);
+    }
     /// The peer scrolled by wheel or scroll bar.
     void ScrolledByUser(int topRow, int scrollX);
 
@@ -133,6 +137,9 @@ public:
 
     /// Text that type-ahead compares for a row; must be cheap. The base has none.
     [[nodiscard]] virtual CStringU GetTypeAheadText(int row) const;
+    /// True if that text begins with the other one, without regard to case. Asked of row after row: a list
+    /// that has many had better answer without making a text.
+    [[nodiscard]] virtual bool IsTypeAheadMatch(int row, const CStringU& text) const;
     /// For headers that want their report to know: columns were added, moved, hidden, shown or resized. The
     /// base header does not call it, and the base does nothing.
     virtual void OnColumnsChanged(int change, CXTPReportColumn* column);

@@ -27,6 +27,12 @@ public:
     /// @param rowText  gives the text of a row from 0 to below `rowCount`; asked of each at most once
     [[nodiscard]] int Find(const CStringU& piece, std::int64_t milliseconds, int focus, int rowCount,
                            const std::function<CStringU(int)>& rowText);
+    /// The same for rows that compare for themselves: true if the row's text begins with the other one,
+    /// without regard to case. A list of a million rows has no time to make a text of each.
+    [[nodiscard]] int FindMatch(const CStringU& piece, std::int64_t milliseconds, int focus, int rowCount,
+                                const std::function<bool(int, const CStringU&)>& rowBeginsWith);
+    /// True while the next piece would lengthen the text. A blank then belongs to the text, and is no key.
+    [[nodiscard]] bool IsPending(std::int64_t milliseconds) const;
 
 private:
     bool Grow(const CStringU& piece, std::int64_t milliseconds);
