@@ -189,7 +189,10 @@ std::optional<std::string> DesignStore::OpenFolder(const fs::path& folder) {
 }
 
 bool DesignStore::Rescan() {
-    bool isChanged = false;
+    // A drawing may stand inside of another one's picture though nobody has asked about itself.
+    bool isChanged = std::erase_if(m_loaded, [](const auto& loaded) {
+                         return !(gStampOf(fs::path(loaded.first)) == loaded.second.stamp);
+                     }) > 0;
     for (Design& design : m_designs) {
         Design fresh;
         fresh.name = design.name;
@@ -202,6 +205,18 @@ bool DesignStore::Rescan() {
     }
     if (isChanged) Changed();
     return isChanged;
+}
+
+std::vector<std::string> DesignStore::Troubles() const {
+    std::vector<std::string> sentences;
+    for (const Design& design : m_designs) {
+        for (const Library& library : design.libraries) {
+            for (const fs::path& folder : library.unreadable)
+                sentences.push_back("Cannot read the folder \"" + gDisplayName(folder.native()) +
+                                    "\" of the library \"" + library.name + "\".");
+        }
+    }
+    return sentences;
 }
 
 void DesignStore::Changed() {

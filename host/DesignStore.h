@@ -83,6 +83,9 @@ public:
     /// Reads all folders again. True if anything that was shown or answered before may now be different.
     bool Rescan();
 
+    /// A sentence for each folder below the designs that could not be read at the last time.
+    [[nodiscard]] std::vector<std::string> Troubles() const;
+
     const std::vector<Design>& Designs() const { return m_designs; }
     const Design* FindDesign(std::string_view name) const;
     /// An empty reference if the store has no such view (any more).

@@ -46,10 +46,6 @@ const ViewExtension* FindExtension(const fs::path& file) {
     return found == csViewExtensions.end() ? nullptr : found;
 }
 
-bool IsHidden(const NativeName& name) {
-    return name.empty() || name[0] == NativeName::value_type('.');
-}
-
 /// Calls `visit` with each entry of a folder that has no hidden name; false if the folder cannot be read.
 template <typename TVisit>
 bool VisitFolder(const fs::path& folder, TVisit visit) {
@@ -58,7 +54,7 @@ bool VisitFolder(const fs::path& folder, TVisit visit) {
     if (error) return false;
     for (; entries != fs::directory_iterator(); entries.increment(error)) {
         if (error) break;
-        if (!IsHidden(entries->path().filename().native())) visit(*entries);
+        if (!gIsHiddenName(entries->path().filename().native())) visit(*entries);
     }
     return !error;
 }
@@ -85,7 +81,7 @@ public:
     LibraryScan(Library& library, FolderCells folderCells) : m_library(library), m_folderCells(folderCells) {}
 
     void Run() {
-        m_library.isReadable = VisitFolder(m_library.folder, [this](const fs::directory_entry& entry) {
+        m_library.isReadable = Visit(m_library.folder, [this](const fs::directory_entry& entry) {
             if (IsFolder(entry)) {
                 if (m_folderCells == FolderCells::Yes) AddFolderCell(entry.path());
             } else if (const ViewExtension* extension = FindExtension(entry.path());
@@ -98,6 +94,13 @@ public:
     }
 
 private:
+    template <typename TVisit>
+    bool Visit(const fs::path& folder, TVisit visit) {
+        if (VisitFolder(folder, visit)) return true;
+        m_library.unreadable.push_back(folder);
+        return false;
+    }
+
     void AddFile(const fs::path& path, const ViewExtension& extension) {
         ViewFile file;
         file.cell = CellName(path.stem().native(), m_library.files.size());
@@ -109,7 +112,8 @@ private:
     }
 
     void AddFolderCell(const fs::path& folder) {
-        VisitFolder(folder, [&](const fs::directory_entry& entry) {
+        m_library.cellFolders.push_back(folder.filename().native());
+        Visit(folder, [&](const fs::directory_entry& entry) {
             if (!IsFolder(entry)) return;
             ViewFile file;
             file.cell = CellName(folder.filename().native(), m_library.files.size());
@@ -176,6 +180,14 @@ private:
 };
 
 }  // namespace
+
+bool gIsHiddenName(const NativeName& name) {
+    return name.empty() || name[0] == NativeName::value_type('.');
+}
+
+bool gMayBeView(const NativeName& name) {
+    return !gIsHiddenName(name) && FindExtension(name) != nullptr;
+}
 
 std::span<const ViewExtension> gViewExtensions() {
     return csViewExtensions;

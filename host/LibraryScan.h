@@ -20,6 +20,11 @@
 
 namespace navigator {
 
+/// True for a name that begins with a dot: what bears it is no design data.
+bool gIsHiddenName(const NativeName& name);
+/// True if a file of this name would be a view, whatever is in it.
+bool gMayBeView(const NativeName& name);
+
 /// What a view's file holds.
 enum class ViewFormat : unsigned char { Symbol, Schematic, Text, Unknown };
 
@@ -50,8 +55,12 @@ struct Library {
     std::string name;  ///< Valid UTF-8, unique in its design.
     std::filesystem::path folder;
     bool isReadable = true;
+    /// What of the library's folders could not be read: its own, or that of a cell.
+    std::vector<std::filesystem::path> unreadable;
     std::vector<ViewFile> files;     ///< In byte order of cell, then view; each pair once.
     std::vector<ViewFile> shadowed;  ///< Further files for pairs that `files` has.
+    /// The folders in the library's folder, also those without a view so far.
+    std::vector<NativeName> cellFolders;
 
     /// The views of a cell, an empty range if there is none.
     [[nodiscard]] std::span<const ViewFile> Cell(std::string_view cell) const;

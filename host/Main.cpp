@@ -25,7 +25,9 @@ int Dump(const Options& options) {
     if (const int status = gPrepareWindow(navigator, options)) return status;
     const std::string text = navigator.Dump();
     std::cout << text << std::flush;
-    return std::cout.good() ? EXIT_SUCCESS : gFail("The list can't be written.", cnFailureStatus);
+    if (!std::cout.good()) return gFail("The list can't be written.", cnFailureStatus);
+    // Said already. A list that lacks something is not what was asked for.
+    return navigator.Store().Troubles().empty() ? EXIT_SUCCESS : cnUsageStatus;
 }
 
 }  // namespace

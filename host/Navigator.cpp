@@ -110,6 +110,29 @@ void Navigator::CreateWindow(int width, int height, bool dark) {
     m_cells.TellReserved();
 }
 
+void Navigator::LoadSetup() {
+    m_browser->SerializeSetup(false);
+    if (!m_hasKeptHeights) WidenColumns();
+}
+
+// Once, in each arrangement: the first widths of the list cut off names as common as "schematic".
+void Navigator::WidenColumns() {
+    using TReport = vapp_library_browser::TCellNamesReportCtrl;
+    static constexpr std::array<std::pair<const char*, int>, 3> cnWidths{
+        {{"Cell", 160}, {"View", 90}, {"Library", 100}}};
+    TReport& report = m_browser->GetCellListView()->GetReport();
+    const int shown = m_browser->GetCellListView()->GetSetupTab();
+    for (const int tab : {(shown + 1) % 3, (shown + 2) % 3, shown}) {
+        report.OnSwitchSetupTab(tab);
+        for (const auto& [caption, width] : cnWidths) {
+            for (int position = 0; position < report.GetColumns().GetCount(); ++position) {
+                CXTPReportColumn* const column = report.GetColumns().GetAt(position);
+                if (column->GetCaption() == caption) column->SetWidth(width);
+            }
+        }
+    }
+}
+
 void Navigator::FitPanes() {
     if (m_hasKeptHeights) return;
     PaneHeights heights{};
@@ -185,12 +208,18 @@ std::string Navigator::Dump() {
     m_browser->SetSelectedDesign(TextOf(m_store.Designs().front().name));
     Populate();
     auto& report = m_browser->GetCellListView()->GetReport();
-    std::vector<CStringU> captions;
-    captions.reserve(static_cast<std::size_t>(report.GetColumns().GetCount()));
-    for (int position = 0; position < report.GetColumns().GetCount(); ++position)
-        captions.emplace_back(report.GetColumns().GetAt(position)->GetCaption());
+    // Not by their captions: a script may give one that is taken, and would have its column told twice.
+    std::vector<CXTPReportColumn*> hidden;
+    for (int position = 0; position < report.GetColumns().GetCount(); ++position) {
+        CXTPReportColumn* const column = report.GetColumns().GetAt(position);
+        if (!column->IsVisible()) hidden.push_back(column);
+    }
+    for (CXTPReportColumn* const column : hidden)
+        column->SetVisible(true);
     CStringU text;
-    report.DumpContents(captions, text);
+    report.DumpContents({}, text);
+    for (CXTPReportColumn* const column : hidden)
+        column->SetVisible(false);
     return text.Payload();
 }
 

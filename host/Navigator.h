@@ -49,7 +49,7 @@ public:
     /// Sources a script at global level. Gives nothing on success, or else the script's error with its place.
     [[nodiscard]] std::optional<std::string> SourceScript(const std::string& file);
     /// Reads the stored layout; to be called when all columns are there.
-    void LoadSetup() { m_browser->SerializeSetup(false); }
+    void LoadSetup();
     /// Gives each pane a part of a window that is too small for their first heights. Does nothing where the
     /// user has left other heights; to be called when the window has its size.
     void FitPanes();
@@ -86,6 +86,7 @@ private:
     };
 
     void OnDatabaseChange(DatabaseChange change);
+    void WidenColumns();
 
     // Order matters: windows go before the commands that they may still call, those before the interpreter.
     CWinAppEx& m_app;

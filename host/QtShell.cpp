@@ -77,6 +77,7 @@ QtShell::QtShell(Navigator& navigator)
       m_watcher([this] {
           m_navigator.Rescan();
           m_watcher.Watch(m_navigator.Store());
+          TellTroubles();
       }),
       m_console(navigator.Interp()),
       m_exit(navigator.Interp(), "exit",
@@ -239,6 +240,7 @@ void QtShell::Show() {
                               qApp, [this] { OnIdle(); });
     m_navigator.Frame().ShowWindow(true);
     FirstLook();
+    TellTroubles();
     m_navigator.ShowLastView();
     m_wasShown = true;
 }
@@ -281,6 +283,17 @@ void QtShell::KeepPlace() {
 void QtShell::Tell(const CString& sentence) {
     if (QMainWindow* const window = Window())
         window->statusBar()->showMessage(QString::fromUtf8(sentence.GetString()));
+}
+
+// Once for each folder that can't be read; the list shows its library, and nothing of it.
+void QtShell::TellTroubles() {
+    std::vector<std::string> troubles = m_navigator.Store().Troubles();
+    if (troubles == m_toldTroubles) return;
+    m_toldTroubles = std::move(troubles);
+    const std::size_t count = m_toldTroubles.size();
+    if (count == 0) return Tell({});
+    const std::string others = count > 1 ? " And " + std::to_string(count - 1) + " more." : std::string();
+    Tell((m_toldTroubles.front() + others).c_str());
 }
 
 std::optional<std::string> QtShell::Screenshot(const std::string& file) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/ConsolePane.h"
 #include "host/FolderWatcher.h"
@@ -66,6 +67,7 @@ private:
     void OnIdle();
     void KeepPlace();
     void ShowPreview(const PreviewRequest& request);
+    void TellTroubles();
 
     Navigator& m_navigator;
     FolderWatcher m_watcher;
@@ -83,6 +85,7 @@ private:
     bool m_isRunning = false;
     QMetaObject::Connection m_idle;
     bool m_wasShown = false;
+    std::vector<std::string> m_toldTroubles;
 };
 
 }  // namespace navigator

@@ -109,6 +109,8 @@ int gOpenFolders(Navigator& navigator, const Options& options, const TApp& app) 
     }
     for (const std::string& folder : options.folders)
         if (const auto failure = navigator.OpenFolder(folder)) return gFail(*failure, cnUsageStatus);
+    for (const std::string& trouble : navigator.Store().Troubles())
+        gFail(trouble, cnUsageStatus);
     return EXIT_SUCCESS;
 }
 

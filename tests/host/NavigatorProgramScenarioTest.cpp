@@ -2,10 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <unistd.h>
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <filesystem>
+#include <optional>
 
 #include "tests/host/TempFolder.h"
 
@@ -32,11 +34,11 @@ QProcessEnvironment BareEnvironment() {
     return environment;
 }
 
-/// Runs the program to its end.
-Ended RunProgramIn(const QProcessEnvironment& environment, const QStringList& words) {
+/// Runs any program to its end.
+Ended RunToItsEnd(const QProcessEnvironment& environment, const QString& program, const QStringList& words) {
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(NAVIGATOR_PROGRAM), words);
+    process.start(program, words);
     constexpr int cnMilliseconds = 120000;
     if (!process.waitForFinished(cnMilliseconds)) {
         process.kill();
@@ -45,6 +47,39 @@ Ended RunProgramIn(const QProcessEnvironment& environment, const QStringList& wo
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
 }
+
+Ended RunProgramIn(const QProcessEnvironment& environment, const QStringList& words) {
+    return RunToItsEnd(environment, QStringLiteral(NAVIGATOR_PROGRAM), words);
+}
+
+/// Runs it as somebody who may not read everything. Who may is another user for the length of it; nothing if
+/// that can't be had here.
+std::optional<Ended> RunAsAnybody(const QStringList& words) {
+    if (geteuid() != 0) return RunProgramIn(BareEnvironment(), words);
+    const QStringList asNobody{QStringLiteral("--reuid=65534"), QStringLiteral("--regid=65534"),
+                               QStringLiteral("--clear-groups"), QStringLiteral(NAVIGATOR_PROGRAM)};
+    const Ended known =
+        RunToItsEnd(BareEnvironment(), QStringLiteral("setpriv"), asNobody + QStringList{"--version"});
+    if (known.status != 0) return std::nullopt;
+    return RunToItsEnd(BareEnvironment(), QStringLiteral("setpriv"), asNobody + words);
+}
+
+/// Takes all permissions of a folder away, and gives them back for the end.
+class ClosedFolder {
+public:
+    explicit ClosedFolder(std::filesystem::path folder) : m_folder(std::move(folder)) {
+        std::filesystem::permissions(m_folder, std::filesystem::perms::none);
+    }
+    ~ClosedFolder() {
+        std::error_code ignored;
+        std::filesystem::permissions(m_folder, std::filesystem::perms::owner_all, ignored);
+    }
+    ClosedFolder(const ClosedFolder&) = delete;
+    ClosedFolder& operator=(const ClosedFolder&) = delete;
+
+private:
+    std::filesystem::path m_folder;
+};
 
 /// `locale` is its LC_ALL.
 Ended RunProgram(const QStringList& words, const QString& locale = QStringLiteral("C.UTF-8")) {
@@ -79,7 +114,37 @@ TEST(NavigatorProgram, FolderThatCannotBeReadGivesASentenceAndStatusTwo) {
     const Ended ended = RunProgram({QStringLiteral("--dump"), PathOf(folder.Path() / "missing")});
     EXPECT_EQ(2, ended.status);
     EXPECT_THAT(ended.output, IsEmpty());
-    EXPECT_THAT(ended.errors, AllOf(StartsWith("navigator: "), HasSubstr("missing")));
+    EXPECT_THAT(ended.errors, AllOf(StartsWith("navigator: Cannot open the folder \""), HasSubstr("missing"),
+                                    HasSubstr("No such file or directory")));
+}
+
+TEST(NavigatorProgram, DesignWithoutPermissionGivesItsReasonAndStatusTwo) {
+    const TempFolder folder;
+    folder.Write("closed/lib/inv.sym", "v {}\n");
+    const ClosedFolder closed(folder.Path() / "closed");
+    const auto ended = RunAsAnybody({QStringLiteral("--dump"), PathOf(folder.Path() / "closed")});
+    if (!ended) GTEST_SKIP() << "nobody else can run the program here";
+    EXPECT_EQ(2, ended->status);
+    EXPECT_THAT(ended->output, IsEmpty());
+    EXPECT_THAT(ended->errors, AllOf(StartsWith("navigator: Cannot open the folder \""), HasSubstr("closed"),
+                                     HasSubstr("Permission denied")));
+}
+
+// What can be read is told all the same; who goes by the status knows that it is not all.
+TEST(NavigatorProgram, LibraryWithoutPermissionGivesASentenceTheOthersAndStatusTwo) {
+    const TempFolder folder;
+    folder.Write("design/open/inv.sym", "v {}\n");
+    folder.Write("design/open/folded/symbol/folded.sym", "v {}\n");
+    folder.Write("design/shut/buf.sym", "v {}\n");
+    const ClosedFolder library(folder.Path() / "design/shut");
+    const ClosedFolder cell(folder.Path() / "design/open/folded");
+    const auto ended = RunAsAnybody({QStringLiteral("--dump"), PathOf(folder.Path() / "design")});
+    if (!ended) GTEST_SKIP() << "nobody else can run the program here";
+    EXPECT_EQ(2, ended->status);
+    EXPECT_EQ("Cell,View,Library\ninv,symbol,open\n", ended->output);
+    EXPECT_THAT(ended->errors, AllOf(HasSubstr("navigator: Cannot read the folder \""),
+                                     HasSubstr("shut\" of the library \"shut\".\n"),
+                                     HasSubstr("folded\" of the library \"open\".\n")));
 }
 
 TEST(NavigatorProgram, UnknownOptionGivesASentenceAndStatusTwo) {

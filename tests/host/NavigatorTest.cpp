@@ -63,6 +63,29 @@ TEST_F(NavigatorTest, ShowsFilesAndFoldersAsCellViews) {
     EXPECT_EQ("3 cells", Status());
 }
 
+// A script may take a caption that is there; each column tells its own texts all the same.
+TEST_F(NavigatorTest, DumpsColumnsOfOneCaptionEachByItself) {
+    m_folder.Write("lib/inv.sym", "v {}\n");
+    Start();
+    Eval("proc mycell {design library cell view} {return <$cell>}");
+    Eval("navigator addcolumn Cell mycell");
+    EXPECT_EQ("Cell,View,Library,Cell\ninv,symbol,lib,<inv>\n", m_navigator.Dump());
+    CXTPReportColumns& columns = m_navigator.Browser().GetCellListView()->GetReport().GetColumns();
+    EXPECT_FALSE(columns.GetAt(3)->IsVisible()) << "as it was before";
+}
+
+TEST_F(NavigatorTest, FirstWidthsHaveRoomForTheNamesOfViews) {
+    m_folder.Write("lib/inv.sym", "v {}\n");
+    Start();
+    auto& report = m_navigator.Browser().GetCellListView()->GetReport();
+    const int shown = m_navigator.Browser().GetCellListView()->GetSetupTab();
+    for (const int tab : {0, 1, 2}) {
+        report.OnSwitchSetupTab(tab);
+        EXPECT_EQ(report.GetColumns().GetAt(1)->GetWidth(), 90) << tab;
+    }
+    EXPECT_EQ(shown, 0);
+}
+
 TEST_F(NavigatorTest, SortsByTheNumbersInNames) {
     for (const char* cell : {"lib/bank10.sym", "lib/bank2.sym", "lib/Bank1.sym"})
         m_folder.Write(cell, "v {}\n");

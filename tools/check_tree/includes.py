@@ -21,6 +21,8 @@ MAY_INCLUDE = {
     "celllist": {"celllist", "toolkit", "text"},
     "toolkit/qt": {"toolkit/qt", "toolkit", "text"},
     "host": {"host", "toolkit/qt"},
+    "host/posix": {"host/posix", "host"},
+    "host/win32": {"host/win32", "host"},
     "examples": {"examples", "toolkit/qt"},
     "examples/units": {"examples/units", "text"},  # shows a room that is not exported
 }
@@ -48,7 +50,7 @@ LIBRARIES = [
     ("the operating system",
      r"(windows|win\w+|ws2\w+|shl\w+|unistd|dlfcn|fcntl|poll|spawn|pthread|signal|dirent|pwd|termios|langinfo)\.h$"
      r"|sys/|linux/|netinet/|arpa/",
-     {"platform/posix", "platform/win32", "examples/connect/posix", "examples/connect/win32", "examples/worker/posix",
+     {"platform/posix", "platform/win32", "host/posix", "host/win32", "examples/connect/posix", "examples/connect/win32", "examples/worker/posix",
       "examples/worker/win32", "tests", "bench", "fuzz"}),
 ]
 # The basic types are the real ones of the system's own header where there is one.
