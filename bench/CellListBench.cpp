@@ -3,9 +3,9 @@
 /// ways to sort, and beside an item model; how much memory a row takes; what painting costs beside the bare
 /// evaluation of its lines. Ratios to the walk of the same run are counters of each bench.
 ///
-///     bench_celllist [--rows=1000000] [--filter]
+///     bench_celllist [--rows=1000000] [--filter] [--typing]
 ///
-/// With --filter it measures the sub-string alone.
+/// With --filter it measures the sub-string alone, with --typing a key of type-ahead that finds nothing.
 #include <malloc.h>
 #include <strings.h>
 #include <tcl.h>
@@ -38,10 +38,12 @@ namespace {
 
 std::size_t s_live = 0;
 std::size_t s_peak = 0;
+std::size_t s_allocations = 0;
 
 void* Counted(std::size_t size) {
     void* memory = std::malloc(size == 0 ? 1 : size);
     if (memory == nullptr) throw std::bad_alloc();
+    ++s_allocations;
     s_live += malloc_usable_size(memory);
     s_peak = std::max(s_peak, s_live);
     return memory;
@@ -216,6 +218,25 @@ void ItemModel(std::size_t count) {
     }
 }
 
+// A key that no row begins with looks at all of them.
+void Typing(std::size_t count) {
+    Host host;
+    host.Answer(MakeBenchRows(BenchRows::Shuffled, count));
+    Navigator navigator(host);
+    TCellNamesReportCtrl& report = navigator.Report();
+    report.Populate();
+    const std::size_t before = s_allocations;
+    std::int64_t clock = 0;
+    const double key = Seconds(5, [&] { report.TypedByUser("~", clock += 2 * TypeAhead::cnPause); });
+    const std::size_t allocations = (s_allocations - before) / 5;
+    const double texts = Seconds(1, [&] {
+        for (std::size_t row = 0; row < count; ++row)
+            if (report.GetTypeAheadText(static_cast<int>(row)).StartsWithNoCase("~")) std::abort();
+    });
+    std::printf("a key without a hit in %zu rows: %7.1f ms, %zu allocations; by texts %7.1f ms\n", count,
+                key * 1e3, allocations, texts * 1e3);
+}
+
 // 50 rows of 3 columns: measured by the report, and the same lines evaluated as they are.
 void Painting() {
     Host host;
@@ -268,11 +289,15 @@ void operator delete(void* memory, std::size_t /*size*/) noexcept {
 int main(int argumentCount, char** arguments) {
     std::size_t count = 1000000;
     bool filterAlone = false;
+    bool typingAlone = false;
     for (int at = 1; at < argumentCount; ++at) {
         if (std::string_view(arguments[at]).starts_with("--rows="))
             count = std::strtoul(arguments[at] + 7, nullptr, 10);
         filterAlone = filterAlone || std::string_view(arguments[at]) == "--filter";
+        typingAlone = typingAlone || std::string_view(arguments[at]) == "--typing";
     }
+    if (!filterAlone) Typing(count);
+    if (typingAlone) return 0;
     BenchFilter("shared cells", BenchRows::Sorted, count);
     BenchFilter("distinct cells", BenchRows::Distinct, count);
     if (filterAlone) return 0;

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "tests/browser/RecordingHost.h"
+#include "tests/text/HostileText.h"
 #include "text/NaturalOrder.h"
 #include "vapp/browser/TTclObject.h"
 
@@ -172,9 +173,7 @@ struct Model {
 };
 
 TEST_F(CellRowsTest, ArrangesAsASetAndASortOfTheValuesWould) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    RandomNames random(seed);
+    RandomNames random(text_test::SeededRandom()());
     std::vector<NameRole> roles = {NameRole::Library, NameRole::Cell, NameRole::View};
     do {
         for (unsigned directions = 0; directions < 8; ++directions) {
@@ -239,8 +238,7 @@ private:
 };
 
 TEST_F(CellRowsTest, ReadsAnswersOfAnySizeAsTheyStand) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
+    const auto seed = static_cast<unsigned>(text_test::SeededRandom()());
     for (const std::size_t size : {0u, 1u, 255u, 256u, 257u, 512u, 513u, 3000u}) {
         for (const std::size_t longestRun : {1u, 3u, 400u, 5000u}) {
             for (const std::size_t distinct : {2u, 100000u}) {
@@ -275,9 +273,7 @@ TEST_F(CellRowsTest, ReadsThreeThousandNamesThatAreAllDifferent) {
 }
 
 TEST_F(CellRowsTest, ArrangesByKeysAsComparingTheirTextsWould) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    RandomNames random(seed);
+    RandomNames random(text_test::SeededRandom()());
     for (int turn = 0; turn < 20; ++turn) {
         CellRows rows = Read(random.Cells(200));
         rows.ArrangeAsSet();
@@ -303,9 +299,7 @@ TEST_F(CellRowsTest, ArrangesByKeysAsComparingTheirTextsWould) {
 }
 
 TEST_F(CellRowsTest, OrdersMalformedTextWithoutHarm) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     const auto name = [&random] {
         std::string bytes;
         for (unsigned long count = random() % 5; count > 0; --count)

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/text/HostileText.h"
+
 namespace {
 
 using namespace vapp_library_browser;
@@ -130,9 +132,7 @@ TEST(FilterHistoryTest, ReadsNoMoreThanItKeeps) {
 // Whatever is typed: never more than it may hold, no entry twice, the last text in front, and what is kept
 // comes back.
 TEST(FilterHistoryTest, HoldsItsPromisesOverRandomTyping) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     FilterHistory history;
     std::string typed;
     const char* const letters[] = {"a", "B", "b", "_", "7", "\xC3\xA4", "\xC3\x84", "\xF0\x9F\x98\x80"};

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "tests/text/HostileText.h"
 #include "text/Search.h"
 
 namespace {
@@ -102,9 +103,7 @@ TEST(NameSearchTest, AgreesAcrossTheEndsOfBlocks) {
 
 // Beside the search of one name at a time, over names and texts of few letters, so that there are many hits.
 TEST(NameSearchTest, AgreesWithTheSearchOfEachName) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     const auto word = [&random](std::size_t longest) {
         static constexpr const char* csLetters[] = {"a", "A", "b", "B", "_", "0", "[", "\xC3\xA4"};
         std::string text;

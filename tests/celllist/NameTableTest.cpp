@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/text/HostileText.h"
+
 namespace {
 
 using vapp_library_browser::NameTable;
@@ -40,9 +42,7 @@ TEST(NameTable, KeepsNamesWhileItGrows) {
 }
 
 TEST(NameTable, InternsManyAsOneAfterTheOther) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     for (const std::size_t size : {0u, 1u, 31u, 32u, 33u, 64u, 257u, 5000u}) {
         for (const std::size_t distinct : {1u, 3u, 40u, 100000u}) {
             SCOPED_TRACE(std::to_string(size) + " of " + std::to_string(distinct));
@@ -106,9 +106,7 @@ TEST(NameTable, KeepsNamesApartWhoseHalvesCancel) {
 }
 
 TEST(NameTable, NumbersACrowdAsItWouldNumberOneAfterTheOther) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     std::vector<std::string> names;
     for (int at = 0; at < 20000; ++at)
         names.push_back(std::string(random() % 40, 'n') + std::to_string(random() % 3000));

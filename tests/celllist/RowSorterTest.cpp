@@ -6,6 +6,8 @@
 #include <numeric>
 #include <random>
 
+#include "tests/text/HostileText.h"
+
 namespace {
 
 using vapp_library_browser::SortCriterion;
@@ -29,9 +31,7 @@ struct RandomCriteria {
 };
 
 TEST(RowSorter, SortsAsComparingTheRanksWould) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     // The large counts don't fit into one element together, so that several turns are needed.
     const std::uint32_t rankCounts[] = {1, 2, 3, 40, 5000, 0xFFFFFFFFu};
     for (int turn = 0; turn < 300; ++turn) {

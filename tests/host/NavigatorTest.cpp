@@ -69,8 +69,9 @@ TEST_F(NavigatorTest, DumpsColumnsOfOneCaptionEachByItself) {
     Start();
     Eval("proc mycell {design library cell view} {return <$cell>}");
     Eval("navigator addcolumn Cell mycell");
-    EXPECT_EQ("Cell,View,Library,Cell\ninv,symbol,lib,<inv>\n", m_navigator.Dump());
     CXTPReportColumns& columns = m_navigator.Browser().GetCellListView()->GetReport().GetColumns();
+    columns.GetAt(3)->SetVisible(false);
+    EXPECT_EQ("Cell,View,Library,Cell\ninv,symbol,lib,<inv>\n", m_navigator.Dump());
     EXPECT_FALSE(columns.GetAt(3)->IsVisible()) << "as it was before";
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 #include <random>
 
+#include "tests/text/HostileText.h"
 #include "vapp/toolkit/CXTPReportControl.h"
 
 using namespace vapp_qt;
@@ -40,9 +41,7 @@ TEST(QtColumnPlaces, FrozenColumnsStayAndCutTheOthers) {
 }
 
 TEST(QtColumnPlaces, AgreeWithTheControlsHitTest) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     const auto below = [&random](int limit) {
         return std::uniform_int_distribution<int>(0, limit - 1)(random);
     };

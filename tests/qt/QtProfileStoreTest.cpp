@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "tests/qt/SettingsFileFixture.h"
+#include "tests/text/HostileText.h"
 #include "vapp/toolkit/CWinAppEx.h"
 #include "vapp/toolkit/MemoryProfileStore.h"
 
@@ -168,9 +169,7 @@ TEST_F(QtProfileStoreTest, TextsComeBackByteByByte) {
 }
 
 TEST_F(QtProfileStoreTest, AnswersAsTheStoreInMemoryDoesOverRestarts) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     const auto pick = [&random](const std::vector<const char*>& from) {
         return CString(from[random() % from.size()]);
     };
@@ -297,9 +296,7 @@ TEST_F(QtProfileStoreTest, WarningsAreToldWhenNoLockIsHeld) {
 }
 
 TEST_F(QtProfileStoreTest, AFileOfAnythingGivesDefaultsAndDoesNotFail) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     const std::string marks =
         "[]=\\;%@\"\n\r \x00\xFF"
         "akU0(),";

@@ -139,6 +139,10 @@ TEST_F(QtReportViewTest, TheForegroundColourIsThatOfTheText) {
 TEST_F(QtReportViewTest, TheForegroundColourTintsTheTextOfASelectedRow) {
     Populate(1);
     report.ClickedByUser(0, {});
+    QPalette colors = View()->palette();
+    colors.setColor(QPalette::Highlight, QColor(0, 60, 120));
+    colors.setColor(QPalette::HighlightedText, Qt::white);
+    View()->setPalette(colors);
     const QRect cell(0, report.GetHeaderHeight(), 140, report.GetRowHeight());
     const QColor tint = vapp_qt::gTintedOn(Palette(QPalette::Highlight), QColor(0xDF, 0, 0),
                                            Palette(QPalette::HighlightedText));
