@@ -27,12 +27,14 @@ namespace vapp_text {
 [[nodiscard]] inline bool IsPlain(std::string_view bytes) noexcept {
     // A zero byte borrows from its high bit; that it borrows from its neighbour's too does no harm.
     const auto other = [](Word word) { return ((word - cnEachByte) | word) & cnHighBits; };
-    const char* walk = bytes.data();
-    std::size_t left = bytes.size();
-    for (; left >= cnWordBytes; left -= cnWordBytes, walk += cnWordBytes) {
-        if (other(LoadWord(walk)) != 0) return false;
+    const std::size_t size = bytes.size();
+    if (size < cnWordBytes) {
+        return size == 0 || other(LoadPart(bytes.data(), size) | (cnEachByte << (8U * size))) == 0;
     }
-    return left == 0 || other(LoadPart(walk, left) | (cnEachByte << (8U * left))) == 0;
+    for (std::size_t at = 0; at + cnWordBytes <= size; at += cnWordBytes) {
+        if (other(LoadWord(bytes.data() + at)) != 0) return false;
+    }
+    return other(LoadWord(bytes.data() + size - cnWordBytes)) == 0;
 }
 
 /// How the characters of a text lie in its bytes.

@@ -23,26 +23,38 @@ int Clamp(int index, int length) {
     return std::clamp(index, 0, length);
 }
 
-// Where the first word begins that has another form; the text's size for none.
+// Where the first word begins that has another form; the text's size for none. A last word may overlap with
+// the one before it.
 template <typename Form>
 std::size_t FirstToForm(std::string_view text, const Form& form) {
-    std::size_t at = 0;
-    for (; at + cnWordBytes <= text.size(); at += cnWordBytes) {
-        const Word word = vapp_text::LoadWord(text.data() + at);
-        if (form(word) != word) return at;
+    const char* const bytes = text.data();
+    const std::size_t size = text.size();
+    if (size < cnWordBytes) {
+        const Word part = vapp_text::LoadPart(bytes, size);
+        return form(part) != part ? 0 : size;
     }
-    const Word word = vapp_text::LoadPart(text.data() + at, text.size() - at);
-    return form(word) != word ? at : text.size();
+    for (std::size_t at = 0; at < size; at += cnWordBytes) {
+        const std::size_t from = std::min(at, size - cnWordBytes);
+        const Word word = vapp_text::LoadWord(bytes + from);
+        if (form(word) != word) return from;
+    }
+    return size;
 }
 
-// Writes the form of each byte; `to` may be where the text lies.
+// Writes the form of each byte; `to` may be where the text lies. What has its form keeps it, so that words
+// may overlap.
 template <typename Form>
 void WriteForms(std::string_view text, char* to, const Form& form) {
-    std::size_t at = 0;
-    for (; at + cnWordBytes <= text.size(); at += cnWordBytes)
-        vapp_text::StoreWord(to + at, form(vapp_text::LoadWord(text.data() + at)));
-    const std::size_t left = text.size() - at;
-    vapp_text::StorePart(to + at, left, form(vapp_text::LoadPart(text.data() + at, left)));
+    const char* const bytes = text.data();
+    const std::size_t size = text.size();
+    if (size < cnWordBytes) {
+        vapp_text::StorePart(to, size, form(vapp_text::LoadPart(bytes, size)));
+        return;
+    }
+    for (std::size_t at = 0; at < size; at += cnWordBytes) {
+        const std::size_t from = std::min(at, size - cnWordBytes);
+        vapp_text::StoreWord(to + from, form(vapp_text::LoadWord(bytes + from)));
+    }
 }
 
 std::size_t FirstNotOf(std::string_view text, std::string_view set) {

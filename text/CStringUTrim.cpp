@@ -13,17 +13,21 @@
 #include <iterator>
 #include <string_view>
 
+#include "text/AsciiBytes.h"
 #include "text/BlankChars.h"
 #include "text/CharSet.h"
 #include "text/Codec.h"
+#include "text/Words.h"
 #include "vapp/text/CStringU.h"
 
 namespace {
 
 using vapp_text::CharSet;
+using vapp_text::cnWordBytes;
 using vapp_text::DecodeNext;
 using vapp_text::IsAsciiByte;
 using vapp_text::IsBlankCharU;
+using vapp_text::Word;
 
 /// The offset of the first character for which `goesOn` does not hold.
 template <typename GoesOn>
@@ -93,6 +97,53 @@ private:
     CharSet m_set;
 };
 
+/// The same of a few plain characters, as most sets are: nothing is made before it is asked, and all of them
+/// are asked at once.
+class FewMember {
+public:
+    static constexpr std::size_t cnMost = 2 * cnWordBytes;
+
+    /// 1 to cnMost bytes.
+    explicit FewMember(std::string_view set) noexcept
+        : m_first(FirstOf(set)),
+          m_last(set.size() < cnWordBytes ? m_first
+                                          : vapp_text::LoadWord(set.data() + set.size() - cnWordBytes)) {}
+    bool operator()(char16_t unit) const noexcept {
+        if (unit >= 0x80U) return false;
+        const Word wanted = vapp_text::EightOf(static_cast<char>(unit));
+        return (vapp_text::ZeroBytes(m_first ^ wanted) | vapp_text::ZeroBytes(m_last ^ wanted)) != 0;
+    }
+
+private:
+    // What is left of the word holds the set's first character too.
+    static Word FirstOf(std::string_view set) noexcept {
+        if (set.size() >= cnWordBytes) return vapp_text::LoadWord(set.data());
+        const Word rest = vapp_text::EightOf(set.front()) << (8U * set.size());
+        return vapp_text::LoadPart(set.data(), set.size()) | rest;
+    }
+
+    Word m_first;
+    Word m_last;
+};
+
+/// What `walk` gives for a set as a test.
+template <typename Walk>
+auto WithSet(const CStringU& set, const Walk& walk) {
+    const std::string_view members = set.PayloadView();
+    if (!members.empty() && members.size() <= FewMember::cnMost && vapp_text::IsPlain(members)) {
+        return walk(FewMember(members));
+    }
+    return walk(Member(set));
+}
+
+TRange WithoutLeftOf(const CStringU& text, const CStringU& set) {
+    return WithSet(set, [&text](const auto& member) { return WithoutLeft(text, member); });
+}
+
+TRange WithoutRightOf(const CStringU& text, const CStringU& set) {
+    return WithSet(set, [&text](const auto& member) { return WithoutRight(text, member); });
+}
+
 }  // namespace
 
 // Cuts ASCII that nobody shares where it lies.
@@ -114,12 +165,12 @@ CStringU CStringU::TrimmedRight() const {
 }
 
 CStringU CStringU::TrimmedLeft(const CStringU& set) const {
-    const TRange kept = WithoutLeft(*this, Member(set));
+    const TRange kept = WithoutLeftOf(*this, set);
     return Piece(kept.first, kept.behind);
 }
 
 CStringU CStringU::TrimmedRight(const CStringU& set) const {
-    const TRange kept = WithoutRight(*this, Member(set));
+    const TRange kept = WithoutRightOf(*this, set);
     return Piece(kept.first, kept.behind);
 }
 
@@ -134,12 +185,12 @@ CStringU& CStringU::TrimRight() {
 }
 
 CStringU& CStringU::TrimLeft(const CStringU& set) {
-    const TRange kept = WithoutLeft(*this, Member(set));
+    const TRange kept = WithoutLeftOf(*this, set);
     return Keep(kept.first, kept.behind);
 }
 
 CStringU& CStringU::TrimRight(const CStringU& set) {
-    const TRange kept = WithoutRight(*this, Member(set));
+    const TRange kept = WithoutRightOf(*this, set);
     return Keep(kept.first, kept.behind);
 }
 
@@ -164,10 +215,11 @@ bool CStringU::IsBlank() const noexcept {
 }
 
 CStringU CStringU::SpanExcluding(const CStringU& set) const {
-    const Member ends(set);
-    return Piece(0, BehindFirst(PayloadView(), [&](char16_t unit) { return !ends(unit); }));
+    return Piece(0, WithSet(set, [this](const auto& member) {
+                     return BehindFirst(PayloadView(), [&](char16_t unit) { return !member(unit); });
+                 }));
 }
 
 CStringU CStringU::SpanIncluding(const CStringU& set) const {
-    return Piece(0, BehindFirst(PayloadView(), Member(set)));
+    return Piece(0, WithoutLeftOf(*this, set).first);
 }

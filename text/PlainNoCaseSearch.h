@@ -38,21 +38,29 @@ public:
         if (text.size() <= toLast) return std::string_view::npos;
         const char* const bytes = text.data();
         const std::size_t places = text.size() - toLast;
-        for (; from + cnWordBytes <= places; from += cnWordBytes) {
-            const std::size_t hit =
-                FindIn(bytes, from, LoadWord(bytes + from), LoadWord(bytes + from + toLast));
+        if (from >= places) return std::string_view::npos;
+        if (places < cnWordBytes) {
+            const std::size_t left = places - from;
+            const Word hits = HitsOf(LoadPart(bytes + from, left), LoadPart(bytes + from + toLast, left));
+            return FirstHeld(bytes, from, hits);
+        }
+        for (; from < places; from += cnWordBytes) {
+            // The last eight places may be some that were looked at before.
+            const std::size_t begin = from < places - cnWordBytes ? from : places - cnWordBytes;
+            const Word hits = HitsOf(LoadWord(bytes + begin), LoadWord(bytes + begin + toLast));
+            const std::size_t hit = FirstHeld(bytes, begin, hits & (cnHighBits << (8U * (from - begin))));
             if (hit != std::string_view::npos) return hit;
         }
-        if (from >= places) return std::string_view::npos;
-        const std::size_t left = places - from;
-        return FindIn(bytes, from, LoadPart(bytes + from, left), LoadPart(bytes + from + toLast, left));
+        return std::string_view::npos;
     }
 
 private:
-    // Of eight places, given the bytes where the first and where the last byte would have to stand.
-    [[nodiscard]] std::size_t FindIn(const char* text, std::size_t from, Word firsts,
-                                     Word lasts) const noexcept {
-        Word hits = ZeroBytes(LowerWord(firsts) ^ m_first) & ZeroBytes(LowerWord(lasts) ^ m_last);
+    // Marks the places of eight that hold the first and the last character, given what stands where each
+    // would have to.
+    [[nodiscard]] Word HitsOf(Word firsts, Word lasts) const noexcept {
+        return ZeroBytes(LowerWord(firsts) ^ m_first) & ZeroBytes(LowerWord(lasts) ^ m_last);
+    }
+    [[nodiscard]] std::size_t FirstHeld(const char* text, std::size_t from, Word hits) const noexcept {
         for (; hits != 0; hits &= hits - 1) {
             const std::size_t place = from + FirstMarked(hits);
             if (HoldsAt(text + place)) return place;

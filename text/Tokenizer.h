@@ -48,6 +48,7 @@ public:
     template <typename Use>
     void ForEachToken(const Use& use) const {
         CStringU token;
+        if (m_byBytes && m_onlySeparator != '\0') return SplitAtByte(token, use);
         std::int64_t pos = SkipSeparators(0);
         while (pos < GetByteLength()) {
             ReadToken(pos, token);
@@ -60,6 +61,20 @@ private:
         return m_separators.Holds(m_fold ? FoldChar(unit) : unit);
     }
     [[nodiscard]] char WithoutCase(char separator) const noexcept;
+    // The usual case of ForEachToken: one separator, searched for as a byte.
+    template <typename Use>
+    void SplitAtByte(CStringU& token, const Use& use) const {
+        const std::string_view text = m_text.PayloadView();
+        const bool nonAscii = m_text.HasNonAscii();
+        for (std::size_t at = 0; at < text.size(); ++at) {
+            if (text[at] == m_onlySeparator) continue;
+            const std::size_t end = text.find(m_onlySeparator, at);
+            const std::string_view read = text.substr(at, end - at);
+            static_cast<void>(nonAscii ? token.AssignUtf8(read) : token.AssignAscii(read));
+            use(std::as_const(token));
+            at += read.size();
+        }
+    }
     [[nodiscard]] bool GoesByBytes(TextForm form) const noexcept;
     template <bool Separators>
     [[nodiscard]] std::int64_t Skip(std::int64_t from) const noexcept;

@@ -184,6 +184,30 @@ TEST(CStringUTrim, RandomTextsAgreeWithPlainUtf16) {
     }
 }
 
+// Sets of a few plain characters are asked in another way than all others; both ways about the same texts.
+TEST(CStringUTrim, SetsOfEverySizeAgreeWithPlainUtf16) {
+    std::mt19937 random = SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        std::u16string members;
+        for (std::size_t left = UpTo(random, 20); left > 0; --left)
+            members += static_cast<char16_t>(u'a' + UpTo(random, 9));
+        if (UpTo(random, 3) == 0) members += u'\u00e9';
+        std::u16string units;
+        for (std::size_t left = UpTo(random, 30); left > 0; --left)
+            units += u"abcdefghijklm\u00e9\u00ea"[UpTo(random, 14)];
+        const CStringU text(units.c_str());
+        const CStringU set(members.c_str());
+        const auto inSet = [&](char16_t unit) { return members.find(unit) != std::u16string::npos; };
+        ExpectText(text.TrimmedLeft(set), ModelLeft(units, inSet));
+        ExpectText(text.TrimmedRight(set), ModelRight(units, inSet));
+        ExpectText(text.SpanExcluding(set),
+                   units.substr(0, std::min(units.find_first_of(members), units.size())));
+        ExpectText(text.SpanIncluding(set),
+                   units.substr(0, std::min(units.find_first_not_of(members), units.size())));
+    }
+    EXPECT_EQ(Utf8("\xC3\xA9\xC0\x80").TrimmedRight("abc"), Utf8("\xC3\xA9\xC0\x80")) << "no member is 0";
+}
+
 TEST(CStringUTrim, MalformedTextIsCutInsideOfItself) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 20000; ++round) {
