@@ -161,8 +161,8 @@ void QtShell::OnLogged(const ActionLog::TEntry* entry) {
     if (entry == nullptr || m_status == nullptr) return;
     // What was said of the action before is over.
     const bool isAction = entry->kind == ActionLog::TKind::Action;
-    m_status->TellForAWhile(
-        isAction ? QString() : QString::fromStdString(entry->text.substr(0, entry->text.find('\n'))));
+    m_status->TellForAWhile(isAction ? QString()
+                                     : QString::fromStdString(entry->text.substr(0, entry->text.find('\n'))));
 }
 
 void QtShell::ArrangeBars(QMainWindow& window) {
