@@ -7,8 +7,10 @@
 #include <QTest>
 #include <QTimer>
 
+#include "tests/qt/ModalAnswer.h"
 #include "tests/qt/QtTestFrame.h"
 #include "vapp/toolkit/Resources.h"
+#include "vapp/toolkit/TMessageBox.h"
 #include "vapp/toolkit/TSplashScreen.h"
 #include "vapp/toolkit/qt/QtBitmap.h"
 
@@ -161,6 +163,30 @@ TEST_F(QtSplash, EndedByWhatWaitedWhileItIsShownItHasEnded) {
         EXPECT_EQ(Widget(), nullptr);
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+// A warning of the start has no owner, and both stand in the middle of the screen.
+TEST_F(QtSplash, ABoxWithoutAnOwnerComesUpInFrontOfIt) {
+    ASSERT_TRUE(splash.Show(cnNever));
+    const ModalAnswer user([this](QMessageBox& box) {
+        EXPECT_TRUE(splash.IsShown());
+        EXPECT_TRUE(Widget()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << "or nobody could answer it";
+        box.accept();
+    });
+    static_cast<void>(TMessageBox(nullptr, "Error", "text", MB_ICONERROR).DoModal());
+    EXPECT_TRUE(splash.IsShown());
+}
+
+TEST_F(QtSplash, ItsTimeRunsWhileABoxIsUp) {
+    ASSERT_TRUE(splash.Show(1, CPoint{0, 0}));
+    const ModalAnswer user([this](QMessageBox& box) {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !splash.IsShown(); }));
+        EXPECT_TRUE(box.isVisible());
+        box.accept();
+    });
+    static_cast<void>(TMessageBox(nullptr, "Error", "text", MB_ICONERROR).DoModal());
+    EXPECT_FALSE(splash.IsShown());
 }
 
 TEST_F(QtSplash, ComesAgainWithANewTime) {
