@@ -67,27 +67,13 @@ TEST_F(HostileNames, WithAHookNoneRunsAndEachArrives) {
     const HookGuard hook;
     Initialize();
     m_browser.AddCellViewListColumn("Column", "column", true, false);
-    for (const std::string name : {"[set ::ran 1]",
-                                   "a[set ::ran 1]b",
-                                   "$x",
-                                   "$::env(PATH)",
-                                   "{",
-                                   "}",
-                                   "{}",
-                                   "}{",
-                                   "\"",
-                                   "\"[set ::ran 1]\"",
-                                   "}[set ::ran 1]{",
-                                   "a\nset ::ran 1\n",
-                                   ";set ::ran 1;",
-                                   "\\[set ::ran 1]",
-                                   "\\",
-                                   "a\\\nb",
-                                   "two words",
-                                   "#",
-                                   "{*}[set ::ran 1]",
-                                   "caf\xC3\xA9 [set ::ran 1]"}) {
-        SCOPED_TRACE(name);
+    for (const std::string& name : std::vector<std::string>{
+             "[set ::ran 1]", "a[set ::ran 1]b", "$x", "$::env(PATH)", "{", "}", "{}", "}{", "\"",
+             "\"[set ::ran 1]\"", "}[set ::ran 1]{", "a\nset ::ran 1\n", ";set ::ran 1;", "\\[set ::ran 1]",
+             "\\", "a\\\nb", "two words", "#", "{*}[set ::ran 1]", "caf\xC3\xA9 [set ::ran 1]",
+             // No text at all, and far longer than any name.
+             "a\xFF[set ::ran 1]", "cut off \xE4\xB8", std::string(10000, 'n') + " [set ::ran 1]"}) {
+        SCOPED_TRACE(name.substr(0, 100));
         AnswerWith(name);
         m_host.ClearLines();
         UseEverything(name);

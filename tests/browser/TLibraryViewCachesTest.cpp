@@ -71,6 +71,18 @@ TEST_F(TLibraryViewCaches, RepositoryTextsAreEmptyUntilSet) {
     EXPECT_TRUE(m_browser.GetReservedBy(m_inv).IsEmpty());
 }
 
+// The one who asks has no right to add anything.
+TEST_F(TLibraryViewCaches, AskingForRepositoryTextsAddsNothing) {
+    static_assert(requires(const TLibraryBrowser& browser, const TLibCellView& view) {
+        browser.GetReservedBy(view);
+        browser.GetRepoState(view);
+        browser.GetVersion(view);
+    });
+    Initialize();
+    const TLibraryBrowser& browser = m_browser;
+    EXPECT_TRUE(browser.GetReservedBy({"no", "such", "view"}).IsEmpty());
+}
+
 TEST_F(TLibraryViewCaches, ClearCachesForgetsEverythingAndTheTintGoes) {
     Show({"lib"});
     m_host.AnswerStart("database top_level", "lib");

@@ -113,7 +113,52 @@ TEST_F(TLibraryViewPopulateReentry, EveryExportedCallFromInsideOfEveryLineIsSurv
     Initialize();
     CDocument document;
     m_browser.AddViewsToDoc(&document);
+    m_host.AddCommand("column");
+    m_browser.AddCellViewListColumn("Column", "column", true, false);
+    m_browser.SerializeSetup(false);
     int budget = 200;
+    const TLibCellView inv("a", "inv", "layout");
+    const auto callTheRest = [&](int turn) {
+        m_browser.AddViewsToDoc(&document);
+        m_browser.SetCommandHandler(static_cast<unsigned>(turn), "command", StyleFocusedLcv);
+        static_cast<void>(m_browser.GetCommandHandler(7));
+        m_browser.SetCellTabsText(turn % 4 - 1, "tab");
+        if (turn % 40 == 0) m_browser.AddCellViewListFilterType("type");
+        if (turn % 50 == 0) m_browser.AddCellViewListColumn("More", "column", false, true);
+        if (turn == 60) m_browser.ModifyForQEdit();
+        m_browser.SetOaViewReserved(inv, turn % 2 == 0);
+        m_browser.SetReservedBy(inv, "ann");
+        m_browser.SetRepoState(inv, "state");
+        m_browser.SetVersion(inv, "1");
+        m_browser.AddToCellListSelections({inv});
+        m_browser.AddCellListMenuCommand("text", "command", StyleSelectedLcvs, false, false, true);
+        m_browser.AddCellListMenuSeparator();
+        m_browser.BeginCellListSubmenu("title");
+        m_browser.EndCellListSubmenu();
+        m_browser.SetCellListDefaultMenuCommand("command", StyleCommandOnly);
+        m_browser.AddCellTabsMenuItem("text", true);
+        m_browser.AddCellTabsMenuSeparator();
+        m_browser.AddLibraryListMenuCommand("text", "command", StyleSelectedLibraries, false, false, false);
+        m_browser.BeginLibraryListSubmenu("title");
+        m_browser.EndLibraryListSubmenu();
+        std::size_t told =
+            m_browser.GetShownCellList().IsEmpty() + m_browser.GetShownCellViewList().IsEmpty();
+        told += m_browser.GetSelectedCells().size() + m_browser.GetCellViewCount();
+        told += m_browser.GetAllLibrariesSet().size() + m_browser.GetSelectedLibrariesSet().size();
+        told += m_browser.AreAnyCellsSelected() + m_browser.HasOaReservedViews("a") +
+                m_browser.HasModifiedLcvs("a") + m_browser.IsLcvModified(inv);
+        told += m_browser.GetAlphabeticalLibraryNames() + m_browser.GetFocusedCell().cell.IsEmpty() +
+                m_browser.GetFocusedLibrary().IsEmpty() + m_browser.GetSelectedDesign().IsEmpty() +
+                m_browser.GetExcludeViews().IsEmpty();
+        EXPECT_LT(told, 1000u);
+    };
+    const auto measure = [&] {
+        auto& report = m_browser.GetCellListView()->GetReport();
+        for (int column = 0; column < report.GetColumns().GetCount(); ++column) {
+            CXTPReportRecordItemMetrics metrics;
+            report.MeasureItem(0, *report.GetColumns().GetAt(column), metrics);
+        }
+    };
     const auto everything = [&](const char* answer) {
         return [&, answer](Tcl_Interp* interp) {
             if (--budget > 0) {
@@ -134,6 +179,7 @@ TEST_F(TLibraryViewPopulateReentry, EveryExportedCallFromInsideOfEveryLineIsSurv
                 m_browser.SerializeSetup(budget % 3 == 0);
                 static_cast<void>(m_browser.Initialize(&m_frame, interp, nullptr));
                 static_cast<void>(Libraries().GetLibraryListCtrl().DrawItem(0));
+                callTheRest(budget);
             }
             Tcl_SetObjResult(interp, Tcl_NewStringObj(answer, -1));
             return TCL_OK;
@@ -144,11 +190,16 @@ TEST_F(TLibraryViewPopulateReentry, EveryExportedCallFromInsideOfEveryLineIsSurv
     m_host.HandleStart("database cells", everything("{a inv layout} {a nand layout}"));
     m_host.HandleStart("database filter", everything("1"));
     m_host.HandleStart("database top_level", everything("a"));
+    m_host.HandleStart("database libraryinfo", everything("1"));
+    m_host.HandleStart("database cellviewinfo", everything("1"));
+    m_host.HandleStart("column", everything("text"));
     m_host.HandleStart("librarynavigator", everything(""));
     for (int round = 0; round < 5; ++round) {
+        budget = 200;
         document.UpdateAllViews(nullptr, cnHintSelectedMaster);
         m_browser.Populate();
         static_cast<void>(Libraries().GetLibraryListCtrl().DrawItem(0));
+        measure();
     }
     budget = 0;
     gPendingHighlight().reset();

@@ -24,6 +24,26 @@ TEST_F(TLibraryViewPopulate, SendsWhatTheGoldenFileSays) {
     ExpectGolden("refresh.txt", m_host.Lines());
 }
 
+TEST_F(TLibraryViewPopulate, PaintingAndAskingSendWhatTheGoldenFileSays) {
+    Initialize();
+    m_host.AddCommand("column");
+    m_browser.AddCellViewListFilterType("Locked cells");
+    m_browser.AddCellViewListColumn("Size", "column -unit um", true, false);
+    AnswerLibraries({"lib"});
+    m_host.AnswerStart("database cells", "{lib inv layout}");
+    m_browser.Populate();
+    m_host.ClearLines();
+    auto& list = Libraries().GetLibraryListCtrl();
+    static_cast<void>(list.DrawItem(0));
+    m_browser.ModifyForQEdit();
+    static_cast<void>(list.DrawItem(0));
+    m_browser.RequestCellListViewDelayedPopulate(UpdateIfFilterSaysSo);
+    auto& report = Cells().GetReport();
+    CXTPReportRecordItemMetrics metrics;
+    report.MeasureItem(0, *report.GetColumns().GetAt(3), metrics);
+    ExpectGolden("painting.txt", m_host.Lines());
+}
+
 TEST_F(TLibraryViewPopulate, AnEmptyAnswerShowsNoDesigns) {
     Initialize();
     m_host.Answer("database all_libs", "");

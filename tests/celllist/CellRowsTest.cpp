@@ -125,7 +125,7 @@ const char* const csPieces[] = {"a", "A",  "b",        "10",           "9",    "
 
 class RandomNames {
 public:
-    explicit RandomNames(unsigned seed) : m_random(seed) {}
+    explicit RandomNames(const std::mt19937& random) : m_random(random) {}
 
     CStringU Name() {
         std::string name;
@@ -173,7 +173,7 @@ struct Model {
 };
 
 TEST_F(CellRowsTest, ArrangesAsASetAndASortOfTheValuesWould) {
-    RandomNames random(text_test::SeededRandom()());
+    RandomNames random(text_test::SeededRandom());
     std::vector<NameRole> roles = {NameRole::Library, NameRole::Cell, NameRole::View};
     do {
         for (unsigned directions = 0; directions < 8; ++directions) {
@@ -273,7 +273,7 @@ TEST_F(CellRowsTest, ReadsThreeThousandNamesThatAreAllDifferent) {
 }
 
 TEST_F(CellRowsTest, ArrangesByKeysAsComparingTheirTextsWould) {
-    RandomNames random(text_test::SeededRandom()());
+    RandomNames random(text_test::SeededRandom());
     for (int turn = 0; turn < 20; ++turn) {
         CellRows rows = Read(random.Cells(200));
         rows.ArrangeAsSet();

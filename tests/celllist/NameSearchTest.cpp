@@ -71,9 +71,7 @@ bool HoldsText(const char* name, const std::string& text, bool caseSensitive) {
 // Names are searched many at a time, some kilobytes in a block: here are names on both sides of the ends of
 // blocks, one that is longer than a block, and texts that are longer than most names.
 TEST(NameSearchTest, AgreesAcrossTheEndsOfBlocks) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
+    std::mt19937 random = text_test::SeededRandom();
     std::vector<std::string> names;
     for (int number = 0; number < 4000; ++number) {
         std::string name = "n" + std::to_string(number);
