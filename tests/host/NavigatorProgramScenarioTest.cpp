@@ -235,5 +235,22 @@ TEST(NavigatorProgram, DumpsTheInstalledSchematicLibraries) {
                 AllOf(HasSubstr("\nnmos4,symbol,devices\n"), HasSubstr(",pcb\n"), HasSubstr(",examples\n")));
 }
 
+TEST(NavigatorProgram, ReadsAFolderOfScriptsAndGoesOnAfterOneThatFails) {
+    const TempFolder scripts;
+    scripts.Write("a.tcl", "nosuch\n");
+    scripts.Write("b.tcl", "navigator addcolumn Mine {list mine}\n");
+    const QString sample = QStringLiteral(SAMPLE_DESIGN);
+    const Ended ended =
+        RunProgram({QStringLiteral("--dump"), QStringLiteral("--scripts"), PathOf(scripts.Path()), sample});
+    EXPECT_EQ(0, ended.status) << ended.errors;
+    EXPECT_THAT(ended.output, StartsWith("Cell,View,Library,Mine\n"));
+    EXPECT_THAT(ended.errors,
+                AllOf(HasSubstr("invalid command name \"nosuch\""), HasSubstr("a.tcl\" line 1")));
+    const Ended refused = RunProgram(
+        {QStringLiteral("--dump"), QStringLiteral("--scripts"), PathOf(scripts.Path() / "none"), sample});
+    EXPECT_EQ(2, refused.status);
+    EXPECT_THAT(refused.errors, HasSubstr("There is no folder"));
+}
+
 }  // namespace
 }  // namespace navigator_test

@@ -13,13 +13,14 @@ std::optional<std::string> Parse(std::vector<std::string> words, Options& option
 
 TEST(Options, ReadsFoldersAndEveryOption) {
     Options options;
-    EXPECT_EQ(
-        Parse({"one", "--script", "s.tcl", "--dump", "--screenshot=p.png", "--size", "640x480", "--scale",
-               "2", "--dark", "--instances", "3", "--no-splash", "two words", "--", "--three"},
-              options),
-        std::nullopt);
+    EXPECT_EQ(Parse({"one", "--script", "s.tcl", "--dump", "--screenshot=p.png", "--size", "640x480",
+                     "--scale", "2", "--dark", "--instances", "3", "--no-splash", "--scripts", "folder",
+                     "two words", "--", "--three"},
+                    options),
+              std::nullopt);
     EXPECT_EQ(options.folders, (std::vector<std::string>{"one", "two words", "--three"}));
     EXPECT_EQ(options.script, "s.tcl");
+    EXPECT_EQ(options.scripts, "folder");
     EXPECT_EQ(options.screenshot, "p.png");
     EXPECT_TRUE(options.isDump);
     EXPECT_TRUE(options.isDark);

@@ -126,5 +126,26 @@ TEST_F(UserCommandTest, HelpNamesEverySubCommandInOrder) {
     }));
 }
 
+TEST_F(UserCommandTest, ControlsOfTheCellPaneHavePlaces) {
+    const std::string tabs = Answer("user place control 7718");
+    EXPECT_EQ(Answer("llength {" + tabs + "}"), "4");
+    EXPECT_EQ(
+        Answer("lindex [user place control 7695] 1 ; expr {[lindex [user place control 7695] 1] < [lindex {" +
+               tabs + "} 1]}"),
+        "1")
+        << "the filter stands above the tabs";
+    for (const char* none : {"0", "-1", "1"})
+        EXPECT_EQ(Answer(std::string("user place control ") + none), "") << none;
+    EXPECT_THAT(Answer("user place control x"), HasSubstr("ERROR: "));
+}
+
+TEST_F(UserCommandTest, OpenMenusAreToldByWhoeverShowsThem) {
+    EXPECT_EQ(Answer("user menu"), "");
+    m_navigator.User().SetMenuHandler([] { return Tcl_NewStringObj("{text Open}", -1); });
+    EXPECT_EQ(Answer("dict get [lindex [user menu] 0] text"), "Open");
+    m_navigator.User().SetMenuHandler(nullptr);
+    EXPECT_EQ(Answer("user menu"), "");
+}
+
 }  // namespace
 }  // namespace navigator_test
