@@ -58,6 +58,8 @@ void CellColumns::AddTo(CWinAppEx& app) {
         {"Changed", nullptr, &CellColumns::Changed, 125},
         {"Bytes", nullptr, &CellColumns::Bytes, 70},
     }};
+    // The longest of the usual names of views.
+    StoreWidth(app, "View", 80);
     for (const ColumnRow& row : rows) {
         StoreWidth(app, row.caption, row.width);
         if (row.command != nullptr) {

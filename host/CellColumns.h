@@ -24,8 +24,8 @@ public:
     CellColumns(const CellColumns&) = delete;
     CellColumns& operator=(const CellColumns&) = delete;
 
-    /// Adds the columns; once, before the stored layout is read. Where the application has no width for one
-    /// yet, it gets one that its texts fit into.
+    /// Adds the columns; once, before the stored layout is read. Where the application has no width yet for
+    /// one of them, or for the views' names, it gets one that the texts fit into.
     void AddTo(CWinAppEx& app);
 
 private:

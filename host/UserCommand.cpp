@@ -40,6 +40,20 @@ Tcl_Obj* TextObject(const CStringU& text) {
     return Tcl_NewStringObj(text.Payload(), -1);
 }
 
+Tcl_Obj* NativeObject(const CString& text) {
+    return TextObject(CStringU(text));
+}
+
+/// Captions and widths of the columns that are shown, from the left.
+Tcl_Obj* ColumnList(const CXTPReportColumns& columns) {
+    Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
+    for (int visible = 0; const CXTPReportColumn* const column = columns.GetVisibleAt(visible); ++visible) {
+        Tcl_ListObjAppendElement(nullptr, list, NativeObject(column->GetCaption()));
+        Tcl_ListObjAppendElement(nullptr, list, Tcl_NewIntObj(column->GetWidth()));
+    }
+    return list;
+}
+
 Tcl_Obj* OrderList(const CXTPReportColumnOrder& order) {
     Tcl_Obj* const list = Tcl_NewListObj(0, nullptr);
     for (int place = 0; place < order.GetCount(); ++place) {
@@ -90,7 +104,9 @@ const SubCommandRow<UserCommand> UserCommand::csSubCommands[] = {
       "What is seen, as a dictionary: design, libraries (the selected ones), order (of the cells: captions "
       "and "
       "directions), rows (their number), cell (of the focus: library, cell, view), heights (of the panes), "
-      "window (left, top, width and height of its inner area)."},
+      "window (left, top, width and height of its inner area), filter (the sub-string), type (of the "
+      "filter), setup (the arrangement of columns), columns (captions and widths of those that are shown), "
+      "status (the line below the list)."},
      0,
      0,
      &UserCommand::State},
@@ -233,6 +249,12 @@ int UserCommand::State(Tcl_Interp* interp, TclWords) {
     Put(state, "cell", Tcl_NewListObj(static_cast<int>(names.size()), names.data()));
     Put(state, "heights", heights);
     Put(state, "window", RectList(m_frame.GetRect()));
+    Put(state, "filter", NativeObject(cells->GetFilterText()));
+    Put(state, "type", TextObject(cells->GetDropDownFilter()));
+    Put(state, "setup", TextObject(cells->GetReport().GetActiveSetup()));
+    Put(state, "columns", ColumnList(cells->GetReport().GetColumns()));
+    Put(state, "status",
+        NativeObject(cells->GetDlgItem(vapp_library_browser::TCellListView::cnStatus)->GetWindowText()));
     Tcl_SetObjResult(interp, state);
     return TCL_OK;
 }

@@ -89,6 +89,7 @@ TEST_F(CellColumnsTest, HaveRoomForTheirTextsUntilTheUserGivesAnother) {
     Start();
     EXPECT_EQ(61, Column("Changed").GetWidth());
     EXPECT_EQ(70, Column("Bytes").GetWidth());
+    EXPECT_EQ(80, Column("View").GetWidth()) << "for a schematic";
 }
 
 TEST_F(CellColumnsTest, SortByTimeAndSizeAndNotByLetters) {

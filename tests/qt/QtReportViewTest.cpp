@@ -154,6 +154,18 @@ TEST_F(QtReportViewTest, TheForegroundColourTintsTheTextOfASelectedRow) {
     EXPECT_GT(CountOf(Paint(), cell, tint), 3);
 }
 
+TEST_F(QtReportViewTest, AForegroundColourThatIsMadeForAnotherPaperIsPaintedLegibly) {
+    Populate(1);
+    report.decoration = [](FakeReport::Cell, CXTPReportRecordItemMetrics& metrics) {
+        metrics.foreground = 0x0000DF;
+        metrics.background = 0x2D2D2D;
+    };
+    const QRect cell(0, report.GetHeaderHeight(), 140, report.GetRowHeight());
+    EXPECT_EQ(CountOf(Paint(), cell, QColor(0xDF, 0, 0)), 0);
+    const QColor lighter = vapp_qt::gLegibleOn(QColor(0x2D, 0x2D, 0x2D), QColor(0xDF, 0, 0));
+    EXPECT_GT(CountOf(Paint(), cell, lighter), 3);
+}
+
 TEST_F(QtReportViewTest, AnIconMovesTheTextToTheRight) {
     Populate(1);
     const QRect icon(4, report.GetHeaderHeight() + 2, 18, report.GetRowHeight() - 4);

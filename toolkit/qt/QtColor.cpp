@@ -11,6 +11,9 @@ namespace vapp_qt {
 namespace {
 
 constexpr double cnLeastContrast = 3.0;
+/// What a colour that just fails the bound is given: with that it is as legible as on the background it was
+/// made for.
+constexpr double cnMendedContrast = 5.0;
 
 double Luminance(const QColor& color) {
     const auto linear = [](double part) {
@@ -44,6 +47,22 @@ QColor gTintedOn(const QColor& background, const QColor& wanted, const QColor& r
         if (Contrast(background, tint) >= cnLeastContrast) return tint;
     }
     return readable;
+}
+
+QColor gLegibleOn(const QColor& background, const QColor& color) {
+    const double contrast = Contrast(background, color);
+    if (contrast >= cnLeastContrast) return color;
+    const double wanted = std::max(cnLeastContrast, cnMendedContrast * contrast / cnLeastContrast);
+    const bool isDark = Contrast(background, Qt::white) >= Contrast(background, Qt::black);
+    const QColor end = isDark ? Qt::white : Qt::black;
+    // The most of the colour that is legible: on the way to the end the contrast passes the bound once.
+    int least = 0;
+    int most = 100;
+    while (most - least > 1) {
+        const int middle = (least + most) / 2;
+        (Contrast(background, gMixed(color, end, middle)) >= wanted ? least : most) = middle;
+    }
+    return gMixed(color, end, least);
 }
 
 QColor gMixed(const QColor& first, const QColor& second, int percent) {

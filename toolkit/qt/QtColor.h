@@ -17,6 +17,9 @@ namespace vapp_qt {
 [[nodiscard]] QColor gReadableOn(const QColor& background, const QColor& preferred);
 /// As much of `wanted` as stands out from the background, mixed with a colour that does.
 [[nodiscard]] QColor gTintedOn(const QColor& background, const QColor& wanted, const QColor& readable);
+/// The colour itself if it stands out from the background; else one of its hue that does, lighter on a dark
+/// background and darker on a light one. Of two such colours the stronger one stays the stronger.
+[[nodiscard]] QColor gLegibleOn(const QColor& background, const QColor& color);
 /// A colour between two: `percent` of the first.
 [[nodiscard]] QColor gMixed(const QColor& first, const QColor& second, int percent);
 /// The control's font in the wanted weight and slant.

@@ -149,9 +149,10 @@ void QtReportView::PaintCell(QPainter& painter, const QRect& cell, bool selected
         ownBack ? gToQColor(m_metrics.background, {}) : (selected ? looks.selectedBack : looks.back);
     if (ownBack) painter.fillRect(cell, back);
     const QColor standard = selected ? looks.selectedText : gReadableOn(back, looks.text);
-    // What the colour says of a row holds for a selected one too, as far as it can be read there.
+    // What the colour says of a row holds for a selected one too, as far as it can be read there. Colours of
+    // states are the same in a light and in a dark theme.
     const QColor own = gToQColor(m_metrics.foreground, standard);
-    const QColor ink = selected ? gTintedOn(back, own, standard) : own;
+    const QColor ink = selected ? gTintedOn(back, own, standard) : gLegibleOn(back, own);
     QRect text = cell.adjusted(cnCellPadding, 0, -cnCellPadding, 0);
     if (m_metrics.icon >= 0) {
         const QRect icon(text.left(), cell.top(), m_report->GetImageWidth(), cell.height());
