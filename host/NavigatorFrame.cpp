@@ -14,4 +14,13 @@ LRESULT NavigatorFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return CFrameWnd::WindowProc(message, wParam, lParam);
 }
 
+bool NavigatorFrame::OnKey(CWnd& from, TKey key, TModifiers modifiers) {
+    if (&from == this) {
+        for (CWnd* const child : GetChildren()) {
+            if (child->KeyByPeer(key, modifiers)) return true;
+        }
+    }
+    return CFrameWnd::OnKey(from, key, modifiers);
+}
+
 }  // namespace navigator

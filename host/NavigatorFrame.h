@@ -22,6 +22,9 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    /// What is pressed in no pane (a drop-down that closes gives the keyboard to the frame) is for the
+    /// navigator.
+    bool OnKey(CWnd& from, TKey key, TModifiers modifiers) override;
 
 private:
     TMessageHandler m_handler;

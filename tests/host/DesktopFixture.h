@@ -69,6 +69,16 @@ protected:
         if (told) m_state = told->toStdString();
         return told.has_value();
     }
+    /// Waits until an item of a menu of the first program is seen, and gives the middle of it.
+    QPoint Item(const std::string& text) {
+        const std::string find = "[lsearch -index 1 -inline [dict get $s menu] " + Word(text) + "]";
+        EXPECT_TRUE(Await(*m_first, find + " ne {}")) << text << ": " << Of("menu");
+        const std::vector<std::string> place =
+            m_interp.List("set s " + Word(m_state) + "; dict get " + find + " place");
+        if (place.size() != 4) return {};
+        return QRect(std::stoi(place[0]), std::stoi(place[1]), std::stoi(place[2]), std::stoi(place[3]))
+            .center();
+    }
     [[nodiscard]] static QStringList At(QPoint point) {
         return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
     }

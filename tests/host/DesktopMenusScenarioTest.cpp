@@ -27,16 +27,6 @@ protected:
         ASSERT_TRUE(Await(*m_first, "[dict get $s rows] == 45")) << m_first->Errors();
         ASSERT_TRUE(m_first->Focus());
     }
-    /// Waits until an item is seen, and gives the middle of it.
-    QPoint Item(const std::string& text) {
-        const std::string find = "[lsearch -index 1 -inline [dict get $s menu] " + Word(text) + "]";
-        EXPECT_TRUE(Await(*m_first, find + " ne {}")) << text << ": " << Of("menu");
-        const std::vector<std::string> place =
-            m_interp.List("set s " + Word(m_state) + "; dict get " + find + " place");
-        if (place.size() != 4) return {};
-        return QRect(std::stoi(place[0]), std::stoi(place[1]), std::stoi(place[2]), std::stoi(place[3]))
-            .center();
-    }
     [[nodiscard]] bool NoMenu() { return Await(*m_first, "[dict get $s menu] eq {}"); }
     [[nodiscard]] bool Got(const std::string& words) {
         return Await(*m_first, "[dict get $s typed] eq " + Word(words));
