@@ -17,8 +17,11 @@
 #include <new>
 
 #include "text/BlockCache.h"
+#include "text/Words.h"
 
 namespace {
+
+using vapp_text::CopyBytes;
 
 // Header, bytes and NUL together must have a size that an int can count.
 constexpr std::size_t cnMaxLength = static_cast<std::size_t>(std::numeric_limits<int>::max()) - 64;
@@ -84,7 +87,7 @@ void CString::MakeWritable(std::size_t capacity, bool grow) {
     std::size_t wanted = std::max(std::max(capacity, length), std::size_t{1});
     if (grow) wanted = std::max(wanted, std::min(length + length / 2, cnMaxLength));
     char* const text = Allocate(CheckedLength(wanted), static_cast<int>(length));
-    std::memcpy(text, m_text, length);
+    CopyBytes(text, m_text, length);
     Release();
     m_text = text;
 }
@@ -109,7 +112,7 @@ CString::CString(std::string_view text) : m_text(EmptyText()) {
     if (text.empty()) return;
     const int length = CheckedLength(text.size());
     m_text = Allocate(length, length);
-    std::memcpy(m_text, text.data(), text.size());
+    CopyBytes(m_text, text.data(), text.size());
 }
 
 CString::CString(char character, int count) : CString(TUnfilled(), ClampedToZero(count)) {
@@ -133,7 +136,7 @@ CString& CString::Assign(std::string_view text) {
         CString(text).Swap(*this);
         return *this;
     }
-    std::memmove(m_text, text.data(), text.size());
+    CopyBytes(m_text, text.data(), text.size());
     SetLength(static_cast<int>(text.size()));
     return *this;
 }

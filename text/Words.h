@@ -64,6 +64,25 @@ inline void StorePart(char* bytes, std::size_t size, Word word) noexcept {
         *bytes++ = static_cast<char>(word);
 }
 
+/// Copies bytes, which may overlap. Names are copied by a few words, without a call.
+inline void CopyBytes(char* to, const char* from, std::size_t size) noexcept {
+    constexpr std::size_t cnTwo = 2 * cnWordBytes;
+    if (size < cnWordBytes || size > 2 * cnTwo) {
+        if (size > 0) std::memmove(to, from, size);
+        return;
+    }
+    const Word first = LoadWord(from);
+    const Word last = LoadWord(from + size - cnWordBytes);
+    if (size > cnTwo) {
+        const Word second = LoadWord(from + cnWordBytes);
+        const Word third = LoadWord(from + size - cnTwo);
+        StoreWord(to + cnWordBytes, second);
+        StoreWord(to + size - cnTwo, third);
+    }
+    StoreWord(to, first);
+    StoreWord(to + size - cnWordBytes, last);
+}
+
 /// One byte eight times.
 [[nodiscard]] constexpr Word EightOf(char byte) noexcept {
     return static_cast<unsigned char>(byte) * cnEachByte;

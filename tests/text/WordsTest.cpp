@@ -72,4 +72,25 @@ TEST(Words, PartsAreReadAndWrittenAlone) {
     }
 }
 
+TEST(Words, BytesAreCopiedAloneAndMayOverlap) {
+    std::mt19937 random = text_test::SeededRandom();
+    for (int round = 0; round < 20000; ++round) {
+        std::string bytes;
+        for (int at = 0; at < 90; ++at)
+            bytes += static_cast<char>(text_test::UpTo(random, 255));
+        const std::size_t size = text_test::UpTo(random, 40);
+        const std::size_t from = text_test::UpTo(random, 50);
+        const std::size_t to = text_test::UpTo(random, 50);
+        std::string expected = bytes;
+        expected.replace(to, size, bytes.substr(from, size));
+        const std::vector<char> alone(bytes.begin() + static_cast<std::ptrdiff_t>(from),
+                                      bytes.begin() + static_cast<std::ptrdiff_t>(from + size));
+        std::vector<char> copied(size, '?');
+        vapp_text::CopyBytes(copied.data(), alone.data(), size);
+        ASSERT_EQ(copied, alone);
+        vapp_text::CopyBytes(bytes.data() + to, bytes.data() + from, size);
+        ASSERT_EQ(bytes, expected) << size << ' ' << from << ' ' << to;
+    }
+}
+
 }  // namespace
