@@ -1,5 +1,6 @@
 // What happens when the host's script comes back into the list, or answers what no host should.
 #include <tcl.h>
+#include <set>
 
 #include "tests/celllist/CellListFixture.h"
 #include "tests/celllist/ListeningWindow.h"
@@ -353,6 +354,74 @@ TEST_F(NestedPopulationScenarioTest, TakesOtherCompletionCodesForFailures) {
     }
 }
 
+// Each answer would be seen if it were taken: its code says that it is none.
+TEST_F(NestedPopulationScenarioTest, TakesNoAnswerOfAnotherCompletionCodeInAnyLine) {
+    ShowCells({{"l1", "a", "v"}});
+    m_host.AddCommand("state");
+    Report().AddColumn("State", "state", true, false);
+    for (const int code : {TCL_RETURN, TCL_BREAK, TCL_CONTINUE, 77}) {
+        SCOPED_TRACE(code);
+        const auto answer = [&](const char* start, const char* text) {
+            m_host.HandleStart(start, [code, text](Tcl_Interp* interp) {
+                Tcl_SetObjResult(interp, Tcl_NewStringObj(text, -1));
+                return code;
+            });
+        };
+        answer("database cellviewinfo", "1");
+        answer("database cellviewinfo cache", "Unresolved");
+        answer("database filter", "1");
+        answer("database top_level", "l1");
+        answer("database selected_master", "l1 a v");
+        answer("state", "text");
+        m_host.Inside([&] {
+            const CXTPReportRecordItemMetrics cell = Measure(0, "Cell");
+            EXPECT_EQ(cell.text, "a");
+            EXPECT_EQ(cell.icon, -1);
+            EXPECT_EQ(cell.font, nullptr);
+            EXPECT_EQ(cell.foreground, cnNoColor);
+            EXPECT_EQ(cell.background, cnNoColor);
+            EXPECT_TRUE(Measure(0, "State").text.IsEmpty());
+            Cells().RequestDelayedPopulate(UpdateIfFilterSaysSo);
+            EXPECT_FALSE(Cells().NeedsPopulate());
+            EXPECT_FALSE(Libraries().GetLibraryListCtrl().DrawItem(0).font.bold);
+            Libraries().OnUpdate(nullptr, cnHintSelectedMaster, nullptr);
+            EXPECT_EQ(gPendingHighlight(), nullptr);
+        });
+    }
+    const auto rows = Report().GetCellViewCount();
+    m_host.HandleStart(csCount, [](Tcl_Interp* interp) {
+        Tcl_SetObjResult(interp, Tcl_NewIntObj(9));
+        return TCL_BREAK;
+    });
+    m_host.Inside([&] { Repopulate(); });
+    EXPECT_EQ(rows, 1u);
+    EXPECT_EQ(Report().GetCellViewCount(), 0u);
+    EXPECT_EQ(Status(), "1 cells");
+}
+
+TEST_F(NestedPopulationScenarioTest, SurvivesAHostThatDeletesItsCommandsWhilePainting) {
+    ShowCells({{"l1", "a", "v"}});
+    Report().AddColumn("State", "state", true, false);
+    for (const char* line : {"database cellviewinfo is_fab", "database cellviewinfo cache", "state"}) {
+        SCOPED_TRACE(line);
+        m_host.AddCommand("database");
+        m_host.AddCommand("state");
+        Repopulate();
+        ASSERT_EQ(Report().GetCellViewCount(), 1u);
+        m_host.AnswerStart("database cellviewinfo", "0");
+        m_host.AnswerStart("state", "text");
+        Inside(line, "1", [&] {
+            m_host.Eval("catch {rename database {}}");
+            m_host.Eval("catch {rename state {}}");
+        });
+        EXPECT_EQ(Measure(0, "Cell").text, "a");
+        Measure(0, "State");
+        EXPECT_TRUE(Measure(0, "State").text.IsEmpty());
+        Repopulate();
+        EXPECT_EQ(Report().GetCellViewCount(), 0u);
+    }
+}
+
 TEST_F(NestedPopulationScenarioTest, ShowsNamesOfAnyKindAsTheyAre) {
     const HookGuard hook;
     const std::string names[] = {"{",
@@ -371,7 +440,20 @@ TEST_F(NestedPopulationScenarioTest, ShowsNamesOfAnyKindAsTheyAre) {
     for (const std::string& name : names)
         triples.push_back({name, name, name});
     ShowCells(triples);
-    EXPECT_EQ(Report().GetCellViewCount(), std::size(names));
+    // What is shown is what was told, each name of it, and nothing else.
+    std::multiset<std::string> told;
+    for (const std::string& name : names)
+        told.insert(name + " " + name + " " + name);
+    const std::vector<std::string> shown = Rows();
+    EXPECT_EQ(std::multiset<std::string>(shown.begin(), shown.end()), told);
+    std::string table = "Cell,View,Library\n";
+    for (int row = 0; row < static_cast<int>(std::size(names)); ++row) {
+        const std::string cell = Report().GetCell(row).cell.Payload();
+        table += cell + "," + cell + "," + cell + "\n";
+    }
+    CStringU dump;
+    Report().DumpContents({}, dump);
+    EXPECT_EQ(std::string(dump.Payload()), table);
     m_host.AnswerStart("database cellviewinfo", "0");
     for (int row = 0; row < static_cast<int>(std::size(names)); ++row) {
         const std::string cell = Report().GetCell(row).cell.Payload();
@@ -393,7 +475,10 @@ TEST_F(NestedPopulationScenarioTest, TakesBytesThatAreNoText) {
         return TCL_OK;
     });
     Show({"l1"});
-    EXPECT_EQ(Report().GetCellViewCount(), 3u);
+    // Byte by byte, but for the first byte of a name: 0x80 there is the mark of a text and not of the name.
+    const std::vector<std::string> shown = Rows();
+    EXPECT_EQ(std::multiset<std::string>(shown.begin(), shown.end()),
+              (std::multiset<std::string>{"\xFF \x80 \xC3", "\xE4 a\xF0 \xBF", "l\xC0\x80m c v"}));
     SelectRow(1);
     Repopulate();
     EXPECT_EQ(Report().GetSelectedRows().GetCount(), 1);
