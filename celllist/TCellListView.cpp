@@ -155,7 +155,8 @@ bool TCellListView::OnNotify(Notification& notification, LRESULT& result) {
     return true;
 }
 
-// While the column chooser is on the screen, the keyboard stays with it.
+// A host whose column chooser is on the screen keeps the keyboard there; else the base decides, which leaves it
+// with the pane.
 void TCellListView::OnSetFocus() {
     if (AskMainWindow(WM_LN_COLCHOOSERSHOWN) == 0) CFormView::OnSetFocus();
 }

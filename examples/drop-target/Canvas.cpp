@@ -80,7 +80,12 @@ void Canvas::dropEvent(QDropEvent* event) {
         return;
     }
     event->acceptProposedAction();
-    m_placed.push_back({OnGrid(event->position()), *cell});
+    Place(OnGrid(event->position()), *cell);
+}
+
+void Canvas::Place(const QPoint& at, const CLibCellViewOleData& cell) {
+    m_placed.push_back({at, cell});
+    update();
     if (onPlaced) onPlaced(m_placed.back());
 }
 

@@ -20,9 +20,11 @@ public:
 
     explicit Canvas(QWidget* parent = nullptr);
 
-    /// What has been dropped so far, in this order.
+    /// What has been placed so far, in this order.
     [[nodiscard]] const std::vector<Placed>& GetPlaced() const { return m_placed; }
-    /// Called after each drop.
+    /// Places a cell, as a drop there would.
+    void Place(const QPoint& at, const vapp_library_browser::CLibCellViewOleData& cell);
+    /// Called after each.
     std::function<void(const Placed& placed)> onPlaced;
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -1,6 +1,7 @@
 /// @file
-/// A cell is dragged by a real pointer: onto the canvas of the same program, onto another program, and onto
-/// the list itself.
+/// What a user does by a real pointer and real keys: a cell is dragged onto the canvas of the same program,
+/// onto another program, and onto the list itself; it is placed by a menu, by its sub-menu, and by a double
+/// click; and the pointer rests on a library.
 #include <gtest/gtest.h>
 
 #include <QPoint>
@@ -24,14 +25,21 @@ protected:
         if (!s_desktop->WhyNot().empty()) GTEST_SKIP() << s_desktop->WhyNot();
         m_navigator = std::make_unique<DesktopProgram>(*s_desktop, m_home.Path());
         m_navigator->Start({QStringLiteral("--tell")});
+        m_libraries = PlacesTold("libraries", 2);
         // The canvas and four rows.
-        const auto told = m_navigator->WaitFor(QStringLiteral("places"), [](const QString& places) {
-            return places.count(QLatin1Char(' ')) == 9;
+        m_places = PlacesTold("places", 5);
+        ASSERT_EQ(m_libraries.size(), 2u) << m_navigator->Errors();
+        ASSERT_EQ(m_places.size(), 5u) << m_navigator->Errors();
+    }
+    std::vector<QPoint> PlacesTold(const char* word, int count) {
+        const auto told = m_navigator->WaitFor(QLatin1String(word), [count](const QString& places) {
+            return places.count(QLatin1Char(' ')) == 2 * count - 1;
         });
-        ASSERT_TRUE(told) << m_navigator->Errors();
-        const QStringList numbers = told->split(QLatin1Char(' '));
+        const QStringList numbers = told.value_or(QString()).split(QLatin1Char(' '));
+        std::vector<QPoint> places;
         for (int at = 0; at + 1 < numbers.size(); at += 2)
-            m_places.emplace_back(numbers[at].toInt(), numbers[at + 1].toInt());
+            places.emplace_back(numbers[at].toInt(), numbers[at + 1].toInt());
+        return places;
     }
 
     [[nodiscard]] QPoint MiddleOfCanvas() const { return m_places[0]; }
@@ -67,13 +75,34 @@ protected:
         return told->toStdString();
     }
 
+    // The next cell that is placed, by whatever means.
+    std::string NextPlaced() {
+        const auto told = m_navigator->WaitFor(QStringLiteral("placed"), [](const QString&) { return true; });
+        return told ? told->toStdString() : "none: " + m_navigator->Errors();
+    }
+    // There is no window manager that would do it.
+    void GiveTheKeyboard() {
+        ASSERT_TRUE(s_desktop->Do({QStringLiteral("search"), QStringLiteral("--sync"),
+                                   QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+                                   QStringLiteral("^Cells to place"), QStringLiteral("windowfocus")}));
+    }
+    static void Click(QPoint at, const char* button, int times = 1) {
+        QStringList words = At(at);
+        for (int time = 0; time < times; ++time)
+            words += QStringList{QStringLiteral("click"), QLatin1String(button)};
+        ASSERT_TRUE(s_desktop->Do(words));
+    }
+    static void Press(const char* key) {
+        ASSERT_TRUE(s_desktop->Do({QStringLiteral("key"), QLatin1String(key)}));
+    }
+
     static constexpr int cnSteps = 12;
     static std::unique_ptr<Desktop> s_desktop;
     navigator_test::TempFolder m_home;
     std::unique_ptr<DesktopProgram> m_navigator;
+    std::vector<QPoint> m_libraries;
     std::vector<QPoint> m_places;
 
-private:
     static QStringList At(QPoint point) {
         return {QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
     }
@@ -117,6 +146,38 @@ TEST_F(DropTargetTest, EscapeEndsADragWithoutADrop) {
     Release();
     Drag(Row(2), MiddleOfCanvas());
     EXPECT_EQ(Drop(), R"("chip" "logic" "nor2" "symbol" "" left)");
+}
+
+TEST_F(DropTargetTest, ARightClickOpensTheMenuOfThatRow) {
+    GiveTheKeyboard();
+    Click(Row(1), "3");
+    ASSERT_TRUE(Hear("menu", "open")) << m_navigator->Errors();
+    Press("p");
+    EXPECT_EQ(NextPlaced(), R"("chip" "logic" "nand2" "symbol" "" left)");
+    EXPECT_TRUE(Hear("menu", "closed"));
+}
+
+TEST_F(DropTargetTest, TheMenuKeyAndKeysLeadIntoASubMenu) {
+    GiveTheKeyboard();
+    Click(Row(2), "1");
+    Press("Menu");
+    ASSERT_TRUE(Hear("menu", "open")) << m_navigator->Errors();
+    Press("m");
+    Press("a");
+    EXPECT_EQ(NextPlaced(), R"("chip" "logic" "nor2" "symbol" "" left)");
+}
+
+TEST_F(DropTargetTest, ADoubleClickPlacesTheCell) {
+    Click(Row(0), "1", 2);
+    EXPECT_EQ(NextPlaced(), R"("chip" "logic" "inv" "symbol" "" left)");
+}
+
+TEST_F(DropTargetTest, APointerThatRestsOnALibraryShowsItsPathUntilItLeaves) {
+    GiveTheKeyboard();
+    ASSERT_TRUE(s_desktop->Do(At(m_libraries[1]) + At(m_libraries[1] + QPoint(1, 0))));
+    EXPECT_TRUE(Hear("status", "/libs/io")) << m_navigator->Errors();
+    ASSERT_TRUE(s_desktop->Do(At(MiddleOfCanvas())));
+    EXPECT_TRUE(Hear("status", "")) << "the timer looks";
 }
 
 }  // namespace
