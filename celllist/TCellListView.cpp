@@ -155,8 +155,8 @@ bool TCellListView::OnNotify(Notification& notification, LRESULT& result) {
     return true;
 }
 
-// A host whose column chooser is on the screen keeps the keyboard there; else the base decides, which leaves it
-// with the pane.
+// A host whose column chooser is on the screen keeps the keyboard there; else the base decides, which leaves
+// it with the pane.
 void TCellListView::OnSetFocus() {
     if (AskMainWindow(WM_LN_COLCHOOSERSHOWN) == 0) CFormView::OnSetFocus();
 }
