@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "text/AsciiBytes.h"
+#include "text/Codec.h"
 #include "vapp/text/CStringU.h"
 
 namespace {
