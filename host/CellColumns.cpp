@@ -21,8 +21,8 @@ struct ColumnRow {
     int width;  ///< that its texts need, in pixels
 };
 
-/// A width is read at each change of the arrangement, and a host's column is fifty pixels wide where none is
-/// stored: too narrow for a date. So the first start stores one.
+/// A width is read at each change of the arrangement. Where none is stored a host's column is too narrow for
+/// a date, and the first three cut off names as common as "schematic". So the first start stores one.
 void StoreWidth(CWinAppEx& app, const char* caption, int width) {
     for (const char* setup : {"Setup1", "Setup2", "Setup3"}) {
         const CString section =
@@ -58,8 +58,9 @@ void CellColumns::AddTo(CWinAppEx& app) {
         {"Changed", nullptr, &CellColumns::Changed, 125},
         {"Bytes", nullptr, &CellColumns::Bytes, 70},
     }};
-    // The longest of the usual names of views.
-    StoreWidth(app, "View", 80);
+    StoreWidth(app, "Cell", 160);
+    StoreWidth(app, "View", 90);
+    StoreWidth(app, "Library", 100);
     for (const ColumnRow& row : rows) {
         StoreWidth(app, row.caption, row.width);
         if (row.command != nullptr) {

@@ -112,25 +112,6 @@ void Navigator::CreateWindow(int width, int height, bool dark) {
 
 void Navigator::LoadSetup() {
     m_browser->SerializeSetup(false);
-    if (!m_hasKeptHeights) WidenColumns();
-}
-
-// Once, in each arrangement: the first widths of the list cut off names as common as "schematic".
-void Navigator::WidenColumns() {
-    using TReport = vapp_library_browser::TCellNamesReportCtrl;
-    static constexpr std::array<std::pair<const char*, int>, 3> cnWidths{
-        {{"Cell", 160}, {"View", 90}, {"Library", 100}}};
-    TReport& report = m_browser->GetCellListView()->GetReport();
-    const int shown = m_browser->GetCellListView()->GetSetupTab();
-    for (const int tab : {(shown + 1) % 3, (shown + 2) % 3, shown}) {
-        report.OnSwitchSetupTab(tab);
-        for (const auto& [caption, width] : cnWidths) {
-            for (int position = 0; position < report.GetColumns().GetCount(); ++position) {
-                CXTPReportColumn* const column = report.GetColumns().GetAt(position);
-                if (column->GetCaption() == caption) column->SetWidth(width);
-            }
-        }
-    }
 }
 
 void Navigator::FitPanes() {

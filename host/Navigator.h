@@ -86,7 +86,6 @@ private:
     };
 
     void OnDatabaseChange(DatabaseChange change);
-    void WidenColumns();
 
     // Order matters: windows go before the commands that they may still call, those before the interpreter.
     CWinAppEx& m_app;

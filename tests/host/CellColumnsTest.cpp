@@ -89,7 +89,16 @@ TEST_F(CellColumnsTest, HaveRoomForTheirTextsUntilTheUserGivesAnother) {
     Start();
     EXPECT_EQ(61, Column("Changed").GetWidth());
     EXPECT_EQ(70, Column("Bytes").GetWidth());
-    EXPECT_EQ(80, Column("View").GetWidth()) << "for a schematic";
+}
+
+TEST_F(CellColumnsTest, EachArrangementBeginsWithRoomForTheUsualNames) {
+    EXPECT_EQ(0, m_navigator->Browser().GetCellListView()->GetSetupTab());
+    for (const int tab : {0, 1, 2}) {
+        Report().OnSwitchSetupTab(tab);
+        EXPECT_EQ(160, Column("Cell").GetWidth()) << tab;
+        EXPECT_EQ(90, Column("View").GetWidth()) << "for a schematic, in " << tab;
+        EXPECT_EQ(100, Column("Library").GetWidth()) << tab;
+    }
 }
 
 TEST_F(CellColumnsTest, SortByTimeAndSizeAndNotByLetters) {

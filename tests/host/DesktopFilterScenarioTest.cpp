@@ -124,21 +124,21 @@ TEST_F(DesktopFilterTest, TheHistoryIsPickedByKeysAndByMouseAndOutlivesTheProgra
 }
 
 TEST_F(DesktopFilterTest, DraggedColumnsAndTabsAreAsTheyWereAfterARestart) {
-    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Cell 140 View 80 Library 60}")) << Of("columns");
+    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Cell 160 View 90 Library 100}")) << Of("columns");
     const QRect cell = PlaceOf("header Cell");
     const QPoint edge(cell.right(), cell.center().y());
     DragTo(edge, edge + QPoint(45, 0));
-    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Cell 185 View 80 Library 60}")) << Of("columns");
+    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Cell 205 View 90 Library 100}")) << Of("columns");
     DragTo(PlaceOf("header Library").center(), PlaceOf("header Cell").topLeft() + QPoint(8, 8));
-    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Library 60 Cell 185 View 80}")) << Of("columns");
+    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Library 100 Cell 205 View 90}")) << Of("columns");
     ClickTab(1);
     ASSERT_TRUE(Awaits("[dict get $s setup] eq {Setup2}"));
     ASSERT_TRUE(
-        Awaits("[dict get $s columns] eq {Library 60 Cell 140 View 80 State 110 Changed 125 Bytes 70}"))
+        Awaits("[dict get $s columns] eq {Library 100 Cell 160 View 90 State 110 Changed 125 Bytes 70}"))
         << Of("columns");
     ClickTab(0);
     ASSERT_TRUE(Awaits("[dict get $s setup] eq {Setup1}"));
-    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Library 60 Cell 185 View 80}")) << Of("columns");
+    ASSERT_TRUE(Awaits("[dict get $s columns] eq {Library 100 Cell 205 View 90}")) << Of("columns");
     ClickTab(2);
     ASSERT_TRUE(Awaits("[dict get $s setup] eq {Setup3}"));
     End(*m_first);
@@ -147,7 +147,7 @@ TEST_F(DesktopFilterTest, DraggedColumnsAndTabsAreAsTheyWereAfterARestart) {
     Begin(*second);
     ASSERT_TRUE(Await(*second, "[dict get $s setup] eq {Setup3}")) << "the tab of the last time";
     ClickTab(0);
-    ASSERT_TRUE(Await(*second, "[dict get $s columns] eq {Library 60 Cell 185 View 80}")) << Of("columns");
+    ASSERT_TRUE(Await(*second, "[dict get $s columns] eq {Library 100 Cell 205 View 90}")) << Of("columns");
     End(*second);
 }
 

@@ -75,18 +75,6 @@ TEST_F(NavigatorTest, DumpsColumnsOfOneCaptionEachByItself) {
     EXPECT_FALSE(columns.GetAt(3)->IsVisible()) << "as it was before";
 }
 
-TEST_F(NavigatorTest, FirstWidthsHaveRoomForTheNamesOfViews) {
-    m_folder.Write("lib/inv.sym", "v {}\n");
-    Start();
-    auto& report = m_navigator.Browser().GetCellListView()->GetReport();
-    const int shown = m_navigator.Browser().GetCellListView()->GetSetupTab();
-    for (const int tab : {0, 1, 2}) {
-        report.OnSwitchSetupTab(tab);
-        EXPECT_EQ(report.GetColumns().GetAt(1)->GetWidth(), 90) << tab;
-    }
-    EXPECT_EQ(shown, 0);
-}
-
 TEST_F(NavigatorTest, SortsByTheNumbersInNames) {
     for (const char* cell : {"lib/bank10.sym", "lib/bank2.sym", "lib/Bank1.sym"})
         m_folder.Write(cell, "v {}\n");
