@@ -27,7 +27,7 @@ else()
   set(VAPP_PLATFORM_LIBRARIES PkgConfig::ICU Threads::Threads)
 endif()
 if(VAPP_QT)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Svg Widgets)
 endif()
 
 if(WIN32)

@@ -1,6 +1,7 @@
 /// @file
-/// The pictures of the adapter, drawn as outlines in the size that is wanted, so that they are sharp on every
-/// screen; there are no image files.
+/// The pictures of the adapter by their numbers: drawn from the files of the folder icons in the size that is
+/// wanted, so that they are sharp on every screen, and with the colour that is wanted for lines, so that they
+/// can be seen in every theme.
 #pragma once
 
 #include <QColor>
