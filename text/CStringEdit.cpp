@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "text/ByteReplacement.h"
 #include "text/LinearSearch.h"
-#include "text/ReplaceBytes.h"
 #include "text/Words.h"
 #include "vapp/text/CString.h"
 
@@ -146,14 +146,12 @@ int CString::Replace(char oldCharacter, char newCharacter) {
     const std::string_view text = View();
     if (oldCharacter == newCharacter)
         return static_cast<int>(std::count(text.begin(), text.end(), oldCharacter));
-    std::size_t replaced = 0;
-    if (!IsShared()) {
-        replaced = vapp_text::ReplaceBytes(m_text, m_text, text.size(), oldCharacter, newCharacter);
-    } else if (text.find(oldCharacter) != std::string_view::npos) {
-        CString changed(TUnfilled(), text.size());
-        replaced = vapp_text::ReplaceBytes(m_text, changed.m_text, text.size(), oldCharacter, newCharacter);
-        Swap(changed);
-    }
+    const vapp_text::ByteReplacement replacement(oldCharacter, newCharacter);
+    if (!IsShared()) return static_cast<int>(replacement.Copy(m_text, m_text, text.size()));
+    if (text.find(oldCharacter) == std::string_view::npos) return 0;
+    CString changed(TUnfilled(), text.size());
+    const std::size_t replaced = replacement.Copy(m_text, changed.m_text, text.size());
+    Swap(changed);
     return static_cast<int>(replaced);
 }
 

@@ -12,11 +12,11 @@
 #include <string_view>
 
 #include "text/AsciiBytes.h"
+#include "text/ByteReplacement.h"
 #include "text/Codec.h"
 #include "text/Fold.h"
 #include "text/LinearSearch.h"
 #include "text/MappedText.h"
-#include "text/ReplaceBytes.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
 
@@ -156,19 +156,14 @@ int CStringU::ReplaceNoCase(char16_t oldUnit, char16_t newUnit) {
     return replaced;
 }
 
-// The form that the new character is, if it is one, comes first, so that none is replaced and counted twice.
 int CStringU::ReplaceAsciiNoCase(char lower, char newByte) {
     const char upper = static_cast<char>(vapp_text::UpperChar(static_cast<unsigned char>(lower)));
     const std::string_view text = m_stored.View();
     if (text.find(lower) == std::string_view::npos && text.find(upper) == std::string_view::npos) return 0;
     const int length = m_stored.GetLength();
-    const std::size_t size = text.size();
     char* const bytes = m_stored.GetBuffer();
-    const char first = newByte == upper ? upper : lower;
-    std::size_t replaced = vapp_text::ReplaceBytes(bytes, bytes, size, first, newByte);
-    if (upper != lower) {
-        replaced += vapp_text::ReplaceBytes(bytes, bytes, size, first == upper ? lower : upper, newByte);
-    }
+    const vapp_text::ByteReplacement replacement(lower, newByte, true);
+    const std::size_t replaced = replacement.Copy(bytes, bytes, text.size());
     m_stored.ReleaseBuffer(length);
     return static_cast<int>(replaced);
 }

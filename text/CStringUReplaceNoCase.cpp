@@ -56,27 +56,34 @@ private:
     std::size_t m_taken = 0;
 };
 
-// Plain texts, the wanted one not empty and no part of the edited one.
+// A text that grows or shrinks at each hit; the first is known.
 template <typename Search>
-int ReplacePlain(CString& text, Search&& search, std::string_view wanted, std::string_view inserted) {
-    std::size_t hit = search.Find(text.View(), 0);
-    if (hit == std::string_view::npos) return 0;
-    int replaced = 0;
-    if (inserted.size() == wanted.size()) {  // nothing drifts, and what is edited is not searched again
-        char* const bytes = text.GetBufferSetLength(text.GetLength());
-        for (; hit != std::string_view::npos; hit = search.Find(text.View(), hit + inserted.size())) {
-            inserted.copy(bytes + hit, inserted.size());
-            ++replaced;
-        }
-        return replaced;
-    }
+int ReplaceDrifting(CString& text, Search& search, std::size_t hit, std::string_view wanted,
+                    std::string_view inserted) {
     DriftingEdit<std::string> edit{std::string(text.View())};
     const std::size_t step = inserted.empty() ? wanted.size() : inserted.size();
+    int replaced = 0;
     for (; hit <= edit.Size(); hit = search.Find(text.View(), hit + step)) {
         edit.ReplaceAt(hit, wanted.size(), inserted);
         ++replaced;
     }
     text = CString(edit.Finish());
+    return replaced;
+}
+
+// Plain texts, the wanted one not empty and no part of the edited one.
+template <typename Search>
+int ReplacePlain(CString& text, Search&& search, std::string_view wanted, std::string_view inserted) {
+    std::size_t hit = search.Find(text.View(), 0);
+    if (hit == std::string_view::npos) return 0;
+    if (inserted.size() != wanted.size()) return ReplaceDrifting(text, search, hit, wanted, inserted);
+    // Nothing drifts, and what is edited is not searched again.
+    char* const bytes = text.GetBufferSetLength(text.GetLength());
+    int replaced = 0;
+    for (; hit != std::string_view::npos; hit = search.Find(text.View(), hit + inserted.size())) {
+        inserted.copy(bytes + hit, inserted.size());
+        ++replaced;
+    }
     return replaced;
 }
 

@@ -24,6 +24,13 @@ extern CaseAnswers<vapp_platform::LowerCaseChar> gFoldAnswers;
     return static_cast<char16_t>(fromA < 26U ? c + 32U : c);
 }
 
+/// The bit that makes the small letter of an ASCII letter's capital; 0 for any other byte. No byte that isn't
+/// the letter becomes the small one by it.
+[[nodiscard]] constexpr char AsciiCaseBit(char byte) noexcept {
+    const char small = static_cast<char>(byte | 0x20);
+    return small >= 'a' && small <= 'z' ? '\x20' : '\0';
+}
+
 /// The folded (lower-case) form of one 16-bit character. 0x80 is the first that the platform is asked for.
 [[nodiscard]] inline char16_t FoldChar(char16_t c) noexcept {
     return c <= 0x7F ? FoldAsciiChar(c) : gFoldAnswers.For(c);

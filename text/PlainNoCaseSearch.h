@@ -28,9 +28,7 @@ public:
     static constexpr std::size_t cnLongest = LinearSearch<char>::cnShort;
 
     explicit ShortNoCaseSearch(std::string_view wanted) noexcept
-        : m_wanted(wanted),
-          m_first(EightOf(FoldAsciiByte(wanted.front()))),
-          m_last(EightOf(FoldAsciiByte(wanted.back()))) {}
+        : m_wanted(wanted), m_first(wanted.front()), m_last(wanted.back()) {}
 
     /// The first place at or behind `from`; npos for none.
     [[nodiscard]] std::size_t Find(std::string_view text, std::size_t from) const noexcept {
@@ -55,10 +53,22 @@ public:
     }
 
 private:
+    // A character eight times. Capital and small letter differ in one bit, and no other ASCII character
+    // becomes the small letter by it.
+    struct TEightOf {
+        explicit TEightOf(char byte) noexcept
+            : folded(EightOf(FoldAsciiByte(byte))), caseBits(EightOf(AsciiCaseBit(byte))) {}
+        // Zero for each byte that is the character, with no high bit in the others.
+        [[nodiscard]] Word Differences(Word plain) const noexcept { return (plain | caseBits) ^ folded; }
+
+        Word folded;
+        Word caseBits;
+    };
+
     // Marks the places of eight that hold the first and the last character, given what stands where each
     // would have to.
     [[nodiscard]] Word HitsOf(Word firsts, Word lasts) const noexcept {
-        return ZeroBytes(LowerWord(firsts) ^ m_first) & ZeroBytes(LowerWord(lasts) ^ m_last);
+        return ~((m_first.Differences(firsts) | m_last.Differences(lasts)) + ~cnHighBits) & cnHighBits;
     }
     [[nodiscard]] std::size_t FirstHeld(const char* text, std::size_t from, Word hits) const noexcept {
         for (; hits != 0; hits &= hits - 1) {
@@ -75,8 +85,8 @@ private:
     }
 
     std::string_view m_wanted;
-    Word m_first;
-    Word m_last;
+    TEightOf m_first;
+    TEightOf m_last;
 };
 
 /// For a text of any length. The searched text is that of the constructor, whatever is edited later.
