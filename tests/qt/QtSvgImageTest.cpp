@@ -54,7 +54,8 @@ QtSvgWish SquareWish(const QRect& part, QSize pixels) {
 
 TEST(QtSvgImage, EachFileOfTheLibraryIsDrawnWithoutAWarning) {
     const WarningsHeard warnings;
-    for (const char* file : {"clear", "library-locked", "library-unresolved", "open-list"}) {
+    for (const char* file : {"clear", "float", "library-locked", "library-unresolved", "message-error",
+                             "message-information", "message-question", "message-warning", "open-list"}) {
         for (const int side : {1, 15, 16, 21, 32, 63}) {
             const QImage image = gSvgImage(
                 {.file = file, .part = QRect(0, 0, 16, 16), .pixels = QSize(side, side), .ink = cnBlackInk});

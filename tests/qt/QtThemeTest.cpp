@@ -6,7 +6,7 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
+#include <QProxyStyle>
 #include <utility>
 
 namespace {
@@ -24,7 +24,9 @@ TEST_P(QtTheme, BackgroundsAreAsDarkAsAsked) {
     for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
         EXPECT_EQ(palette.color(role).lightness() < 128, GetParam()) << role;
     }
-    EXPECT_EQ(QApplication::style()->name(), QStringLiteral("fusion"));
+    const auto* style = dynamic_cast<QProxyStyle*>(QApplication::style());
+    ASSERT_NE(style, nullptr);
+    EXPECT_EQ(style->baseStyle()->name(), QStringLiteral("fusion"));
 }
 
 TEST_P(QtTheme, TextsStandOutFromTheirBackgrounds) {

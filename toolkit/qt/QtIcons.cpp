@@ -71,25 +71,30 @@ void DrawPart(QPainter& painter, const QRectF& area, QtSvgWish wish) {
     painter.setWorldTransform(before);
 }
 
-void DrawResource(QPainter& painter, const QRectF& area, UINT resource, const QColor& ink, bool isGreyed) {
-    for (const ResourceEntry& entry : cnResources) {
-        if (entry.resource != resource) continue;
-        DrawPart(painter, area,
-                 {.file = entry.file,
-                  .part = QRect(QPoint(0, 0), cnPictureSize),
-                  .pixels = {},
-                  .ink = ink.rgb(),
-                  .isGreyed = isGreyed});
-    }
+// Null if there is none.
+const char* FileOf(UINT resource) {
+    const auto* entry = std::find_if(std::begin(cnResources), std::end(cnResources),
+                                     [resource](const auto& each) { return each.resource == resource; });
+    return entry == std::end(cnResources) ? nullptr : entry->file;
 }
 
-class ResourceIconEngine : public QIconEngine {
+void DrawPicture(QPainter& painter, const QRectF& area, const char* file, const QColor& ink, bool isGreyed) {
+    if (file == nullptr) return;
+    DrawPart(painter, area,
+             {.file = file,
+              .part = QRect(QPoint(0, 0), cnPictureSize),
+              .pixels = {},
+              .ink = ink.rgb(),
+              .isGreyed = isGreyed});
+}
+
+class PictureIconEngine : public QIconEngine {
 public:
-    explicit ResourceIconEngine(UINT resource) : m_resource(resource) {}
+    explicit PictureIconEngine(const char* file) : m_file(file) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
-        DrawResource(*painter, rect, m_resource, QApplication::palette().color(QPalette::ButtonText),
-                     mode == QIcon::Disabled);
+        DrawPicture(*painter, rect, m_file, QApplication::palette().color(QPalette::ButtonText),
+                    mode == QIcon::Disabled);
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap picture(size);
@@ -98,10 +103,10 @@ public:
         paint(&painter, picture.rect(), mode, state);
         return picture;
     }
-    [[nodiscard]] QIconEngine* clone() const override { return new ResourceIconEngine(m_resource); }
+    [[nodiscard]] QIconEngine* clone() const override { return new PictureIconEngine(m_file); }
 
 private:
-    UINT m_resource;
+    const char* m_file;
 };
 
 }  // namespace
@@ -116,7 +121,7 @@ void gDrawStripIcon(QPainter& painter, const QRectF& area, int icon, const QColo
 }
 
 void gDrawResource(QPainter& painter, const QRectF& area, UINT resource, const QColor& ink) {
-    DrawResource(painter, area, resource, ink, false);
+    DrawPicture(painter, area, FileOf(resource), ink, false);
 }
 
 QString gStripIconName(int icon) {
@@ -135,7 +140,11 @@ QString gLibraryMarkName(UINT resource) {
 }
 
 QIcon gResourceIcon(UINT resource) {
-    return QIcon(new ResourceIconEngine(resource));
+    return QIcon(new PictureIconEngine(FileOf(resource)));
+}
+
+QIcon gPictureIcon(const char* file) {
+    return QIcon(new PictureIconEngine(file));
 }
 
 }  // namespace vapp_qt

@@ -28,5 +28,7 @@ void gDrawResource(QPainter& painter, const QRectF& area, UINT resource, const Q
 [[nodiscard]] QString gLibraryMarkName(UINT resource);
 /// The same as an icon for buttons, in the palette's colours.
 [[nodiscard]] QIcon gResourceIcon(UINT resource);
+/// That of a picture by the name of its file, without the ending; a text that stays.
+[[nodiscard]] QIcon gPictureIcon(const char* file);
 
 }  // namespace vapp_qt

@@ -5,8 +5,8 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
+
+#include "toolkit/qt/QtThemeStyle.h"
 
 namespace {
 
@@ -55,8 +55,7 @@ QPalette MakePalette(bool dark) {
 void gApplyTheme(bool dark) {
     // The desktop's own style may paint some parts in fixed light colours; this one follows the palette in
     // all.
-    if (QApplication::style()->name() != QLatin1String("fusion")) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    }
+    if (dynamic_cast<vapp_qt::QtThemeStyle*>(QApplication::style()) == nullptr)
+        QApplication::setStyle(new vapp_qt::QtThemeStyle);
     QApplication::setPalette(MakePalette(dark));
 }
