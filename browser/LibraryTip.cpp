@@ -85,27 +85,32 @@ std::optional<CStringU> TLibraryListCtrl::OnToolTipNotify() {
     const int row = RowUnderCursor();
     if (view == nullptr || row < 0) return std::nullopt;
     const HostCallScope scope;
-    const CStringU tip =
-        vapp_platform::PathForPeople(CanonicalPath(view->GetAbsoluteLibraryPath(GetItemText(row))));
+    const CStringU path = view->GetAbsoluteLibraryPath(GetItemText(row));
+    // A host may not know where a library is, and an empty tip would tell nothing.
+    if (path.IsEmpty()) {
+        ClearStatus();
+        return std::nullopt;
+    }
+    const CStringU tip = vapp_platform::PathForPeople(CanonicalPath(path));
     m_tipTimerRuns = true;
     ShowStatus(&tip);
     return Cut(tip);
 }
 
+void TLibraryListCtrl::ClearStatus() {
+    if (!std::exchange(m_tipTimerRuns, false)) return;
+    const HostCallScope scope;
+    ShowStatus(nullptr);
+}
+
 // The host would show the path for ever: nobody looks at the pointer any more.
 void TLibraryListCtrl::OnDestroy() {
-    if (std::exchange(m_tipTimerRuns, false)) {
-        const HostCallScope scope;
-        ShowStatus(nullptr);
-    }
+    ClearStatus();
     CListCtrl::OnDestroy();
 }
 
 void TLibraryListCtrl::OnTipTimer() {
-    if (!m_tipTimerRuns || RowUnderCursor() >= 0) return;
-    m_tipTimerRuns = false;
-    const HostCallScope scope;
-    ShowStatus(nullptr);
+    if (RowUnderCursor() < 0) ClearStatus();
 }
 
 }  // namespace vapp_library_browser

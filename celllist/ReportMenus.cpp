@@ -120,12 +120,13 @@ void TReport::ShowCellMenu(CPoint screen, const std::set<CStringIU>& views) {
     // Found before the host adds items, whose numbers are its own affair.
     CMenu* const viewNames = menu->FindOwner(AllViewNames);
     const TLibraryView* view = m_pane.GetLibraryView();
-    if (view != nullptr && view->GetQEdit()) {
+    const bool isSchematicEditor = view != nullptr && view->GetQEdit();
+    if (isSchematicEditor) {
         for (const UINT command : cnNotForSchematicEditor)
             menu->Delete(command);
     }
     AskHostForItems(*menu);
-    CheckCellMenu(*menu);
+    CheckCellMenu(*menu, isSchematicEditor);
     if (!IsWindow()) return;
     CreateViewNameFilterMenu(viewNames, views);
     const UINT picked = menu->Track(*this, screen);
@@ -140,11 +141,14 @@ void TReport::AskHostForItems(CMenu& menu) {
     AskMainWindow(WM_LN_BUILDCELLMENU);
 }
 
-void TReport::CheckCellMenu(CMenu& menu) const {
+// The host's items stand ahead, so that one of the same number is not taken for the list's own.
+void TReport::CheckCellMenu(CMenu& menu, bool isSchematicEditor) const {
     menu.Enable(SelectAll, AreAnyCellsSelected());
     menu.Check(ColumnChooser, AskMainWindow(WM_LN_COLCHOOSERSHOWN) != 0);
-    for (const UINT command : cnOptionCommands)
-        menu.Check(command, IsOptionOn(m_options, command));
+    for (const UINT command : cnOptionCommands) {
+        const bool isGone = isSchematicEditor && std::ranges::count(cnNotForSchematicEditor, command) > 0;
+        if (!isGone) menu.Check(command, IsOptionOn(m_options, command));
+    }
     if (const std::optional<TColSetup> setup = FindActiveSetup())
         menu.Check(cnSetupCommands[static_cast<std::size_t>(*setup)], true);
 }

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "celllist/FilterHistory.h"
+#include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TSymbolPreview.h"
@@ -155,9 +156,9 @@ bool TCellListView::OnNotify(Notification& notification, LRESULT& result) {
     return true;
 }
 
-// A host whose column chooser is on the screen keeps the keyboard there; else the base decides, which leaves
-// it with the pane.
+// With the host's column chooser on the screen no control of the pane takes the keyboard.
 void TCellListView::OnSetFocus() {
+    const HostCallScope scope;
     if (AskMainWindow(WM_LN_COLCHOOSERSHOWN) == 0) CFormView::OnSetFocus();
 }
 

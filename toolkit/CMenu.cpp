@@ -4,6 +4,7 @@
 #include "vapp/toolkit/CMenu.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "vapp/toolkit/Peer.h"
@@ -18,7 +19,7 @@ const CMenu::TItem* CMenu::GetItem(int position) const {
 }
 
 const CMenu::TItem* CMenu::FindItem(UINT id) const {
-    for (const TItem& item : m_items) {
+    for (const TItem& item : std::views::reverse(m_items)) {
         if (item.kind == TItem::TKind::Command && item.id == id) return &item;
         if (!item.subMenu) continue;
         if (const TItem* below = item.subMenu->FindItem(id)) return below;
@@ -27,20 +28,20 @@ const CMenu::TItem* CMenu::FindItem(UINT id) const {
 }
 
 CMenu::TItem* CMenu::Find(UINT id) {
-    CMenu* const owner = FindOwner(id);
-    if (owner == nullptr) return nullptr;
-    return &*std::find_if(owner->m_items.begin(), owner->m_items.end(), [id](const TItem& item) {
-        return item.kind == TItem::TKind::Command && item.id == id;
-    });
+    return const_cast<TItem*>(std::as_const(*this).FindItem(id));
 }
 
 CMenu* CMenu::FindOwner(UINT id) {
-    for (TItem& item : m_items) {
+    for (TItem& item : std::views::reverse(m_items)) {
         if (item.kind == TItem::TKind::Command && item.id == id) return this;
         if (!item.subMenu) continue;
         if (CMenu* below = item.subMenu->FindOwner(id)) return below;
     }
     return nullptr;
+}
+
+int CMenu::PositionOf(const TItem& item) const {
+    return static_cast<int>(&item - m_items.data());
 }
 
 CMenu* CMenu::GetSubMenu(int position) const {
@@ -91,8 +92,7 @@ void CMenu::RemoveAt(int position) {
 void CMenu::Delete(UINT id) {
     CMenu* const owner = FindOwner(id);
     if (owner == nullptr) return;
-    const TItem* item = owner->Find(id);
-    owner->RemoveAt(static_cast<int>(item - owner->m_items.data()));
+    owner->RemoveAt(owner->PositionOf(*owner->Find(id)));
 }
 
 void CMenu::Check(UINT id, bool checked) {
@@ -115,9 +115,7 @@ bool CMenu::IsEnabled(UINT id) const {
 
 void CMenu::SetDefault(UINT id) {
     CMenu* const owner = FindOwner(id);
-    if (owner == nullptr) return;
-    for (TItem& item : owner->m_items)
-        item.isDefault = item.kind == TItem::TKind::Command && item.id == id;
+    if (owner != nullptr) owner->SetDefaultAt(owner->PositionOf(*owner->Find(id)));
 }
 
 void CMenu::SetDefaultAt(int position) {

@@ -76,6 +76,7 @@ void CWnd::DestroyChildren() {
 
 void CWnd::RemoveChild(CWnd* child) {
     std::erase(m_children, child);
+    if (m_lastFocusedChild == child) m_lastFocusedChild = nullptr;
 }
 
 CWnd* CWnd::GetTopLevelParent() {
@@ -173,16 +174,26 @@ void CWnd::SetFocus() {
     // First this, so that the widget's report of what we are about to ask for finds nothing new.
     const bool came = std::exchange(s_focused, this) != this;
     TellPeer(cnChangeFocus);
-    if (came && m_created) OnSetFocus();
+    if (came && m_created) FocusCame();
 }
 
 void CWnd::FocusedByPeer(bool focused) {
     if (!m_created || m_destroying) return;
     if (focused) {
-        if (std::exchange(s_focused, this) != this) OnSetFocus();
+        if (std::exchange(s_focused, this) != this) FocusCame();
     } else if (s_focused == this) {
         s_focused = nullptr;
     }
+}
+
+void CWnd::FocusCame() {
+    for (CWnd* window = this; window->m_parent != nullptr; window = window->m_parent)
+        window->m_parent->m_lastFocusedChild = window;
+    OnSetFocus();
+}
+
+bool CWnd::TakesFocus() const {
+    return m_created && !m_destroying && m_visible && m_enabled;
 }
 
 void CWnd::SetRedraw(bool redraw) {

@@ -73,9 +73,27 @@ TEST_F(LibraryTipTest, DotsBetweenBackslashesGo) {
     EXPECT_EQ(TipOf("C:\\..\\.."), "C:\\");
     EXPECT_EQ(TipOf("\\a\\.."), "\\");
     EXPECT_EQ(TipOf("a\\..\\b"), "b");
-    EXPECT_EQ(TipOf(""), "");
     const std::string tooLong = "C:\\a\\..\\" + std::string(260, 'x');
     EXPECT_EQ(TipOf(tooLong), tooLong) << "taken as it stands";
+}
+
+TEST_F(LibraryTipTest, ALibraryWithoutAPathHasNoTip) {
+    vapp_platform::SetWineAnswer(false);
+    EXPECT_EQ(TipOf(""), "(none)");
+    EXPECT_FALSE(List().IsTipTimerRunning());
+    EXPECT_TRUE(m_status.empty());
+    const auto library = [](const char* name, const char* path) { return RecordingHost::List({name, path}); };
+    m_host.Answer(
+        "database all_libs",
+        RecordingHost::List({RecordingHost::List({"top", library("a", "here"), library("b", "")})}));
+    Libraries().RequestDelayedPopulate();
+    m_browser.Populate();
+    PointAt(0);
+    EXPECT_EQ(List().OnToolTipNotify(), CStringU("here"));
+    PointAt(1);
+    EXPECT_EQ(List().OnToolTipNotify(), std::nullopt);
+    EXPECT_EQ(m_status, (std::vector<std::string>{"here", "(cleared)"}))
+        << "no path of another library stays";
 }
 
 TEST_F(LibraryTipTest, ATipIsCutAndTheStatusTextIsWhole) {

@@ -125,6 +125,33 @@ TEST_F(CellCommandsTest, ChecksTheColumnChooserAsTheHostAnswers) {
     EXPECT_EQ(m_shown, 2);
 }
 
+// The list looks up its own items by number when it greys and checks them.
+TEST_F(CellCommandsTest, AHostsItemWithAFixedNumberStaysAsTheHostMadeIt) {
+    m_chooserShown = true;
+    for (const bool isSchematicEditor : {false, true}) {
+        if (isSchematicEditor) m_browser.ModifyForQEdit();
+        SetOptions([](TReport::TOptions& options) { options.showHiddenCells = true; });
+        m_fill = [this] {
+            for (const UINT id : {UINT{SelectAll}, UINT{ShowHiddenCells}})
+                Report().AddCellListMenuItem(id, "mine", false, false, false);
+            m_browser.BeginCellListSubmenu("More");
+            Report().AddCellListMenuItem(ColumnChooser, "mine", true, false, false);
+            m_browser.EndCellListSubmenu();
+        };
+        m_look = [isSchematicEditor](const CMenu& menu) {
+            EXPECT_TRUE(menu.GetItem(0)->isEnabled) << "though nothing is selected";
+            EXPECT_FALSE(menu.GetItem(1)->isChecked) << "though hidden cells are shown";
+            EXPECT_FALSE(menu.GetSubMenu(2)->GetItem(0)->isChecked) << "though the chooser is shown";
+            EXPECT_FALSE(menu.IsEnabled(SelectAll));
+            EXPECT_EQ(menu.IsChecked(ShowHiddenCells), !isSchematicEditor);
+            EXPECT_TRUE(menu.IsChecked(ColumnChooser));
+        };
+        Report().GetSelectedRows().Clear();
+        RightClick();
+    }
+    EXPECT_EQ(m_shown, 2);
+}
+
 TEST_F(CellCommandsTest, AHostsNumbersMayReachIntoThoseOfViewNames) {
     m_fill = [this] {
         Report().AddCellListMenuItem(43001, "mine", false, false, false);

@@ -2,6 +2,7 @@
 
 #include <tcl.h>
 
+#include "tests/browser/AnsweringWindow.h"
 #include "tests/celllist/CellListFixture.h"
 #include "tests/celllist/ListeningWindow.h"
 
@@ -114,6 +115,22 @@ TEST_F(TCellListViewTest, IsMarkedWhenTheDropDownClosesAndTheMainWindowGetsTheKe
     dynamic_cast<CComboBox&>(*Cells().GetDlgItem(TCellListView::cnFilterCombo)).ClosedByUser();
     EXPECT_TRUE(Cells().NeedsPopulate());
     EXPECT_EQ(CWnd::GetFocus(), &m_frame);
+}
+
+TEST_F(TCellListViewTest, HandsTheKeyboardToAControlUnlessTheColumnChooserIsShown) {
+    bool isChooserShown = false;
+    AnsweringWindow main(m_app);
+    main.answer = [&isChooserShown](UINT message, WPARAM, LPARAM) -> LRESULT {
+        return message == WM_LN_COLCHOOSERSHOWN && isChooserShown ? 1 : 0;
+    };
+    Report().SetFocus();
+    main.SetFocus();
+    Cells().FocusedByPeer(true);
+    EXPECT_EQ(CWnd::GetFocus(), &Report()) << "the control that had it last";
+    isChooserShown = true;
+    main.SetFocus();
+    Cells().FocusedByPeer(true);
+    EXPECT_EQ(CWnd::GetFocus(), &Cells());
 }
 
 TEST_F(TCellListViewTest, RefreshesAtOnceWhenTheUserSorts) {

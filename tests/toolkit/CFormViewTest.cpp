@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "vapp/text/Translate.h"
+#include "vapp/toolkit/CEdit.h"
 #include "vapp/toolkit/CStatic.h"
 
 namespace {
@@ -59,6 +60,62 @@ TEST(CFormView, TextsOfControlsAreTranslated) {
     ASSERT_TRUE(form.Create(nullptr, 1));
     EXPECT_EQ(form.first.GetWindowText(), "Bibliotheken");
     vlang::gClearTranslations();
+}
+
+namespace {
+
+/// A label and two fields.
+class FocusForm : public CFormView {
+public:
+    FocusForm() : CFormView(cnDialog) {}
+    ~FocusForm() override { DestroyWindow(); }
+
+    CStatic label;
+    CEdit first;
+    CEdit second;
+
+protected:
+    void OnCreate() override {
+        label.Create(this, 1);
+        first.Create(this, 2);
+        second.Create(this, 3);
+    }
+};
+
+}  // namespace
+
+TEST(CFormView, HandsTheKeyboardToTheControlThatHadItLastElseToTheFirstThatTakesIt) {
+    FocusForm form;
+    CWnd other;
+    ASSERT_TRUE(form.Create(nullptr, 1));
+    ASSERT_TRUE(other.Create(nullptr, 2));
+    form.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), &form.first) << "a label does not take it";
+    form.second.FocusedByPeer(true);
+    other.SetFocus();
+    form.FocusedByPeer(true);
+    EXPECT_EQ(CWnd::GetFocus(), &form.second);
+    other.SetFocus();
+    form.second.EnableWindow(false);
+    form.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), &form.first);
+    form.first.ShowWindow(false);
+    form.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), &form) << "none takes it";
+}
+
+TEST(CFormView, AControlThatHasGoneIsNotHandedTheKeyboard) {
+    FocusForm form;
+    ASSERT_TRUE(form.Create(nullptr, 1));
+    form.second.SetFocus();
+    form.second.DestroyWindow();
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    form.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), &form.first);
+    form.DestroyWindow();
+    ASSERT_TRUE(form.Create(nullptr, 1));
+    form.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), &form.first);
 }
 
 TEST(CFormView, ControlsEndWithTheirView) {

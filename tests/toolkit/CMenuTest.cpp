@@ -147,6 +147,26 @@ TEST(CMenuTest, OfTwoItemsWithOneNumberTheOneThatCanBePickedCounts) {
     EXPECT_FALSE(menu.Offers(0)) << "a sub-menu is no command";
 }
 
+TEST(CMenuTest, OfSeveralItemsWithOneNumberTheLastIsMeant) {
+    CMenu menu;
+    menu.Append(7, "first");
+    menu.AppendPopup("more").Append(7, "below");
+    menu.GetSubMenu(1)->Append(8, "other");
+    EXPECT_EQ(menu.FindItem(7)->text, "below");
+    EXPECT_EQ(menu.FindOwner(7), menu.GetSubMenu(1));
+    menu.Append(7, "last");
+    menu.Check(7, true);
+    menu.Enable(7, false);
+    menu.SetDefault(7);
+    EXPECT_TRUE(menu.GetItem(2)->isChecked && menu.GetItem(2)->isDefault && !menu.GetItem(2)->isEnabled);
+    EXPECT_FALSE(menu.GetItem(0)->isChecked || menu.GetItem(0)->isDefault || !menu.GetItem(0)->isEnabled);
+    menu.Delete(7);
+    menu.Delete(7);
+    EXPECT_EQ(menu.GetItemCount(), 2);
+    EXPECT_EQ(menu.GetSubMenu(1)->GetItemCount(), 1);
+    EXPECT_EQ(menu.FindItem(7)->text, "first");
+}
+
 TEST(CMenuTest, ThereIsOneDefaultItemInAMenu) {
     CMenu menu;
     menu.Append(1, "one");

@@ -43,7 +43,7 @@ public:
     /// Number of the timer that looks whether the pointer has left the rows.
     static constexpr UINT cnTipTimer = 1499;
     /// The path of the library under the pointer, also sent to the host as a status text; starts the timer.
-    /// Nothing over no row.
+    /// Nothing over no row, and for a library without a path.
     [[nodiscard]] std::optional<CStringU> OnToolTipNotify() override;
     /// Once the pointer is over no row, ends the timer and clears the status text.
     void OnTipTimer() override;
@@ -56,6 +56,7 @@ protected:
 
 private:
     [[nodiscard]] int RowUnderCursor() const;
+    void ClearStatus();
 
     THostMenu m_hostMenu;
     bool m_tipTimerRuns = false;

@@ -384,7 +384,7 @@ private:
     void ShowViewNameMenu(CPoint screen, const std::set<CStringIU>& views);
     void ShowCellMenu(CPoint screen, const std::set<CStringIU>& views);
     void AskHostForItems(CMenu& menu);
-    void CheckCellMenu(CMenu& menu) const;
+    void CheckCellMenu(CMenu& menu, bool isSchematicEditor) const;
     void RunMenuPick(UINT id, const std::set<CStringIU>& views);
     void RunDefaultCommand();
     void UseSetup(TColSetup setup);

@@ -19,6 +19,8 @@ public:
 protected:
     /// Creates a member control at its place in the template, with its text.
     void CreateItem(CWnd& control, UINT id);
+    /// Hands the keyboard to the control that had it last, else to the first that takes it.
+    void OnSetFocus() override;
 
 private:
     const DialogTemplate& m_template;

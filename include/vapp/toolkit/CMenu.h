@@ -23,7 +23,8 @@ enum class TMenuAlign {
 
 /// A menu. Texts may hold an `&` in front of the letter that is the item's key; `&&` is the sign itself, see
 /// `gMenuTextOf`. Operations by identifier look into sub-menus too, and do nothing if there is no such item;
-/// positions out of range are kept within the menu for insertion and ignored otherwise.
+/// of several with one identifier they mean the last, as what others add to a menu stands ahead of what its
+/// owner knows. Positions out of range are kept within the menu for insertion and ignored otherwise.
 class VAPP_EXPORT CMenu : public CObject {
 public:
     struct TItem {
@@ -82,6 +83,7 @@ public:
 
 private:
     [[nodiscard]] TItem* Find(UINT id);
+    [[nodiscard]] int PositionOf(const TItem& item) const;
     TItem& Place(int position, TItem item);
 
     std::vector<TItem> m_items;

@@ -16,6 +16,7 @@ public:
     /// The picture shown; null clears. Not owned: whoever gives it keeps it alive while it is shown.
     void SetImage(HBITMAP bitmap);
     [[nodiscard]] HBITMAP GetImage() const { return m_image; }
+    [[nodiscard]] bool TakesFocus() const override { return false; }
 
 protected:
     std::unique_ptr<Peer> CreatePeer(PeerFactory& factory) override;

@@ -85,6 +85,9 @@ public:
     void SetFocus();
     /// `SetFocus` as the peer reports it.
     void FocusedByPeer(bool focused);
+    /// Whether keys mean something here at the moment: a window that exists, is shown and enabled. Controls
+    /// that only show say no.
+    [[nodiscard]] virtual bool TakesFocus() const;
 
     /// While off, the peer isn't told of changes; turning it on tells all of them at once and paints anew.
     void SetRedraw(bool redraw);
@@ -133,16 +136,20 @@ protected:
     /// Makes the peer of this kind of window; the base makes none.
     virtual std::unique_ptr<Peer> CreatePeer(PeerFactory& factory);
 
+    /// The child that had the keyboard last, itself or a window in it; null if none had it that still exists.
+    [[nodiscard]] CWnd* GetLastFocusedChild() const { return m_lastFocusedChild; }
     /// Tells the peer, unless redraw is off.
     void TellPeer(UINT changes);
 
 private:
+    void FocusCame();
     void Place(const CRect& rect, bool tellPeer);
     void DestroyChildren();
     void RemoveChild(CWnd* child);
 
     CWnd* m_parent = nullptr;
     std::vector<CWnd*> m_children;
+    CWnd* m_lastFocusedChild = nullptr;  ///< one of the children, or null
     std::unique_ptr<Peer> m_peer;
     CString m_text;
     CString m_accessibleName;
