@@ -47,6 +47,13 @@ bool IsWritableFolder(const std::filesystem::path& folder) {
     return !hasPlainName || QFileInfo(QString::fromStdString(name)).isWritable();
 }
 
+/// What the user sees as the library's path: whole, though the program was started with "." or "../chip".
+std::string WholePathOf(const Library& library) {
+    std::error_code error;
+    const std::filesystem::path whole = std::filesystem::weakly_canonical(library.folder, error);
+    return gDisplayName(error ? library.folder.native() : whole.native());
+}
+
 bool IsUnresolved(const Library& library) {
     std::error_code error;
     return !library.isReadable || !std::filesystem::is_directory(library.folder, error);
@@ -151,8 +158,7 @@ int DatabaseCommand::AllLibs(Tcl_Interp* interp, TclWords) {
         Tcl_Obj* const entry = Tcl_NewListObj(0, nullptr);
         Tcl_ListObjAppendElement(nullptr, entry, gTclText(design.name));
         for (const Library& library : design.libraries) {
-            Tcl_Obj* const pair[2] = {gTclText(library.name),
-                                      gTclText(gDisplayName(library.folder.native()))};
+            Tcl_Obj* const pair[2] = {gTclText(library.name), gTclText(WholePathOf(library))};
             Tcl_ListObjAppendElement(nullptr, entry, Tcl_NewListObj(2, pair));
         }
         Tcl_ListObjAppendElement(nullptr, designs, entry);

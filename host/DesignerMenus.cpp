@@ -9,6 +9,7 @@
 #include "host/TclList.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TLibraryBrowser.h"
+#include "vapp/celllist/TCellListCommand.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/toolkit/CTabCtrl.h"
 
@@ -18,8 +19,6 @@ using namespace vapp_library_browser;
 
 namespace {
 
-/// The number of the list's fixed item "Select Hierarchy", which a host gives its meaning.
-constexpr UINT cnSelectHierarchy = 40659;
 /// Of more selected views than these it is not asked what they are: their items are all enabled then.
 constexpr int cnMostAsked = 1000;
 
@@ -165,7 +164,7 @@ void DesignerMenus::BuildCellMenu() {
     AddScriptItems(items, m_parts.script.ItemsOf(TMenuPlace::Cells), true);
     items.push_back(Separator());
     gAddCellItems(m_parts.browser, items);
-    m_parts.browser.SetCommandHandler(cnSelectHierarchy, "cell selecthierarchy", StyleFocusedLcv);
+    m_parts.browser.SetCommandHandler(SelectHierarchy, "cell selecthierarchy", StyleFocusedLcv);
 }
 
 void DesignerMenus::BuildLibraryMenu() {

@@ -15,6 +15,7 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <QStatusBar>
+#include <QToolTip>
 #include <utility>
 
 #include "host/OpenMenus.h"
@@ -93,6 +94,7 @@ QtShell::~QtShell() {
     }
     m_navigator.User().SetConsoleHandler(nullptr);
     m_navigator.User().SetMenuHandler(nullptr);
+    m_navigator.User().SetTipHandler(nullptr);
     m_navigator.Commands().Log().SetHandler(nullptr);
     m_navigator.Cells().SetOpenHandler(nullptr);
     m_navigator.Menus().SetTabNameQuestion(nullptr);
@@ -190,6 +192,11 @@ void QtShell::ConnectMenus(QMainWindow& window) {
         return isTaken ? std::optional(name.toStdString()) : std::nullopt;
     });
     m_navigator.User().SetMenuHandler(&OpenMenuList);
+    m_navigator.User().SetTipHandler([this] {
+        const bool isTold = m_status != nullptr && !m_status->isHidden();
+        return UserCommand::Tips{QToolTip::text().toStdString(),
+                                 isTold ? m_status->Text().toStdString() : std::string()};
+    });
 }
 
 // One key brings the keyboard to the console wherever it is, and from there away again.

@@ -16,6 +16,8 @@ public:
     void Tell(const QString& text);
     /// The same, and the line goes by itself after a while.
     void TellForAWhile(const QString& text);
+    /// The whole text that was told last.
+    [[nodiscard]] const QString& Text() const { return m_text; }
     /// Stays at its edge.
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -106,10 +106,17 @@ const SubCommandRow<UserCommand> UserCommand::csSubCommands[] = {
       "directions), rows (their number), cell (of the focus: library, cell, view), heights (of the panes), "
       "window (left, top, width and height of its inner area), filter (the sub-string), type (of the "
       "filter), setup (the arrangement of columns), columns (captions and widths of those that are shown), "
-      "status (the line below the list)."},
+      "status (the line below the list), drag (1 while a cell is dragged)."},
      0,
      0,
      &UserCommand::State},
+    {{"tip", "user tip",
+      "What explains itself at the moment, as a dictionary: tip (beside the pointer), message (at the lower "
+      "edge "
+      "of the window)."},
+     0,
+     0,
+     &UserCommand::Tip},
     {{"type", "user type TEXT", "Types a text into the console and sends it."}, 1, 1, &UserCommand::Type},
     {{nullptr, nullptr, nullptr}, 0, 0, nullptr}};
 
@@ -191,6 +198,15 @@ int UserCommand::Menu(Tcl_Interp* interp, TclWords) {
     return TCL_OK;
 }
 
+int UserCommand::Tip(Tcl_Interp* interp, TclWords) {
+    const Tips tips = m_tips ? m_tips() : Tips();
+    Tcl_Obj* const dictionary = Tcl_NewDictObj();
+    Put(dictionary, "tip", gTclText(tips.tip));
+    Put(dictionary, "message", gTclText(tips.message));
+    Tcl_SetObjResult(interp, dictionary);
+    return TCL_OK;
+}
+
 int UserCommand::Place(Tcl_Interp* interp, TclWords words) {
     int target = 0;
     int number = 0;
@@ -255,6 +271,7 @@ int UserCommand::State(Tcl_Interp* interp, TclWords) {
     Put(state, "columns", ColumnList(cells->GetReport().GetColumns()));
     Put(state, "status",
         NativeObject(cells->GetDlgItem(vapp_library_browser::TCellListView::cnStatus)->GetWindowText()));
+    Put(state, "drag", Tcl_NewIntObj(cells->GetReport().IsInDragDrop() ? 1 : 0));
     Tcl_SetObjResult(interp, state);
     return TCL_OK;
 }

@@ -32,6 +32,14 @@ public:
     /// Asked for the items of the open menus, as a list; without a handler none is open.
     void SetMenuHandler(std::function<Tcl_Obj*()> handler) { m_menus = std::move(handler); }
 
+    /// Texts that explain what is under the pointer.
+    struct Tips {
+        std::string tip;      ///< beside the pointer
+        std::string message;  ///< at the lower edge of the window
+    };
+    /// Asked for the texts that are seen; without a handler there are none.
+    void SetTipHandler(std::function<Tips()> handler) { m_tips = std::move(handler); }
+
     /// All sub-commands, by name.
     static std::span<const CommandHelp> Help();
 
@@ -45,6 +53,7 @@ private:
     int Resize(Tcl_Interp* interp, TclWords words);
     int Settle(Tcl_Interp* interp, TclWords words);
     int State(Tcl_Interp* interp, TclWords words);
+    int Tip(Tcl_Interp* interp, TclWords words);
     int Type(Tcl_Interp* interp, TclWords words);
 
     int ClickLibrary(Tcl_Interp* interp, Tcl_Obj* library, bool isAdding);
@@ -56,6 +65,7 @@ private:
     std::function<void()> m_settle;
     std::function<void(const std::string&)> m_console;
     std::function<Tcl_Obj*()> m_menus;
+    std::function<Tips()> m_tips;
     TclCommand m_command;
 };
 

@@ -35,3 +35,7 @@ UINT COleDataSource::DoDragDrop(UINT effects, const CRect& start) {
 void COleDataSource::InstallDragRunner(TDragRunner runner) {
     DragRunner() = std::move(runner);
 }
+
+const COleDataSource::TDragRunner& COleDataSource::GetDragRunner() {
+    return DragRunner();
+}

@@ -47,6 +47,13 @@ TEST_F(DatabaseCommandTest, AllLibsNamesDesignsAndPairsOfLibraryAndFolder) {
     EXPECT_EQ(m_interp.Answer("lindex $answer 0 1"), "lib " + (m_folder.Path() / "d/lib").string());
 }
 
+TEST_F(DatabaseCommandTest, AllLibsTellsWholePathsWhateverTheDesignWasOpenedBy) {
+    ASSERT_FALSE(m_store.OpenFolder(m_folder.Path() / "d" / ".." / "." / "d"));
+    m_interp.Answer("set answer [database all_libs]");
+    EXPECT_EQ(m_interp.Answer("lindex $answer 1 1 1"),
+              std::filesystem::canonical(m_folder.Path() / "d/lib").string());
+}
+
 TEST_F(DatabaseCommandTest, ViewTextAnswersEveryKeyAndRefusesOthers) {
     const auto text = [this](const std::string& key) {
         return m_interp.Answer("database viewtext " + key + " d lib inv schematic");

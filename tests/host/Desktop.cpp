@@ -111,6 +111,11 @@ std::optional<QString> DesktopProgram::WaitFor(const QString& word,
     return m_lastLine.mid(word.size() + 1);
 }
 
+void DesktopProgram::Say(const QString& line) {
+    m_process.write((line + QLatin1Char('\n')).toUtf8());
+    m_process.waitForBytesWritten(cnLimit);
+}
+
 int DesktopProgram::WaitForEnd() {
     if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(cnLimit)) return -1;
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
@@ -132,6 +137,25 @@ bool DesktopProgram::Focus() {
 
 std::string DesktopProgram::Errors() {
     return m_process.readAllStandardError().toStdString();
+}
+
+std::optional<QPoint> gStartTextTarget(DesktopProgram& program) {
+    program.StartProgram(QStringLiteral(TEXT_TARGET), {});
+    const auto place = program.WaitFor(QStringLiteral("places"), [](const QString&) { return true; });
+    if (!place) return std::nullopt;
+    const QStringList numbers = place->split(QLatin1Char(' '));
+    return numbers.size() == 2 ? std::optional(QPoint(numbers[0].toInt(), numbers[1].toInt())) : std::nullopt;
+}
+
+std::optional<QString> gNextDroppedText(DesktopProgram& textTarget) {
+    return textTarget.WaitFor(QStringLiteral("text"), [](const QString&) { return true; });
+}
+
+bool gAwaitDropTaken(DesktopProgram& textTarget) {
+    return textTarget
+        .WaitFor(QStringLiteral("ready"),
+                 [](const QString& answer) { return answer == QLatin1String("yes"); })
+        .has_value();
 }
 
 }  // namespace navigator_test

@@ -2,6 +2,7 @@
 /// A desktop of its own for a test: an X server without a screen, real mouse and keys, and programs on it.
 /// Nothing waits for a time: each wait is for a condition, with a limit that no sane machine reaches.
 
+#include <QPoint>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -46,6 +47,8 @@ public:
     /// Waits for a line of the standard output that begins with the word and is what is wanted; gives what
     /// follows the word. Lines that have gone by count if none came after them.
     std::optional<QString> WaitFor(const QString& word, const std::function<bool(const QString&)>& isWanted);
+    /// Writes a line to the program's standard input.
+    void Say(const QString& line);
     /// Waits for the end; the exit status, -1 for a violent end or none.
     int WaitForEnd();
     void Kill();
@@ -61,5 +64,12 @@ private:
     QString m_unread;
     QString m_lastLine;
 };
+
+/// Starts the program that takes any text (TEXT_TARGET at the build of the test); the middle of its field.
+std::optional<QPoint> gStartTextTarget(DesktopProgram& program);
+/// Waits for the text that is dropped there next; nothing if the program ends before.
+std::optional<QString> gNextDroppedText(DesktopProgram& textTarget);
+/// Waits until what is dragged may be dropped there.
+bool gAwaitDropTaken(DesktopProgram& textTarget);
 
 }  // namespace navigator_test

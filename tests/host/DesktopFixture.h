@@ -21,8 +21,8 @@ set ::told {}
 set ::typed {}
 navigator onidle {
     set now [user state]
-    foreach place {{library logic} {library top} {header View} {bar 0} {bar 1}
-                   {row 0} {row 2} {control 7718}} {
+    foreach place {{library logic} {library top} {library {my parts}} {header View} {bar 0} {bar 1}
+                   {row 0} {row 1} {row 2} {pane 2} {control 7718}} {
         dict set now $place [user place {*}$place]
     }
     dict set now typed $::typed

@@ -147,5 +147,12 @@ TEST_F(UserCommandTest, OpenMenusAreToldByWhoeverShowsThem) {
     EXPECT_EQ(Answer("user menu"), "");
 }
 
+TEST_F(UserCommandTest, TipsAreToldByWhoeverShowsThem) {
+    EXPECT_EQ(Answer("user tip"), "tip {} message {}");
+    m_navigator.User().SetTipHandler([] { return UserCommand::Tips{"/libs/a b", "told"}; });
+    EXPECT_EQ(Answer("dict get [user tip] tip"), "/libs/a b");
+    EXPECT_EQ(Answer("dict get [user tip] message"), "told");
+}
+
 }  // namespace
 }  // namespace navigator_test

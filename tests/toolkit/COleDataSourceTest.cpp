@@ -60,6 +60,19 @@ TEST(COleDataSource, OnlyAnOfferedEffectCounts) {
     EXPECT_EQ(source.DoDragDrop(cnDropCopy | cnDropLink, {2, 0, 9, 9}), cnDropNone);
 }
 
+TEST(COleDataSource, AFunctionMayBePutAroundTheInstalledOne) {
+    const DragRunnerGuard runner([](COleDataSource&, UINT, const CRect&) { return cnDropLink; });
+    UINT heard = cnDropNone;
+    COleDataSource::InstallDragRunner([&heard, inner = COleDataSource::GetDragRunner()](
+                                          COleDataSource& source, UINT effects, const CRect& start) {
+        heard = inner(source, effects, start);
+        return heard;
+    });
+    COleDataSource source;
+    EXPECT_EQ(source.DoDragDrop(cnDropCopy | cnDropLink, {}), cnDropLink);
+    EXPECT_EQ(heard, cnDropLink);
+}
+
 TEST(COleDataSource, AnAdapterMayGoInTheMiddleOfADrag) {
     const DragRunnerGuard runner([kept = std::string(64, 'x')](COleDataSource&, UINT, const CRect&) {
         COleDataSource::InstallDragRunner({});

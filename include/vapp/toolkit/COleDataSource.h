@@ -57,6 +57,8 @@ public:
 
     /// Installs an adapter's function for all sources, or none by an empty one.
     static void InstallDragRunner(TDragRunner runner);
+    /// What is installed, for one who puts a function around it.
+    [[nodiscard]] static const TDragRunner& GetDragRunner();
 
 private:
     std::shared_ptr<TData> m_data;

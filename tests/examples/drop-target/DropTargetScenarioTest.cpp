@@ -10,11 +10,15 @@
 
 #include "tests/host/Desktop.h"
 #include "tests/host/TempFolder.h"
+#include "vapp/toolkit/COleDataSource.h"
 
 namespace {
 
 using navigator_test::Desktop;
 using navigator_test::DesktopProgram;
+using navigator_test::gAwaitDropTaken;
+using navigator_test::gNextDroppedText;
+using navigator_test::gStartTextTarget;
 
 class DropTargetTest : public testing::Test {
 protected:
@@ -71,7 +75,9 @@ protected:
     std::string Drop() {
         const bool released = s_desktop->Do({QStringLiteral("mouseup"), QStringLiteral("1")}).has_value();
         const auto told = m_navigator->WaitFor(QStringLiteral("placed"), [](const QString&) { return true; });
-        if (!released || !told || !Hear("drag", "over")) return "none: " + m_navigator->Errors();
+        const QString copy = QString::number(cnDropCopy);
+        if (!released || !told || !Hear("effect", qPrintable(copy)) || !Hear("drag", "over"))
+            return "none: " + m_navigator->Errors();
         return told->toStdString();
     }
 
@@ -96,6 +102,10 @@ protected:
         ASSERT_TRUE(s_desktop->Do({QStringLiteral("key"), QLatin1String(key)}));
     }
 
+    void CloseTheNavigator() {
+        m_navigator->Say(QStringLiteral("close"));
+        ASSERT_TRUE(Hear("navigator", "closed")) << m_navigator->Errors();
+    }
     static constexpr int cnSteps = 12;
     static std::unique_ptr<Desktop> s_desktop;
     navigator_test::TempFolder m_home;
@@ -119,25 +129,59 @@ TEST_F(DropTargetTest, TheCanvasOfTheSameProgramReadsTheSixFields) {
 
 TEST_F(DropTargetTest, AnotherProgramGetsTheNamesAsText) {
     DesktopProgram other(*s_desktop, m_home.Path());
-    other.StartProgram(QStringLiteral(TEXT_TARGET), {});
-    const auto place = other.WaitFor(QStringLiteral("places"), [](const QString&) { return true; });
-    ASSERT_TRUE(place) << other.Errors();
-    const QStringList numbers = place->split(QLatin1Char(' '));
-    Drag(Row(3), {numbers[0].toInt(), numbers[1].toInt()});
-    ASSERT_TRUE(other.WaitFor(QStringLiteral("ready"),
-                              [](const QString& answer) { return answer == QStringLiteral("yes"); }));
+    const auto field = gStartTextTarget(other);
+    ASSERT_TRUE(field) << other.Errors();
+    Drag(Row(3), *field);
+    ASSERT_TRUE(gAwaitDropTaken(other)) << other.Errors();
     Release();
-    const auto text = other.WaitFor(QStringLiteral("text"), [](const QString&) { return true; });
-    ASSERT_TRUE(text) << other.Errors();
-    EXPECT_EQ(*text, QStringLiteral("\"my io pad in layout\""));
+    // The format of this process has a name there, and nothing behind it.
+    EXPECT_TRUE(other.WaitFor(QStringLiteral("bytes"), [](const QString& count) {
+        return count == QLatin1String("0");
+    })) << other.Errors();
+    EXPECT_EQ(gNextDroppedText(other), QStringLiteral("\"my io pad in layout\"")) << other.Errors();
 }
 
 TEST_F(DropTargetTest, ADropOnTheListItselfIsRefused) {
     Drag(Row(0), Row(2));
-    Release();
+    ASSERT_TRUE(s_desktop->Do({QStringLiteral("mouseup"), QStringLiteral("1")}));
+    EXPECT_TRUE(Hear("effect", "0")) << m_navigator->Errors();
+    ASSERT_TRUE(Hear("drag", "over")) << m_navigator->Errors();
     // What is told next is the drop that follows.
     Drag(Row(1), MiddleOfCanvas());
     EXPECT_EQ(Drop(), R"("chip" "logic" "nand2" "symbol" "" left)");
+}
+
+TEST_F(DropTargetTest, ADragGoesOnWhileTheRowsAreFetchedAnew) {
+    Drag(Row(3), MiddleOfCanvas());
+    m_navigator->Say(QStringLiteral("refresh"));
+    m_places = PlacesTold("places", 6);
+    ASSERT_EQ(m_places.size(), 6u) << m_navigator->Errors();
+    EXPECT_EQ(Drop(), R"("chip" "my io" "pad in" "layout" "" left)");
+    Drag(Row(4), MiddleOfCanvas());
+    EXPECT_EQ(Drop(), R"("chip" "my io" "pad in" "layout" "" left)") << "a new cell stands before it";
+    Drag(Row(0), MiddleOfCanvas());
+    EXPECT_EQ(Drop(), R"("chip" "logic" "and2" "symbol" "" left)");
+}
+
+// The panes' objects wait for the end of the drag, and what is dragged with them.
+TEST_F(DropTargetTest, ADragGoesOnWhenItsListEnds) {
+    Drag(Row(3), MiddleOfCanvas());
+    CloseTheNavigator();
+    EXPECT_EQ(Drop(), R"("chip" "my io" "pad in" "layout" "" left)");
+    m_navigator->Say(QStringLiteral("count"));
+    EXPECT_TRUE(Hear("count", "1")) << "and the program goes on";
+}
+
+TEST_F(DropTargetTest, ADragWhoseListEndsIsStillTextToAnotherProgram) {
+    DesktopProgram other(*s_desktop, m_home.Path());
+    const auto field = gStartTextTarget(other);
+    ASSERT_TRUE(field) << other.Errors();
+    Drag(Row(3), MiddleOfCanvas());
+    CloseTheNavigator();
+    ASSERT_TRUE(s_desktop->Do(At(*field) + At(*field + QPoint(1, 1)) + At(*field)));
+    ASSERT_TRUE(gAwaitDropTaken(other)) << other.Errors();
+    Release();
+    EXPECT_EQ(gNextDroppedText(other), QStringLiteral("\"my io pad in layout\"")) << other.Errors();
 }
 
 TEST_F(DropTargetTest, EscapeEndsADragWithoutADrop) {
