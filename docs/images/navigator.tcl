@@ -7,4 +7,7 @@ navigator onidle {
     user type {database cells -lcv -library sample -libraries top}
     user type "foreach library {logic basic} {\n    puts \[database cells -lcv -library sample -libraries \$library -count]\n}"
     user type {database select logic dff schematic}
+    user settle
+    # As picking "Select Hierarchy" from the menu sends it.
+    logaction {cell selecthierarchy sample logic dff schematic}
 }
