@@ -2,22 +2,20 @@
 /// When the question is asked, and its words.
 #include "vapp/app/TPreferenceMgr.h"
 
-#include "vapp/text/Translate.h"
+#include "text/TranslatedText.h"
 #include "vapp/toolkit/TMessageBox.h"
+
+using vapp_text::TranslatedText;
 
 namespace prefs {
 
 namespace {
 
-CStringU Translated(const char* key) {
-    return {vlang::gTranslate(key), TextEncoding::Utf8Auto};
-}
-
 bool IsAgreed() {
-    TMessageBox box(nullptr, Translated("__$$Translatable$$_Reserve"),
-                    Translated("__$$Translatable$$_Do you want to reserve the cellview?"),
+    TMessageBox box(nullptr, TranslatedText("__$$Translatable$$_Reserve"),
+                    TranslatedText("__$$Translatable$$_Do you want to reserve the cellview?"),
                     MB_OKCANCEL | MB_ICONQUESTION);
-    box.SetButtonTexts({Translated("__$$Translatable$$_&Yes"), Translated("__$$Translatable$$_&No")});
+    box.SetButtonTexts({TranslatedText("__$$Translatable$$_&Yes"), TranslatedText("__$$Translatable$$_&No")});
     return box.DoModal() == IDOK;
 }
 

@@ -6,16 +6,16 @@
 
 #include <array>
 
+#include "toolkit/DialogItems.h"
 #include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/TProfileSection.h"
-#include "vapp/text/Translate.h"
 
 namespace vapp_library_browser {
 
 namespace {
 
 // In the order in which the keyboard walks.
-constexpr std::array<DialogItem, 5> cnItems = {{
+constexpr std::array<DialogItem, 5> cnExcludeItems = {{
     {CExcludeDlg::cnEditId, {12, 36, 388, 168}},
     {CExcludeDlg::cnResetId, {12, 180, 152, 208}, "__$$Translatable$$_Reset to default"},
     {IDOK, {212, 180, 294, 208}, "__$$Translatable$$_OK"},
@@ -24,16 +24,12 @@ constexpr std::array<DialogItem, 5> cnItems = {{
      {12, 10, 388, 32},
      "__$$Translatable$$_View names to filter out of cell view list:"},
 }};
-constexpr DialogTemplate cnTemplate = {CExcludeDlg::cnDialog, {400, 220}, cnItems};
-
-CString WindowText(const char* key) {
-    return CStringU(vlang::gTranslate(key), TextEncoding::Utf8Auto).ToAnsi();
-}
+constexpr DialogTemplate cnExcludeTemplate = {CExcludeDlg::cnDialog, {400, 220}, cnExcludeItems};
 
 }  // namespace
 
-CExcludeDlg::CExcludeDlg(CWnd* owner) : CDialog(cnTemplate, owner) {
-    SetWindowText(WindowText("__$$Translatable$$_Exclude These View Names"));
+CExcludeDlg::CExcludeDlg(CWnd* owner) : CDialog(cnExcludeTemplate, owner) {
+    SetWindowText(gTranslateWindowText("__$$Translatable$$_Exclude These View Names"));
     m_edit.SetMultiLine(true);
 }
 
@@ -44,9 +40,9 @@ CExcludeDlg::~CExcludeDlg() {
 
 void CExcludeDlg::OnCreate() {
     CDialog::OnCreate();
-    const std::array<CWnd*, cnItems.size()> controls = {&m_edit, &m_reset, &m_ok, &m_cancel, &m_label};
+    const std::array<CWnd*, cnExcludeItems.size()> controls = {&m_edit, &m_reset, &m_ok, &m_cancel, &m_label};
     for (std::size_t i = 0; i < controls.size(); ++i)
-        CreateItem(*controls[i], cnItems[i].id);
+        CreateItem(*controls[i], cnExcludeItems[i].id);
     m_edit.SetAccessibleName(m_label.GetWindowText());
 }
 
@@ -84,13 +80,13 @@ bool CExcludeDlg::OnNotify(Notification& notification, LRESULT& result) {
 void CExcludeDlg::OnSize(UINT type, int cx, int cy) {
     CDialog::OnSize(type, cx, cy);
     if (type == cnSizeMinimized || !m_label.IsWindow()) return;
-    const int wider = cx - cnTemplate.size.cx;
-    const int higher = cy - cnTemplate.size.cy;
-    const CRect edit = cnItems[0].rect;
+    const int wider = cx - cnExcludeTemplate.size.cx;
+    const int higher = cy - cnExcludeTemplate.size.cy;
+    const CRect edit = cnExcludeItems[0].rect;
     m_edit.MoveWindow({edit.left, edit.top, edit.right + wider, edit.bottom + higher});
-    m_reset.MoveWindow(cnItems[1].rect.Offset({0, higher}));
-    m_ok.MoveWindow(cnItems[2].rect.Offset({wider, higher}));
-    m_cancel.MoveWindow(cnItems[3].rect.Offset({wider, higher}));
+    m_reset.MoveWindow(cnExcludeItems[1].rect.Offset({0, higher}));
+    m_ok.MoveWindow(cnExcludeItems[2].rect.Offset({wider, higher}));
+    m_cancel.MoveWindow(cnExcludeItems[3].rect.Offset({wider, higher}));
 }
 
 }  // namespace vapp_library_browser

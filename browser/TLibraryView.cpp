@@ -20,12 +20,12 @@ namespace vapp_library_browser {
 namespace {
 
 // The frame stands two margins below the combo box, so that a margin is left below it as well.
-constexpr std::array<DialogItem, 3> cnItems = {{
+constexpr std::array<DialogItem, 3> cnLibraryItems = {{
     {TLibraryView::cnDesignComboId, {4, 4, 236, 28}},
     {TLibraryView::cnFrameId, {4, 36, 236, 196}},
     {TLibraryView::cnLibraryListId, {5, 37, 235, 195}},
 }};
-constexpr DialogTemplate cnTemplate = {TLibraryView::cnDialog, {240, 200}, cnItems};
+constexpr DialogTemplate cnLibraryTemplate = {TLibraryView::cnDialog, {240, 200}, cnLibraryItems};
 
 // What the column leaves free for a vertical scroll bar. A number and not the desktop's own width: the logic
 // counts in pixels of its own, which a peer scales, and a bar that is a little wider just hides a blank edge.
@@ -63,7 +63,7 @@ void StopWatchingInterp(Tcl_Interp*& pointer) {
 
 }  // namespace
 
-TLibraryView::TLibraryView() : CFormView(cnTemplate) {}
+TLibraryView::TLibraryView() : CFormView(cnLibraryTemplate) {}
 
 TLibraryView::~TLibraryView() {
     DestroyWindow();

@@ -17,15 +17,15 @@ namespace vapp_library_browser {
 namespace {
 
 // Left and top of the picture are the margins of every layout.
-constexpr std::array<DialogItem, 2> cnItems = {{
+constexpr std::array<DialogItem, 2> cnPreviewItems = {{
     {TSymbolPreview::cnPictureId, {4, 4, 236, 172}},
     {TSymbolPreview::cnCaptionId, {4, 176, 236, 196}},
 }};
-constexpr DialogTemplate cnTemplate = {TSymbolPreview::cnDialog, {240, 200}, cnItems};
+constexpr DialogTemplate cnPreviewTemplate = {TSymbolPreview::cnDialog, {240, 200}, cnPreviewItems};
 
 }  // namespace
 
-TSymbolPreview::TSymbolPreview() : CFormView(cnTemplate) {}
+TSymbolPreview::TSymbolPreview() : CFormView(cnPreviewTemplate) {}
 
 TSymbolPreview::~TSymbolPreview() {
     DestroyWindow();

@@ -13,6 +13,7 @@
 #include "celllist/CellMenu.h"
 #include "celllist/CellRows.h"
 #include "celllist/OptionCommands.h"
+#include "text/TranslatedText.h"
 #include "vapp/browser/CExcludeDlg.h"
 #include "vapp/browser/ExcludeViewNames.h"
 #include "vapp/browser/HostCallScope.h"
@@ -22,8 +23,9 @@
 #include "vapp/browser/TclBridge.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/celllist/TCellNamesReportCtrl.h"
-#include "vapp/text/Translate.h"
 #include "vapp/toolkit/CMenu.h"
+
+using vapp_text::TranslatedText;
 
 namespace vapp_library_browser {
 
@@ -37,10 +39,6 @@ constexpr std::array cnOptionCommands = {
 constexpr std::array cnSetupCommands = {UseSetup1, UseSetup2, UseSetup3};
 // The schematic editor shows all cells, in one colour.
 constexpr std::array cnNotForSchematicEditor = {ShowHiddenCells, ShowVias, ColorHiddenCells};
-
-CStringU Translated(const char* key) {
-    return {vlang::gTranslate(key), TextEncoding::Utf8Auto};
-}
 
 }  // namespace
 
@@ -66,7 +64,7 @@ std::optional<std::set<CStringIU>> TReport::AskViewNames() const {
 void TReport::CreateViewNameFilterMenu(CMenu* menu, const std::set<CStringIU>& views) const {
     if (menu == nullptr) return;
     menu->RemoveAt(0);
-    menu->Append(AllViewNames, Translated("__$$Translatable$$_Show All View-names"));
+    menu->Append(AllViewNames, TranslatedText("__$$Translatable$$_Show All View-names"));
     menu->Check(AllViewNames, m_options.viewFilter.empty());
     menu->AppendSeparator();
     UINT id = cnBaseID;

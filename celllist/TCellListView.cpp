@@ -6,12 +6,12 @@
 #include <array>
 
 #include "celllist/FilterHistory.h"
+#include "toolkit/DialogItems.h"
 #include "vapp/browser/HostCallScope.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TLibraryView.h"
 #include "vapp/browser/TSymbolPreview.h"
 #include "vapp/browser/TclBridge.h"
-#include "vapp/text/Translate.h"
 #include "vapp/toolkit/CWinAppEx.h"
 
 namespace vapp_library_browser {
@@ -24,7 +24,7 @@ constexpr int cnMargin = 4;
 // The answer of `database filter` is read as a byte, and hosts rely on it.
 constexpr int cnFilterAnswerMask = 0xFF;
 
-constexpr std::array cnItems = {
+constexpr std::array cnCellListItems = {
     DialogItem{TCellListView::cnFilterCombo, {4, 4, 84, 28}},
     DialogItem{TCellListView::cnFilterEdit, {88, 4, 208, 28}},
     DialogItem{TCellListView::cnFilterButton, {208, 4, 232, 28}},
@@ -32,7 +32,7 @@ constexpr std::array cnItems = {
     DialogItem{TCellListView::cnTabs, {4, 236, 232, 260}},
     DialogItem{TCellListView::cnStatus, {4, 264, 232, 280}},
 };
-const DialogTemplate cnTemplate{cnDialog, {236, 284}, cnItems};
+const DialogTemplate cnCellListTemplate{cnDialog, {236, 284}, cnCellListItems};
 
 // Names for assistive technology.
 struct ControlName {
@@ -47,14 +47,10 @@ constexpr std::array cnNames = {
     ControlName{TCellListView::cnStatus, "__$$Translatable$$_Number of cells"},
 };
 
-CString WindowText(const char* key) {
-    return CStringU(vlang::gTranslate(key), TextEncoding::Utf8Auto).ToAnsi();
-}
-
 }  // namespace
 
 TCellListView::TCellListView()
-    : CFormView(cnTemplate), m_report(*this), m_filterHistory(std::make_unique<FilterHistory>()) {}
+    : CFormView(cnCellListTemplate), m_report(*this), m_filterHistory(std::make_unique<FilterHistory>()) {}
 
 TCellListView::~TCellListView() {
     // While the controls are still there to be told.
@@ -71,12 +67,12 @@ void TCellListView::OnCreate() {
     CreateItem(m_status, cnStatus);
     ShowFilterButton(true);
     m_tabs.SetMinWidthText("WWW");
-    m_filterEdit.SetCueText(WindowText("__$$Translatable$$_Filter cells"));
+    m_filterEdit.SetCueText(gTranslateWindowText("__$$Translatable$$_Filter cells"));
     while (m_tabs.GetItemCount() < cnTabCount)
         m_tabs.InsertItem(m_tabs.GetItemCount(), "");
-    SetAccessibleName(WindowText("__$$Translatable$$_Cell list"));
+    SetAccessibleName(gTranslateWindowText("__$$Translatable$$_Cell list"));
     for (const ControlName& name : cnNames) {
-        if (CWnd* control = GetDlgItem(name.id)) control->SetAccessibleName(WindowText(name.key));
+        if (CWnd* control = GetDlgItem(name.id)) control->SetAccessibleName(gTranslateWindowText(name.key));
     }
 }
 

@@ -1,11 +1,14 @@
 /// @file
-/// How long connections wait. Fixed for hosts; tests shorten them, so that a worker that never comes costs
-/// milliseconds.
+/// How long connections wait, and how much they read for a keyword. Fixed for hosts; tests shorten them, so
+/// that a worker that never comes costs milliseconds.
 #pragma once
 
 #include <chrono>
 
 namespace vapp_connection {
+
+/// The most bytes that a keyword is read for; a longer one never matches.
+inline constexpr int cnKeywordBuffer = 4096;
 
 struct Limits {
     /// Each wait for a socket: for the worker, for its next bytes, for room to send.

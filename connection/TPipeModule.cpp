@@ -13,6 +13,7 @@
 #include "platform/Pipe.h"
 #include "platform/World.h"
 
+using vapp_connection::cnKeywordBuffer;
 using vapp_platform::OwnedHandle;
 using vapp_platform::PipeReader;
 using vapp_platform::PipeWriter;
@@ -29,9 +30,6 @@ struct TPipeModule::TPipes {
 };
 
 namespace {
-
-// What is looked at for the keyword at most.
-constexpr std::int64_t cnKeywordBuffer = 4096;
 
 // By bytes, here and where the answer is drawn from it: decoded, bytes that are no text would be equal to
 // others, and the reading would stop elsewhere than the comparison.
@@ -150,13 +148,13 @@ int TPipeModule::ReadKeyword(CStringU& received, CStringU& message) {
         if (available < wanted) std::this_thread::sleep_for(limits.pipePause);
     }
     if (available < wanted) return 0;
-    available = std::min(available, cnKeywordBuffer);
+    available = std::min<std::int64_t>(available, cnKeywordBuffer);
 
     // Byte by byte behind the first read: what follows the keyword belongs to Recv.
     char buffer[cnKeywordBuffer + 1] = {};
     std::int64_t count = 0;
     do {
-        const std::int64_t next = count == 0 ? std::min(wanted, cnKeywordBuffer) : 1;
+        const std::int64_t next = count == 0 ? std::min<std::int64_t>(wanted, cnKeywordBuffer) : 1;
         const Transfer got = m_pipes->stdOutRead->Read(buffer + count, static_cast<std::size_t>(next));
         if (got.Failed()) {
             message = CStringU::Formatted("Read Keyword failed with error: %d\n", got.code);

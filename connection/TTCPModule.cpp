@@ -20,6 +20,7 @@
 #include "platform/ChildEnvironment.h"
 #include "platform/Socket.h"
 
+using vapp_connection::cnKeywordBuffer;
 using vapp_platform::ListenStep;
 using vapp_platform::Socket;
 using vapp_platform::SocketWait;
@@ -27,9 +28,6 @@ using vapp_platform::Transfer;
 using vapp_platform::WaitAnswer;
 
 namespace {
-
-// The most that a keyword is read for; a longer one never matches.
-constexpr int cnKeywordBuffer = 4096;
 
 struct StepMessage {
     ListenStep step;

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "host/Hierarchy.h"
+#include "host/LibraryText.h"
 #include "host/Reservation.h"
 #include "vapp/browser/TLibraryBrowser.h"
 #include "vapp/toolkit/Clipboard.h"
@@ -19,12 +20,8 @@ using vapp_library_browser::TLibCellView;
 
 namespace {
 
-CStringU TextOf(const std::string& utf8) {
-    return {utf8.c_str(), TextEncoding::Utf8Auto};
-}
-
 TLibCellView KeyOf(const std::string& library, const std::string& cell, const std::string& view) {
-    return {TextOf(library), TextOf(cell), TextOf(view)};
+    return {gLibraryText(library), gLibraryText(cell), gLibraryText(view)};
 }
 
 std::string Joined(const CellViewName& name) {
@@ -173,7 +170,7 @@ int CellCommand::CopyFiles(Tcl_Interp* interp, TclWords words) {
         for (const std::filesystem::path& path : m_parts.store.Paths(view))
             text += gDisplayName(path.native()) + '\n';
     }
-    if (!text.empty() && !SetClipboardText(TextOf(text)))
+    if (!text.empty() && !SetClipboardText(gLibraryText(text)))
         return gTclFailure(interp, "the clipboard can't be written");
     return TCL_OK;
 }

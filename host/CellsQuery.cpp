@@ -42,7 +42,7 @@ enum Option {
     TabOption,
     ExcludedOption
 };
-constexpr std::array<const char*, 11> csOptions{
+constexpr std::array<const char*, 11> csQueryOptions{
     "-lcv",   "-library", "-count",        "-filter", "-showhiddencells", "-showvias", "-libraries",
     "-views", "-tab",     "-showexcluded", nullptr};
 
@@ -58,8 +58,8 @@ std::string LowerCase(std::string_view text) {
 
 std::optional<Option> FindOption(Tcl_Obj* word) {
     const std::string_view text = gTextOf(word);
-    for (std::size_t option = 0; csOptions[option] != nullptr; ++option) {
-        if (text == csOptions[option]) return static_cast<Option>(option);
+    for (std::size_t option = 0; csQueryOptions[option] != nullptr; ++option) {
+        if (text == csQueryOptions[option]) return static_cast<Option>(option);
     }
     return std::nullopt;
 }
@@ -109,7 +109,7 @@ private:
                 break;
         }
         if (m_next == m_words.size())
-            return gTclFailure(m_interp, std::string("option ") + csOptions[option] + " needs a value");
+            return gTclFailure(m_interp, std::string("option ") + csQueryOptions[option] + " needs a value");
         Tcl_Obj* const value = m_words[m_next++];
         switch (option) {
             case LibrariesOption:

@@ -21,7 +21,7 @@ constexpr int cnWantedWidth = 400;
 constexpr int cnWantedHeight = 200;
 constexpr int cnMargin = 4;
 
-QString TextOf(const std::string& utf8) {
+QString ShownText(const std::string& utf8) {
     QString text = QString::fromStdString(utf8);
     // A NUL would end what is copied in many programs.
     return text.replace(QChar(0), QChar(0x2400));
@@ -66,8 +66,8 @@ void ConsolePane::Run(const QString& text) {
     m_isStopWanted = false;
     const ConsoleAnswer answer = m_console.Run(text.toStdString());
     m_input->ShowHint(false);
-    if (!answer.output.empty()) Append(TextOf(answer.output), TInk::Written);
-    if (!answer.result.empty()) Append(TextOf(answer.result), answer.isError ? TInk::Error : TInk::Result);
+    if (!answer.output.empty()) Append(ShownText(answer.output), TInk::Written);
+    if (!answer.result.empty()) Append(ShownText(answer.result), answer.isError ? TInk::Error : TInk::Result);
     QScrollBar* const bar = m_output->verticalScrollBar();
     bar->setValue(bar->maximum());
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/CellsQuery.h"
+#include "host/PathText.h"
 #include "host/ViewText.h"
 
 namespace navigator {
@@ -30,11 +31,6 @@ int SetFlag(Tcl_Interp* interp, bool flag) {
     return TCL_OK;
 }
 
-std::filesystem::path PathOf(Tcl_Obj* word) {
-    const std::string_view text = gTextOf(word);
-    return std::filesystem::path(std::u8string(text.begin(), text.end()));
-}
-
 bool IsWritableFolder(const std::filesystem::path& folder) {
     std::error_code error;
     const auto permissions = std::filesystem::status(folder, error).permissions();
@@ -43,7 +39,7 @@ bool IsWritableFolder(const std::filesystem::path& folder) {
     if (error || (permissions & anyWrite) == std::filesystem::perms::none) return false;
     const std::string name = gDisplayName(folder.native());
     // A name that is no UTF-8 cannot be put into a QString; the permissions alone must do for it.
-    const bool hasPlainName = std::filesystem::path(std::u8string(name.begin(), name.end())) == folder;
+    const bool hasPlainName = gPathOf(name) == folder;
     return !hasPlainName || QFileInfo(QString::fromStdString(name)).isWritable();
 }
 
@@ -218,7 +214,7 @@ int DatabaseCommand::LibraryInfo(Tcl_Interp* interp, TclWords words) {
 }
 
 int DatabaseCommand::Open(Tcl_Interp* interp, TclWords words) {
-    if (const std::optional<std::string> failure = m_store.OpenFolder(PathOf(words[0])))
+    if (const std::optional<std::string> failure = m_store.OpenFolder(gPathOf(gTextOf(words[0]))))
         return gTclFailure(interp, *failure);
     Tcl_SetObjResult(interp, gTclText(m_store.Designs().back().name));
     Notify(DatabaseChange::Libraries);

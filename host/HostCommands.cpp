@@ -19,7 +19,7 @@ constexpr std::array<CommandHelp, 2> csHelp{{
      "too."},
 }};
 
-enum PreviewOption { PrimaryOption, LibraryOption, CellOption, ViewOption, WidthOption, HeightOption };
+enum class PreviewOption { Primary, Library, Cell, View, Width, Height };
 constexpr std::array<const char*, 7> csPreviewOptions{"-primary", "-library",  "-cell", "-view",
                                                       "-bmwidth", "-bmheight", nullptr};
 
@@ -30,26 +30,24 @@ int TakeSize(Tcl_Interp* interp, Tcl_Obj* word, int& size) {
     return code;
 }
 
-int TakeOption(Tcl_Interp* interp, int option, Tcl_Obj* value, PreviewRequest& request) {
+int TakeOption(Tcl_Interp* interp, PreviewOption option, Tcl_Obj* value, PreviewRequest& request) {
     switch (option) {
-        case PrimaryOption:
+        case PreviewOption::Primary:
             request.name.design = gTextOf(value);
             break;
-        case LibraryOption:
+        case PreviewOption::Library:
             request.name.library = gTextOf(value);
             break;
-        case CellOption:
+        case PreviewOption::Cell:
             request.name.cell = gTextOf(value);
             break;
-        case ViewOption:
+        case PreviewOption::View:
             request.name.view = gTextOf(value);
             break;
-        case WidthOption:
+        case PreviewOption::Width:
             return TakeSize(interp, value, request.width);
-        case HeightOption:
+        case PreviewOption::Height:
             return TakeSize(interp, value, request.height);
-        default:
-            break;
     }
     return TCL_OK;
 }
@@ -65,7 +63,7 @@ int ParsePreview(Tcl_Interp* interp, TclWords options, PreviewRequest& request) 
                                            csPreviewOptions[static_cast<std::size_t>(option)] +
                                            " needs a value");
         }
-        code = TakeOption(interp, option, options[next + 1], request);
+        code = TakeOption(interp, static_cast<PreviewOption>(option), options[next + 1], request);
         if (code != TCL_OK) return code;
     }
     return TCL_OK;

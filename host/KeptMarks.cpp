@@ -16,7 +16,7 @@ namespace navigator {
 
 namespace {
 
-constexpr char csSection[] = "Marks";
+constexpr char csMarksSection[] = "Marks";
 constexpr char csList[] = "Views";
 
 /// Folder of the design, word of the key, library, cell, view; and what the mark says.
@@ -46,7 +46,7 @@ std::string FolderOf(const Design& design) {
 
 TMarks Read(const CWinAppEx& app) {
     TMarks marks;
-    for (const std::string& line : gWordsOfList(app.GetProfileString(csSection, csList).GetString())) {
+    for (const std::string& line : gWordsOfList(app.GetProfileString(csMarksSection, csList).GetString())) {
         const std::vector<std::string> words = gWordsOfList(line);
         if (words.size() == 6) marks[{words[0], words[1], words[2], words[3], words[4]}] = words[5];
     }
@@ -59,7 +59,7 @@ bool Write(CWinAppEx& app, const TMarks& marks) {
         if (lines.size() == KeptMarks::cnMostKept) break;
         lines.push_back(gListOfWords({name[0], name[1], name[2], name[3], name[4], value}));
     }
-    app.WriteProfileString(csSection, csList, gListOfWords(lines).c_str());
+    app.WriteProfileString(csMarksSection, csList, gListOfWords(lines).c_str());
     return marks.size() <= KeptMarks::cnMostKept;
 }
 

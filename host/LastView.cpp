@@ -16,7 +16,7 @@ namespace navigator {
 
 namespace {
 
-constexpr char csSection[] = "LastView";
+constexpr char csLastViewSection[] = "LastView";
 constexpr char csDesign[] = "Design";
 constexpr char csLibraries[] = "Libraries";
 constexpr char csOrder[] = "Order";
@@ -46,14 +46,14 @@ void gKeepView(CWinAppEx& app, const vapp_library_browser::TLibraryBrowser& brow
             order.emplace_back(column.IsSortedIncreasing() ? csIncreasing : csDecreasing);
         }
     }
-    app.WriteProfileString(csSection, csDesign, browser.GetSelectedDesign().Payload());
-    app.WriteProfileString(csSection, csLibraries, gListOfWords(libraries).c_str());
-    app.WriteProfileString(csSection, csOrder, gListOfWords(order).c_str());
+    app.WriteProfileString(csLastViewSection, csDesign, browser.GetSelectedDesign().Payload());
+    app.WriteProfileString(csLastViewSection, csLibraries, gListOfWords(libraries).c_str());
+    app.WriteProfileString(csLastViewSection, csOrder, gListOfWords(order).c_str());
 }
 
 bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser& browser) {
     auto* const pane = browser.GetLibraryView();
-    const CString kept = app.GetProfileString(csSection, csDesign);
+    const CString kept = app.GetProfileString(csLastViewSection, csDesign);
     if (pane == nullptr || kept.IsEmpty()) return false;
     const CStringU design(kept.GetString(), TextEncoding::Utf8Auto);
     browser.SetSelectedDesign(design);
@@ -62,7 +62,7 @@ bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser&
     auto& list = pane->GetLibraryListCtrl();
     RowSelection rows;
     for (const std::string& library :
-         gWordsOfList(app.GetProfileString(csSection, csLibraries).GetString())) {
+         gWordsOfList(app.GetProfileString(csLastViewSection, csLibraries).GetString())) {
         for (int row = 0; row < list.GetItemCount(); ++row)
             if (library == list.GetItemText(row).Payload()) rows.Add(row, row);
     }
@@ -74,7 +74,8 @@ bool gRestoreChoice(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser&
 
 void gRestoreOrder(const CWinAppEx& app, vapp_library_browser::TLibraryBrowser& browser) {
     auto* const cells = browser.GetCellListView();
-    const std::vector<std::string> words = gWordsOfList(app.GetProfileString(csSection, csOrder).GetString());
+    const std::vector<std::string> words =
+        gWordsOfList(app.GetProfileString(csLastViewSection, csOrder).GetString());
     if (cells == nullptr || words.empty()) return;
     CXTPReportColumns& columns = cells->GetReport().GetColumns();
     columns.SetSortColumn(nullptr, true);

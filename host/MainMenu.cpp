@@ -12,17 +12,10 @@
 
 #include "host/HelpWindow.h"
 #include "host/MachineFacts.h"
+#include "host/PathText.h"
 #include "vapp/toolkit/TMessageBox.h"
 
 namespace navigator {
-
-namespace {
-
-std::filesystem::path PathOf(const std::string& utf8) {
-    return {std::u8string(utf8.begin(), utf8.end())};
-}
-
-}  // namespace
 
 MainMenu::MainMenu(QMainWindow& window, Navigator& navigator)
     : m_window(window),
@@ -83,7 +76,7 @@ void MainMenu::ShowRecent() {
         action->setStatusTip(QString::fromStdString(path));
         // Queued, as opening fills the menu anew, and so ends the action that is running.
         QObject::connect(
-            action, &QAction::triggered, &m_window, [this, path] { Open(PathOf(path)); },
+            action, &QAction::triggered, &m_window, [this, path] { Open(gPathOf(path)); },
             Qt::QueuedConnection);
     }
     m_recentMenu->setEnabled(number > 0);

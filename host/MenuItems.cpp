@@ -6,6 +6,7 @@
 #include <array>
 #include <utility>
 
+#include "host/LibraryText.h"
 #include "vapp/browser/TLibraryBrowser.h"
 
 namespace navigator {
@@ -28,12 +29,8 @@ constexpr std::array<MenuStyle, 8> csStyles{{
     {"libraries", StyleSelectedLibraries, false, true},
 }};
 
-CStringU TextOf(const std::string& utf8) {
-    return {utf8.c_str(), TextEncoding::Utf8Auto};
-}
-
 CString CaptionOf(const std::string& utf8) {
-    return TextOf(utf8).ToAnsi();
+    return gLibraryText(utf8).ToAnsi();
 }
 
 /// The operations of one list's menu.
@@ -54,7 +51,7 @@ constexpr MenuSink cnLibrarySink{&TLibraryBrowser::AddLibraryListMenuCommand, nu
 
 void Add(TLibraryBrowser& browser, const MenuSink& sink, const MenuItem& item) {
     if (!item.isSeparator) {
-        (browser.*sink.add)(CaptionOf(item.text), TextOf(item.command), item.style, item.isDisabled,
+        (browser.*sink.add)(CaptionOf(item.text), gLibraryText(item.command), item.style, item.isDisabled,
                             item.isChecked, item.isDefault);
     } else if (sink.separate != nullptr) {
         (browser.*sink.separate)();

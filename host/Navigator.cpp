@@ -9,6 +9,7 @@
 
 #include "host/CellsQuery.h"
 #include "host/LastView.h"
+#include "host/LibraryText.h"
 #include "host/WindowLayout.h"
 #include "vapp/browser/Messages.h"
 #include "vapp/browser/TProfileSection.h"
@@ -20,17 +21,13 @@ namespace navigator {
 
 namespace {
 
-CStringU TextOf(const std::string& utf8) {
-    return {utf8.c_str(), TextEncoding::Utf8Auto};
-}
-
 /// One Tcl word from any name: what a list of this one element looks like.
 CStringU QuoteTclWord(const CStringU& name) {
     int flags = 0;
     const int room = Tcl_ScanCountedElement(name.Payload(), name.GetByteLength(), &flags);
     std::string word(static_cast<std::size_t>(room) + 1, '\0');
     Tcl_ConvertCountedElement(name.Payload(), name.GetByteLength(), word.data(), flags);
-    return TextOf(word);
+    return gLibraryText(word);
 }
 
 Tcl_Interp* CreateInterp() {
@@ -88,7 +85,7 @@ std::optional<std::string> Navigator::ShowFolder(const std::filesystem::path& fo
     const std::string name = found->name;
     OnDatabaseChange(DatabaseChange::Libraries);
     Populate();
-    m_browser->SetSelectedDesign(TextOf(name));
+    m_browser->SetSelectedDesign(gLibraryText(name));
     return std::nullopt;
 }
 
@@ -102,7 +99,7 @@ void Navigator::CreateWindow(int width, int height, bool dark) {
     m_browser->Initialize(&m_frame, m_interp.get(), nullptr);
     m_browser->AddViewsToDoc(&m_document);
     for (const FilterType& type : gFilterTypes())
-        m_browser->AddCellViewListFilterType(TextOf(std::string(type.text)));
+        m_browser->AddCellViewListFilterType(gLibraryText(std::string(type.text)));
     m_frame.SetMessageHandler([this](UINT message, WPARAM wParam, LPARAM lParam) {
         return m_menus.Answer(message, wParam, lParam);
     });
@@ -128,7 +125,7 @@ void Navigator::FitPanes() {
 std::optional<std::string> Navigator::SourceScript(const std::string& file) {
     // Not Tcl_EvalFile: its name for the script would be in the encoding of the system, and a failure would
     // lose its place. "source" with the name as one word does both well.
-    const std::string line = std::string("source ") + QuoteTclWord(TextOf(file)).Payload();
+    const std::string line = std::string("source ") + QuoteTclWord(gLibraryText(file)).Payload();
     if (Tcl_EvalEx(m_interp.get(), line.c_str(), -1, TCL_EVAL_GLOBAL) == TCL_OK) {
         Tcl_ResetResult(m_interp.get());
         return std::nullopt;
@@ -142,7 +139,7 @@ void Navigator::ShowLastView() {
     const bool hasChosen = m_script.HasChosen() || m_database.SelectedMaster().has_value();
     // Of several designs the one that was opened first, and not the one whose name comes first.
     if (!hasChosen && !gRestoreChoice(m_app, *m_browser) && !m_store.Designs().empty())
-        m_browser->SetSelectedDesign(TextOf(m_store.Designs().front().name));
+        m_browser->SetSelectedDesign(gLibraryText(m_store.Designs().front().name));
     if (!m_script.HasSorted()) gRestoreOrder(m_app, *m_browser);
     Populate();
 }
@@ -186,7 +183,7 @@ void Navigator::OnDatabaseChange(DatabaseChange change) {
 std::string Navigator::Dump() {
     if (m_store.Designs().empty()) return {};
     Populate();
-    m_browser->SetSelectedDesign(TextOf(m_store.Designs().front().name));
+    m_browser->SetSelectedDesign(gLibraryText(m_store.Designs().front().name));
     Populate();
     auto& report = m_browser->GetCellListView()->GetReport();
     // Not by their captions: a script may give one that is taken, and would have its column told twice.

@@ -32,7 +32,7 @@ struct OptionRow {
     std::string_view help;
 };
 
-constexpr std::array<OptionRow, 11> csOptions{{
+constexpr std::array<OptionRow, 11> csProgramOptions{{
     {OptionId::Script, "--script", "FILE",
      "Source a Tcl script after the start; it may add menus, columns, filters."},
     {OptionId::Scripts, "--scripts", "FOLDER",
@@ -49,10 +49,10 @@ constexpr std::array<OptionRow, 11> csOptions{{
     {OptionId::Help, "--help", "", "Print this text and exit."},
 }};
 
-constexpr int cnSmallestSide = 50;
-constexpr int cnLargestSide = 16384;
-constexpr double cnSmallestScale = 0.5;
-constexpr double cnLargestScale = 8;
+constexpr int cnSmallestPicture = 50;
+constexpr int cnLargestPicture = 16384;
+constexpr double cnSmallestRatio = 0.5;
+constexpr double cnLargestRatio = 8;
 
 template <typename TNumber>
 std::optional<TNumber> WholeNumber(std::string_view text) {
@@ -67,8 +67,8 @@ bool ParseSize(std::string_view text, Options& options) {
     if (cross == std::string_view::npos) return false;
     const std::optional<int> width = WholeNumber<int>(text.substr(0, cross));
     const std::optional<int> height = WholeNumber<int>(text.substr(cross + 1));
-    if (!width || !height || std::min(*width, *height) < cnSmallestSide ||
-        std::max(*width, *height) > cnLargestSide)
+    if (!width || !height || std::min(*width, *height) < cnSmallestPicture ||
+        std::max(*width, *height) > cnLargestPicture)
         return false;
     options.isSizeGiven = true;
     options.width = *width;
@@ -79,7 +79,7 @@ bool ParseSize(std::string_view text, Options& options) {
 bool ParseScale(std::string_view text, Options& options) {
     const std::optional<double> scale = WholeNumber<double>(text);
     // Written so that "nan" fails.
-    if (!scale || !(*scale >= cnSmallestScale && *scale <= cnLargestScale)) return false;
+    if (!scale || !(*scale >= cnSmallestRatio && *scale <= cnLargestRatio)) return false;
     options.scale = *scale;
     return true;
 }
@@ -147,9 +147,9 @@ std::optional<std::string> gParseOptions(std::span<const std::string> words, Opt
         }
         const std::size_t equals = word.find('=');
         const std::string name = word.substr(0, equals);
-        const auto* const row = std::find_if(csOptions.begin(), csOptions.end(),
+        const auto* const row = std::find_if(csProgramOptions.begin(), csProgramOptions.end(),
                                              [&](const OptionRow& known) { return known.name == name; });
-        if (row == csOptions.end()) return "Unknown option \"" + name + "\". Try --help.";
+        if (row == csProgramOptions.end()) return "Unknown option \"" + name + "\". Try --help.";
         std::string value;
         if (row->value.empty()) {
             if (equals != std::string::npos) return "The option " + name + " takes no value.";
@@ -172,7 +172,7 @@ std::string gUsageText() {
         "libraries, and files like inv.sym and inv.sch, or folders like inv/layout, are the views of their "
         "cells.\n"
         "Without a folder it shows a sample design.\n\n";
-    for (const OptionRow& row : csOptions) {
+    for (const OptionRow& row : csProgramOptions) {
         std::string left = "  " + std::string(row.name);
         if (!row.value.empty()) left += " " + std::string(row.value);
         left.resize(std::max<std::size_t>(left.size() + 1, 22), ' ');

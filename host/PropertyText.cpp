@@ -10,7 +10,7 @@ namespace navigator {
 
 namespace {
 
-bool IsBlank(char character) {
+bool IsValueBlank(char character) {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r' ||
            character == '\0';
 }
@@ -22,11 +22,11 @@ public:
 
     /// Goes to the next pair; false at the end.
     bool Next() {
-        while (m_at < m_block.size() && IsBlank(m_block[m_at]))
+        while (m_at < m_block.size() && IsValueBlank(m_block[m_at]))
             ++m_at;
         if (m_at >= m_block.size()) return false;
         const std::size_t start = m_at;
-        while (m_at < m_block.size() && !IsBlank(m_block[m_at]) && m_block[m_at] != '=')
+        while (m_at < m_block.size() && !IsValueBlank(m_block[m_at]) && m_block[m_at] != '=')
             ++m_at;
         m_name = m_block.substr(start, m_at - start);
         m_value.clear();
@@ -43,7 +43,7 @@ public:
 private:
     void ReadValue() {
         bool isQuoted = false;
-        while (m_at < m_block.size() && (isQuoted || !IsBlank(m_block[m_at]))) {
+        while (m_at < m_block.size() && (isQuoted || !IsValueBlank(m_block[m_at]))) {
             const char character = m_block[m_at++];
             if (character == '"') {
                 isQuoted = !isQuoted;

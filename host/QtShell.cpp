@@ -18,6 +18,7 @@
 #include <QToolTip>
 #include <utility>
 
+#include "host/LibraryText.h"
 #include "host/OpenMenus.h"
 #include "host/SymbolPainter.h"
 #include "host/TextViewer.h"
@@ -40,10 +41,6 @@ constexpr char csWindowPlace[] = "WindowPos";
 /// What is this program's own in the settings: which of its bars are shown, and where.
 constexpr char csHostSection[] = "Window";
 constexpr char csBars[] = "Bars";
-
-CStringU TextOf(const std::string& utf8) {
-    return {utf8.c_str(), TextEncoding::Utf8Auto};
-}
 
 /// The items of the open menus as a script sees them.
 Tcl_Obj* OpenMenuList() {
@@ -328,7 +325,7 @@ void QtShell::ShowPreview(const PreviewRequest& request) {
     picture.scale = qApp->devicePixelRatio();
     picture.isDark = m_navigator.Frame().IsDark();
     QtBitmap bitmap(gPaintView(store, view, picture));
-    m_navigator.Browser().SetPreview(false, TextOf(CaptionOf(request.name)), bitmap.Get());
+    m_navigator.Browser().SetPreview(false, gLibraryText(CaptionOf(request.name)), bitmap.Get());
     m_picture = std::move(bitmap);
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "host/DisplayName.h"
+#include "host/PathText.h"
 #include "vapp/toolkit/CWinAppEx.h"
 
 namespace navigator {
@@ -13,17 +14,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char csSection[] = "RecentFolders";
+constexpr char csRecentFoldersSection[] = "RecentFolders";
 /// Characters of a path that a menu shows at most, and how many of them stand in front of the gap.
 constexpr std::size_t cnLongestShown = 60;
 constexpr std::size_t cnShownInFront = 20;
 
 CString KeyOf(std::size_t index) {
     return ("Folder" + std::to_string(index + 1)).c_str();
-}
-
-fs::path PathOf(const std::string& utf8) {
-    return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 fs::path Absolute(const fs::path& folder) {
@@ -72,21 +69,22 @@ std::string WithoutMiddle(const std::string& path) {
 void RecentFolders::Load(const CWinAppEx& app) {
     m_paths.clear();
     for (std::size_t index = cnMostKept; index-- > 0;) {
-        const std::string path = app.GetProfileString(csSection, KeyOf(index)).GetString();
-        if (!path.empty()) Add(PathOf(path));
+        const std::string path = app.GetProfileString(csRecentFoldersSection, KeyOf(index)).GetString();
+        if (!path.empty()) Add(gPathOf(path));
     }
 }
 
 void RecentFolders::Store(CWinAppEx& app) const {
     for (std::size_t index = 0; index < cnMostKept; ++index)
-        app.WriteProfileString(csSection, KeyOf(index), index < m_paths.size() ? m_paths[index].c_str() : "");
+        app.WriteProfileString(csRecentFoldersSection, KeyOf(index),
+                               index < m_paths.size() ? m_paths[index].c_str() : "");
 }
 
 void RecentFolders::Add(const fs::path& folder) {
     if (folder.empty()) return;
     const fs::path path = Absolute(folder);
     const std::string text = gDisplayName(path.native());
-    if (PathOf(text) != path) return;
+    if (gPathOf(text) != path) return;
     Remove(path);
     m_paths.insert(m_paths.begin(), text);
     if (m_paths.size() > cnMostKept) m_paths.resize(cnMostKept);
@@ -94,7 +92,7 @@ void RecentFolders::Add(const fs::path& folder) {
 
 void RecentFolders::Remove(const fs::path& folder) {
     const fs::path identity = IdentityOf(folder);
-    std::erase_if(m_paths, [&](const std::string& path) { return IdentityOf(PathOf(path)) == identity; });
+    std::erase_if(m_paths, [&](const std::string& path) { return IdentityOf(gPathOf(path)) == identity; });
 }
 
 std::string gRecentFolderText(int number, const std::string& path) {

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char csSection[] = "Preferences";
+constexpr char csPreferencesSection[] = "Preferences";
 constexpr char csAskReserve[] = "AskReserve";
 /// What systems that control versions put into a folder.
 constexpr std::array<const char*, 5> csMetadata{".git", ".svn", ".hg", ".bzr", "CVS"};
@@ -23,13 +23,13 @@ constexpr std::array<const char*, 5> csMetadata{".git", ".svn", ".hg", ".bzr", "
 }  // namespace
 
 prefs::TAskReserveOption gAskReserveOption(const CWinAppEx& app) {
-    const CString kept = app.GetProfileString(csSection, csAskReserve);
+    const CString kept = app.GetProfileString(csPreferencesSection, csAskReserve);
     return kept.IsEmpty() ? prefs::AskManagedCellsOnly
                           : prefs::gConvertStringToEnum({kept.GetString(), TextEncoding::Utf8Auto});
 }
 
 void gSetAskReserveOption(CWinAppEx& app, prefs::TAskReserveOption option) {
-    app.WriteProfileString(csSection, csAskReserve, gAskReserveText(option).Payload());
+    app.WriteProfileString(csPreferencesSection, csAskReserve, gAskReserveText(option).Payload());
 }
 
 const CStringU& gAskReserveText(prefs::TAskReserveOption option) {

@@ -20,7 +20,7 @@ constexpr int cnLargestLayer = 1000;
 constexpr std::size_t cnDeepestEmbedding = 8;
 constexpr int cnOpenBracesForgiven = 8;
 
-bool IsBlank(char character) {
+bool IsFieldBlank(char character) {
     return character == ' ' || character == '\t' || character == '\r' || character == '\0';
 }
 
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] char Peek() const { return AtEnd() ? '\0' : m_text[m_at]; }
 
     void SkipBlanks() {
-        while (!AtEnd() && IsBlank(m_text[m_at]))
+        while (!AtEnd() && IsFieldBlank(m_text[m_at]))
             ++m_at;
     }
     void SkipLine() {

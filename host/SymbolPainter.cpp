@@ -16,7 +16,7 @@ namespace navigator {
 
 namespace {
 
-constexpr double cnLargestSide = 16384;
+constexpr double cnLargestDrawing = 16384;
 constexpr double cnMargin = 8;           // Logical pixels, on each side.
 constexpr double cnLargestZoom = 4;      // Logical pixels a unit: a small symbol is not blown up beyond that.
 constexpr double cnSmallestText = 5;     // Device pixels: below, letters are no letters any more.
@@ -26,7 +26,7 @@ constexpr std::size_t cnTextFileShown = 16384;
 QImage MakeBackground(const PictureRequest& request) {
     const double width = std::round(request.width * request.scale);
     const double height = std::round(request.height * request.scale);
-    if (!(width >= 1 && height >= 1 && width <= cnLargestSide && height <= cnLargestSide)) return {};
+    if (!(width >= 1 && height >= 1 && width <= cnLargestDrawing && height <= cnLargestDrawing)) return {};
     QImage image(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied);
     image.fill(gDrawingBackground(request.isDark));
     return image;
@@ -113,7 +113,7 @@ private:
     }
 
     void PaintText(const PlacedText& text) {
-        const double size = std::min(text.emHeight * m_fit.zoom, cnLargestSide);
+        const double size = std::min(text.emHeight * m_fit.zoom, cnLargestDrawing);
         if (size < cnSmallestText) return;
         QFont font;
         font.setPixelSize(std::max(1, static_cast<int>(size)));

@@ -8,7 +8,7 @@ namespace navigator {
 
 namespace {
 
-constexpr char csSection[] = "TabNames";
+constexpr char csTabNamesSection[] = "TabNames";
 
 CString KeyOf(int tab) {
     return ("Tab" + std::to_string(tab + 1)).c_str();
@@ -21,7 +21,7 @@ const char* OwnName(int tab) {
 }  // namespace
 
 std::string gTabName(const CWinAppEx& app, int tab) {
-    const CString kept = app.GetProfileString(csSection, KeyOf(tab));
+    const CString kept = app.GetProfileString(csTabNamesSection, KeyOf(tab));
     return kept.IsEmpty() ? OwnName(tab) : kept.GetString();
 }
 
@@ -31,7 +31,7 @@ void gSetTabName(CWinAppEx& app, int tab, const std::string& name) {
                            ? std::string()
                            : name.substr(first, name.find_last_not_of(' ') - first + 1);
     if (kept == OwnName(tab)) kept.clear();
-    app.WriteProfileString(csSection, KeyOf(tab), kept.c_str());
+    app.WriteProfileString(csTabNamesSection, KeyOf(tab), kept.c_str());
 }
 
 }  // namespace navigator

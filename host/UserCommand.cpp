@@ -20,7 +20,7 @@ namespace {
 enum TTarget { TargetBar, TargetControl, TargetHeader, TargetLibrary, TargetPane, TargetRow };
 constexpr std::array<const char*, 7> csTargets{"bar", "control", "header", "library", "pane", "row", nullptr};
 
-constexpr int cnLargestSide = 16384;
+constexpr int cnFarthestPixel = 16384;
 
 int ReadTarget(Tcl_Interp* interp, Tcl_Obj* word, int& target) {
     return Tcl_GetIndexFromObj(interp, word, csTargets.data(), "part", TCL_EXACT, &target);
@@ -188,7 +188,7 @@ int UserCommand::Drag(Tcl_Interp* interp, TclWords words) {
     if (Tcl_GetIntFromObj(interp, words[1], &bar) != TCL_OK) return TCL_ERROR;
     if (Tcl_GetIntFromObj(interp, words[2], &pixels) != TCL_OK) return TCL_ERROR;
     if (!gPlaceOfBar(m_browser, bar)) return gTclFailure(interp, "there is no bar " + std::to_string(bar));
-    if (pixels < -cnLargestSide || pixels > cnLargestSide) return gTclFailure(interp, "that is too far");
+    if (pixels < -cnFarthestPixel || pixels > cnFarthestPixel) return gTclFailure(interp, "that is too far");
     m_browser.SetRowHeight(bar, m_browser.GetPane(bar, 0)->GetRect().Height() + pixels);
     return TCL_OK;
 }
@@ -231,7 +231,7 @@ int UserCommand::Resize(Tcl_Interp* interp, TclWords words) {
     int height = 0;
     if (Tcl_GetIntFromObj(interp, words[0], &width) != TCL_OK) return TCL_ERROR;
     if (Tcl_GetIntFromObj(interp, words[1], &height) != TCL_OK) return TCL_ERROR;
-    if (width < 1 || height < 1 || width > cnLargestSide || height > cnLargestSide)
+    if (width < 1 || height < 1 || width > cnFarthestPixel || height > cnFarthestPixel)
         return gTclFailure(interp, "width and height go from 1 to 16384");
     const CRect& now = m_frame.GetRect();
     m_frame.MoveWindow({now.left, now.top, now.left + width, now.top + height});

@@ -12,9 +12,9 @@ namespace navigator {
 
 namespace {
 
-/// In the order of csOptions.
+/// In the order of csItemOptions.
 enum Option { CheckedOption, EnabledOption, StyleOption, SubMenuOption };
-constexpr std::array<const char*, 5> csOptions{"-checked", "-enabled", "-style", "-submenu", nullptr};
+constexpr std::array<const char*, 5> csItemOptions{"-checked", "-enabled", "-style", "-submenu", nullptr};
 constexpr std::string_view csDefault = "-default";
 
 int ReadPlace(Tcl_Interp* interp, Tcl_Obj* word, TMenuPlace& place) {
@@ -125,7 +125,7 @@ int UserMenuCommand::Add(Tcl_Interp* interp, TclWords words) {
 
 int UserMenuCommand::TakeOption(Tcl_Interp* interp, Tcl_Obj* name, Tcl_Obj* value, TEntry& entry) {
     int option = 0;
-    const int code = Tcl_GetIndexFromObj(interp, name, csOptions.data(), "option", TCL_EXACT, &option);
+    const int code = Tcl_GetIndexFromObj(interp, name, csItemOptions.data(), "option", TCL_EXACT, &option);
     if (code != TCL_OK) return code;
     switch (option) {
         case CheckedOption:
@@ -153,7 +153,7 @@ int UserMenuCommand::AddSeparator(Tcl_Interp* interp, TclWords words) {
     if (entry.place == TMenuPlace::Libraries)
         return gTclFailure(interp, "the menu of libraries has no separators");
     if (words.size() > 1) {
-        if (words.size() != 3 || gTextOf(words[1]) != csOptions[SubMenuOption])
+        if (words.size() != 3 || gTextOf(words[1]) != csItemOptions[SubMenuOption])
             return gTclFailure(interp, "the only option is -submenu TITLE");
         if (TakeOption(interp, words[1], words[2], entry) != TCL_OK) return TCL_ERROR;
     }

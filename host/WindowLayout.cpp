@@ -14,13 +14,13 @@ namespace {
 constexpr int cnFrameWidth = 16;
 constexpr int cnFrameHeight = 48;
 /// On a smaller screen the window begins to hang over its edge, instead of shrinking to nothing.
-constexpr int cnSmallestSide = 200;
+constexpr int cnSmallestWindow = 200;
 constexpr int cnConsoleNeeds = 720;
 /// Filter row, header, a few rows, tabs and status line.
 constexpr int cnFewestCells = 200;
 
 int Clamped(int wanted, int screen, int frame) {
-    return screen <= 0 ? wanted : std::min(wanted, std::max(screen - frame, cnSmallestSide));
+    return screen <= 0 ? wanted : std::min(wanted, std::max(screen - frame, cnSmallestWindow));
 }
 
 }  // namespace

@@ -41,11 +41,6 @@ CStringU FolderFront(const CStringU& folder) {
     return folder + (CurrentWorld() == World::Wine && !isWindowsPath ? '/' : '\\');
 }
 
-bool IsDots(const CStringU& name) {
-    const std::string_view text = name.PayloadView();
-    return text == "." || text == "..";
-}
-
 bool IsShortcut(const CStringU& path) {
     return gGetExtension(path).PayloadView() == "lnk";
 }
@@ -139,7 +134,7 @@ bool TWalk::MayEnter(const TFolderReader& reader, TVisits*& visits) {
 void TWalk::ReadEntries(TFolderReader& reader, TLevel& level) const {
     TFolderEntry entry;
     while (reader.Next(entry)) {
-        if (IsDots(entry.name) || entry.leadsNowhere) continue;
+        if (IsDots(entry.name.PayloadView()) || entry.leadsNowhere) continue;
         if (IsFolder(entry) || IsShortcut(entry.name)) level.below.push_back(entry.name);
         if (m_takes(entry)) level.taken.push_back(entry.name);
     }

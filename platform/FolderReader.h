@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "vapp/text/CStringU.h"
 
@@ -22,6 +23,11 @@ struct TFolderEntry {
     /// On Linux: a link to nothing, so that there is a name and nothing behind it.
     bool leadsNowhere = false;
 };
+
+/// True for the names of a folder's entries for itself and for the one above.
+[[nodiscard]] inline bool IsDots(std::string_view name) noexcept {
+    return name == "." || name == "..";
+}
 
 /// Tells one folder from all others of the machine, whatever the path that led to it.
 struct TFolderIdentity {

@@ -33,11 +33,6 @@ bool IsAskedForEntries(const CStringU& path) {
     return CurrentWorld() == World::Wine && StartsWithSeparator(text) && CountSeparators(text) < 2;
 }
 
-bool IsDots(const CStringU& name) {
-    const std::string_view text = name.PayloadView();
-    return text == "." || text == "..";
-}
-
 // The length of what is never made: a drive, or a server and its share, each with the separator behind it.
 std::size_t RootBytes(const CStringU& path) {
     const std::string_view text = path.PayloadView();
@@ -111,7 +106,7 @@ bool gIsDirectoryEmpty(const CStringU& path) {
     TFolderEntry entry;
     if (!reader.Next(entry)) return false;
     while (reader.Next(entry)) {
-        if (!IsDots(entry.name)) return false;
+        if (!IsDots(entry.name.PayloadView())) return false;
     }
     return true;
 }
@@ -132,7 +127,7 @@ std::vector<CStringU> gListFolder(const CStringU& folder) {
     TFolderReader reader(gJoinPath(folder, csAllEntries), TFolderReader::Names::Ansi);
     TFolderEntry entry;
     while (reader.Next(entry)) {
-        if (!IsDots(entry.name)) names.push_back(entry.name);
+        if (!IsDots(entry.name.PayloadView())) names.push_back(entry.name);
     }
     return names;
 }

@@ -11,8 +11,6 @@
 namespace vapp_platform {
 namespace {
 
-constexpr auto cnNone = std::string_view::npos;
-
 /// What is left of `base` in front of a path that starts with a separator.
 std::string_view RootFor(const CStringU& base) {
     const std::string_view bytes = base.PayloadView();

@@ -9,8 +9,6 @@
 namespace vapp_platform {
 namespace {
 
-constexpr auto cnNone = std::string_view::npos;
-
 /// Where the name begins.
 std::size_t NameStart(std::string_view path) noexcept {
     std::size_t start = path.size();

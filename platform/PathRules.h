@@ -27,6 +27,9 @@ struct PathRules {
 /// The rules of this process: its world, and the system's environment.
 [[nodiscard]] PathRules CurrentPathRules();
 
+/// No such place in a path.
+inline constexpr std::size_t cnNone = std::string_view::npos;
+
 /// The separators of folders.
 inline constexpr std::string_view cnSeparators = "\\/";
 
@@ -41,11 +44,11 @@ template <typename Unit>
     return IsSeparator(byte) || byte == ':';
 }
 
-/// The place of the next separator at or behind `from`; npos without one.
+/// The place of the next separator at or behind `from`; cnNone without one.
 [[nodiscard]] constexpr std::size_t FindSeparator(std::string_view text, std::size_t from) noexcept {
     while (from < text.size() && !IsSeparator(text[from]))
         ++from;
-    return from < text.size() ? from : std::string_view::npos;
+    return from < text.size() ? from : cnNone;
 }
 
 /// True where a text has a separator at its start, at its end, or twice at its start (a share).

@@ -10,8 +10,6 @@
 namespace vapp_platform {
 namespace {
 
-constexpr auto cnNone = std::string_view::npos;
-
 bool HasForbidden(std::string_view part) noexcept {
     return part.find_first_of("\"*?<>|:") != cnNone;
 }

@@ -12,7 +12,7 @@ namespace vapp_text {
 
 namespace {
 
-using Compare = int (*)(const void*, const void*);
+using EntryOrder = int (*)(const void*, const void*);
 
 const CString& TextBehind(const void* entry) noexcept {
     return **static_cast<const CString* const*>(entry);
@@ -26,7 +26,7 @@ int CompareEntriesNoCase(const void* left, const void* right) noexcept {
     return TextBehind(left).CompareNoCase(TextBehind(right));
 }
 
-void SortBy(CStringArray& array, Compare compare) {
+void SortBy(CStringArray& array, EntryOrder compare) {
     if (array.IsEmpty()) return;
     std::vector<CString> copies(array.begin(), array.end());
     std::vector<CString*> table;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "vapp/text/Translate.h"
+#include "text/TranslatedText.h"
 
 const DialogItem* gFindDialogItem(const DialogTemplate& dialog, UINT id) {
     const auto found = std::find_if(dialog.items.begin(), dialog.items.end(),
@@ -20,5 +20,5 @@ void gCreateDialogItem(CWnd& parent, const DialogTemplate& dialog, CWnd& control
 }
 
 CString gTranslateWindowText(const char* text) {
-    return CStringU(vlang::gTranslate(text), TextEncoding::Utf8Auto).ToAnsi();
+    return vapp_text::TranslatedText(text).ToAnsi();
 }

@@ -4,21 +4,19 @@
 
 #include <algorithm>
 
-#include "vapp/text/Translate.h"
+#include "text/TranslatedText.h"
 #include "vapp/toolkit/Peer.h"
+
+using vapp_text::TranslatedText;
 
 namespace {
 
-CStringU Translated(const char* key) {
-    return {vlang::gTranslate(key), TextEncoding::Utf8Auto};
-}
-
 std::vector<TMessageBox::TButton> ButtonsOf(UINT style) {
     constexpr UINT cnButtonBits = 0xF;
-    const TMessageBox::TButton ok{IDOK, Translated("__$$Translatable$$_OK")};
-    const TMessageBox::TButton cancel{IDCANCEL, Translated("__$$Translatable$$_Cancel")};
-    const TMessageBox::TButton yes{IDYES, Translated("__$$Translatable$$_&Yes")};
-    const TMessageBox::TButton no{IDNO, Translated("__$$Translatable$$_&No")};
+    const TMessageBox::TButton ok{IDOK, TranslatedText("__$$Translatable$$_OK")};
+    const TMessageBox::TButton cancel{IDCANCEL, TranslatedText("__$$Translatable$$_Cancel")};
+    const TMessageBox::TButton yes{IDYES, TranslatedText("__$$Translatable$$_&Yes")};
+    const TMessageBox::TButton no{IDNO, TranslatedText("__$$Translatable$$_&No")};
     switch (style & cnButtonBits) {
         case MB_OKCANCEL:
             return {ok, cancel};

@@ -26,6 +26,7 @@
 #include "platform/CommandLine.h"
 #include "platform/FaultPoint.h"
 #include "platform/posix/ChildSide.h"
+#include "platform/posix/Descriptor.h"
 #include "platform/posix/EnvironmentLock.h"
 #include "platform/posix/LeftChildren.h"
 #include "platform/posix/NativePath.h"
@@ -41,10 +42,6 @@ extern "C" int __clone(int (*run)(void*), void* stack, int flags, void* argument
 namespace vapp_platform {
 
 namespace {
-
-int Descriptor(const OwnedHandle& handle) {
-    return static_cast<int>(handle.Get());
-}
 
 /// Texts as the null-ended array of pointers that a start takes.
 class TextArray {

@@ -26,10 +26,6 @@ std::string FolderOfPattern(const CStringU& pattern) {
     return folder.empty() ? "." : folder;
 }
 
-bool IsDots(const char* name) {
-    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
-}
-
 struct TCloser {
     void operator()(DIR* folder) const noexcept { closedir(folder); }
 };

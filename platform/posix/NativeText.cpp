@@ -18,7 +18,7 @@ constexpr char32_t cnByteUnits = 0xDC00;
 constexpr char32_t cnBackslashUnit = 0xDC5C;
 constexpr char32_t cnFirstByteUnit = 0xDC80;
 constexpr char32_t cnLastByteUnit = 0xDCFF;
-constexpr char32_t cnReplacement = 0xFFFD;
+constexpr char32_t cnNoCharacter = 0xFFFD;
 
 bool IsEscapedByte(char32_t character) {
     return character == cnBackslashUnit || (character >= cnFirstByteUnit && character <= cnLastByteUnit);
@@ -29,7 +29,7 @@ void AppendNative(std::string& bytes, char32_t character) {
         bytes += static_cast<char>(character - cnByteUnits);
         return;
     }
-    if (character > 0x10FFFF || U_IS_SURROGATE(character)) character = cnReplacement;
+    if (character > 0x10FFFF || U_IS_SURROGATE(character)) character = cnNoCharacter;
     char encoded[U8_MAX_LENGTH];
     std::size_t length = 0;
     U8_APPEND_UNSAFE(encoded, length, character);

@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "platform/FaultPoint.h"
+#include "platform/posix/Descriptor.h"
 #include "platform/posix/Poll.h"
 #include "platform/posix/QuietWrite.h"
 #include "platform/posix/Retry.h"
@@ -25,10 +26,6 @@
 namespace vapp_platform {
 
 namespace {
-
-int Descriptor(const OwnedHandle& handle) {
-    return static_cast<int>(handle.Get());
-}
 
 OwnedHandle MakeWake(const OwnedHandle& end) {
     return OwnedHandle(end.IsOpen() ? eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK) : -1);

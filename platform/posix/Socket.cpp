@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "platform/FaultPoint.h"
+#include "platform/posix/Descriptor.h"
 #include "platform/posix/EnvironmentLock.h"
 #include "platform/posix/Poll.h"
 #include "platform/posix/Retry.h"
@@ -22,10 +23,6 @@
 namespace vapp_platform {
 
 namespace {
-
-int Descriptor(const OwnedHandle& handle) {
-    return static_cast<int>(handle.Get());
-}
 
 SocketWait WaitFor(const OwnedHandle& handle, short events, std::chrono::milliseconds limit) {
     if (const int fault = FaultOf(SystemCall::WaitForSocket); fault != 0) return {WaitAnswer::Failed, fault};

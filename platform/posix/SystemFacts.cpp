@@ -16,7 +16,7 @@ namespace vapp_platform {
 
 namespace {
 
-constexpr std::uint16_t cnArchitectureX64 = 9;
+constexpr std::uint16_t cnReportedArchitecture = 9;
 constexpr std::uint32_t cnProcessorX64 = 8664;
 // No Windows has this one, so that no version is taken for one of Windows.
 constexpr std::uint32_t cnPlatformUnix = 4;
@@ -54,7 +54,7 @@ TSystemInfo ReadSystemInfo() noexcept {
     // As processors' manuals say: the extended family adds to family 15.
     const std::uint32_t family = model.family + (model.family == 15 ? model.extendedFamily : 0);
     const std::uint32_t modelAndStepping = (model.extendedModel << 4 | model.model) << 8 | (signature & 0xF);
-    return {.wProcessorArchitecture = cnArchitectureX64,
+    return {.wProcessorArchitecture = cnReportedArchitecture,
             .wReserved = 0,
             .dwPageSize = page,
             .lpMinimumApplicationAddress = Address(cnLowestAddress),

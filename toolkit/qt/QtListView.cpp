@@ -21,7 +21,7 @@ namespace vapp_qt {
 
 namespace {
 
-constexpr int cnRowPadding = 3;
+constexpr int cnListRowPadding = 3;
 constexpr int cnEmptyTextOffset = 2;
 
 }  // namespace
@@ -47,7 +47,7 @@ QRect QtListView::ColumnRect(int column) const {
 }
 
 void QtListView::ApplyFont() {
-    if (Control() != nullptr) Control()->SetHeights(fontMetrics().height() + 2 * cnRowPadding, 0);
+    if (Control() != nullptr) Control()->SetHeights(fontMetrics().height() + 2 * cnListRowPadding, 0);
 }
 
 QColor QtListView::BackColor() const {

@@ -22,7 +22,7 @@ namespace vapp_qt {
 namespace {
 
 constexpr int cnCellPadding = 4;
-constexpr int cnRowPadding = 3;
+constexpr int cnReportRowPadding = 3;
 constexpr int cnIconMargin = 2;
 constexpr int cnNoItemsMargin = 8;
 
@@ -55,7 +55,7 @@ void QtReportView::ApplyFont() {
         m_fonts[index] = gToQFont(font(), {.bold = (index & 1U) != 0, .italic = (index & 2U) != 0});
     if (Control() == nullptr) return;
     const int headerHeight = m_header->WantedHeight();
-    Control()->SetHeights(fontMetrics().height() + 2 * cnRowPadding, headerHeight);
+    Control()->SetHeights(fontMetrics().height() + 2 * cnReportRowPadding, headerHeight);
     setViewportMargins(0, headerHeight, 0, 0);
 }
 
