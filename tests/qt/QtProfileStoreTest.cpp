@@ -18,6 +18,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/qt/KeptValues.h"
 #include "tests/qt/SettingsFileFixture.h"
 #include "tests/text/HostileText.h"
 #include "vapp/toolkit/CWinAppEx.h"
@@ -26,21 +27,7 @@
 using QtProfileStoreTest = SettingsFileFixture;
 
 TEST_F(QtProfileStoreTest, ValuesOfBothKindsComeBackInTheNextRun) {
-    {
-        const auto store = Open();
-        store->WriteInteger("LibraryNavigator", "toolCellsPaneHeight", 345);
-        store->WriteInteger("LibraryNavigator", "least", INT32_MIN);
-        store->WriteText("LibraryNavigator\\Setup1\\Columns\\Cell", "Visible", "true");
-        store->WriteText("LibraryNavigator", "ExcludeViewNames", "");
-    }
-    const auto store = Open();
-    EXPECT_EQ(store->ReadInteger("LibraryNavigator", "toolCellsPaneHeight"), 345);
-    EXPECT_EQ(store->ReadInteger("LibraryNavigator", "least"), INT32_MIN);
-    EXPECT_EQ(store->ReadText("LibraryNavigator\\Setup1\\Columns\\Cell", "Visible"), CString("true"));
-    EXPECT_EQ(store->ReadText("LibraryNavigator", "ExcludeViewNames"), CString(""))
-        << "set to nothing is set";
-    EXPECT_EQ(store->ReadText("LibraryNavigator", "missing"), std::nullopt);
-    EXPECT_EQ(store->ReadInteger("LibraryNavigator", "missing"), std::nullopt);
+    kept_values::ExpectBothKindsComeBack([this] { return Open(); });
     EXPECT_TRUE(m_warnings.empty()) << m_warnings.front();
 }
 
@@ -99,39 +86,14 @@ TEST_F(QtProfileStoreTest, ChangesWithoutAPauseAreWrittenAllTheSame) {
 }
 
 TEST_F(QtProfileStoreTest, LastWriteOfEitherKindWins) {
-    const auto store = Open();
-    for (const bool flushes : {false, true}) {
-        store->WriteText("s", "k", "12");
-        if (flushes) store->Flush();
-        EXPECT_EQ(store->ReadText("s", "k"), CString("12"));
-        EXPECT_EQ(store->ReadInteger("s", "k"), std::nullopt) << "a text is no integer";
-        store->WriteInteger("s", "k", 12);
-        if (flushes) store->Flush();
-        EXPECT_EQ(store->ReadText("s", "k"), std::nullopt) << "an integer is no text";
-        EXPECT_EQ(store->ReadInteger("s", "k"), 12);
-    }
+    kept_values::ExpectLastKindWins([this] { return Open(); });
 }
 
 TEST_F(QtProfileStoreTest, NamesWithMarksOfTheFormatAreNamesAndNothingElse) {
-    const std::vector<const char*> names = {"a\\b",     "a/b",        "[a]", "a]b[",        "a=b", "a;b",
-                                            "\"a\"",    "Gr\xC3\xB6", "%",   "%5C",         "",    "General",
-                                            "general",  "a b",        " a",  "a ",          "@a",  "\xFF",
-                                            "a\tb\r\n", "size",       "1",   "\xE4\xB8\xAD"};
-    {
-        const auto store = Open();
-        int value = 0;
-        for (const char* section : names) {
-            for (const char* key : names)
-                store->WriteInteger(section, key, value++);
-        }
-    }
-    const auto store = Open();
-    int value = 0;
-    for (const char* section : names) {
-        for (const char* key : names) {
-            EXPECT_EQ(store->ReadInteger(section, key), value++) << '"' << section << "\" \"" << key << '"';
-        }
-    }
+    std::vector<const char*> names = kept_values::OddNames();
+    // A name of the format in its own case and in another.
+    names.push_back("general");
+    kept_values::ExpectNamesStayApart([this] { return Open(); }, names);
     EXPECT_TRUE(m_warnings.empty());
 }
 
@@ -151,21 +113,7 @@ TEST_F(QtProfileStoreTest, SectionAndKeyDoNotRunIntoOneAnother) {
 }
 
 TEST_F(QtProfileStoreTest, TextsComeBackByteByByte) {
-    const std::vector<const char*> texts = {"a, b",     "a;b",      "\"q\"",         "a\\nb",
-                                            "a\nb\r\n", " blanks ", "@Invalid()",    "@ByteArray(x)",
-                                            "@",        "@@x",      "500",           "-7",
-                                            "007",      "+1",       "99999999999",   "1.5",
-                                            "\xFF\xFE", "\xC3\xA4", "%41",           "{} [list] $x",
-                                            "=",        "[s]",      "@Variant(\\0)", "\xEF\xBB\xBFx"};
-    {
-        const auto store = Open();
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            store->WriteText("s", CString(std::to_string(i).c_str()), texts[i]);
-    }
-    const auto store = Open();
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        EXPECT_EQ(store->ReadText("s", CString(std::to_string(i).c_str())), CString(texts[i])) << texts[i];
-    }
+    kept_values::ExpectTextsComeBackByteByByte([this] { return Open(); });
 }
 
 TEST_F(QtProfileStoreTest, AnswersAsTheStoreInMemoryDoesOverRestarts) {

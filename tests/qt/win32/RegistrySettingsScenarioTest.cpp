@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/qt/KeptValues.h"
 #include "vapp/toolkit/qt/QtProfileStore.h"
 
 namespace {
@@ -50,22 +51,8 @@ private:
 }  // namespace
 
 TEST_F(RegistrySettings, ValuesOfBothKindsComeBackInTheNextRun) {
-    {
-        const auto store = Open();
-        EXPECT_EQ(store->GetPlace(), CString("HKEY_CURRENT_USER\\Software\\vapp settings under test\\tool"));
-        store->WriteInteger("LibraryNavigator", "toolCellsPaneHeight", 345);
-        store->WriteInteger("LibraryNavigator", "least", INT32_MIN);
-        store->WriteText("LibraryNavigator\\Setup1\\Columns\\Cell", "Visible", "true");
-        store->WriteText("LibraryNavigator", "ExcludeViewNames", "");
-    }
-    const auto store = Open();
-    EXPECT_EQ(store->ReadInteger("LibraryNavigator", "toolCellsPaneHeight"), 345);
-    EXPECT_EQ(store->ReadInteger("LibraryNavigator", "least"), INT32_MIN);
-    EXPECT_EQ(store->ReadText("LibraryNavigator\\Setup1\\Columns\\Cell", "Visible"), CString("true"));
-    EXPECT_EQ(store->ReadText("LibraryNavigator", "ExcludeViewNames"), CString(""))
-        << "set to nothing is set";
-    EXPECT_EQ(store->ReadText("LibraryNavigator", "missing"), std::nullopt);
-    EXPECT_EQ(store->ReadInteger("LibraryNavigator", "missing"), std::nullopt);
+    EXPECT_EQ(Open()->GetPlace(), CString("HKEY_CURRENT_USER\\Software\\vapp settings under test\\tool"));
+    kept_values::ExpectBothKindsComeBack([this] { return Open(); });
     EXPECT_TRUE(m_warnings.empty());
 }
 
@@ -88,51 +75,15 @@ TEST_F(RegistrySettings, WhatAUserTypesThereCounts) {
 }
 
 TEST_F(RegistrySettings, ATextIsNeverAnIntegerNorAnIntegerAText) {
-    for (const bool flushes : {false, true}) {
-        const auto store = Open();
-        store->WriteText("s", "k", "12");
-        if (flushes) store->Flush();
-        EXPECT_EQ(store->ReadText("s", "k"), CString("12"));
-        EXPECT_EQ(store->ReadInteger("s", "k"), std::nullopt);
-        store->WriteInteger("s", "k", 12);
-        if (flushes) store->Flush();
-        EXPECT_EQ(store->ReadText("s", "k"), std::nullopt);
-        EXPECT_EQ(store->ReadInteger("s", "k"), 12);
-    }
+    kept_values::ExpectLastKindWins([this] { return Open(); });
 }
 
 TEST_F(RegistrySettings, TextsComeBackByteByByte) {
-    const std::vector<const char*> texts = {
-        "a, b", "\"q\"", "a\nb\r\n", " blanks ", "@Invalid()", "@ByteArray(x)", "@", "@@x", "500",
-        "-7",   "007",   "1.5",      "\xFF\xFE", "\xC3\xA4",   "%41",           "=", "[s]", "\xEF\xBB\xBFx"};
-    {
-        const auto store = Open();
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            store->WriteText("s", CString(std::to_string(i).c_str()), texts[i]);
-    }
-    const auto store = Open();
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        EXPECT_EQ(store->ReadText("s", CString(std::to_string(i).c_str())), CString(texts[i])) << texts[i];
+    kept_values::ExpectTextsComeBackByteByByte([this] { return Open(); });
 }
 
 TEST_F(RegistrySettings, NamesWithMarksOfAPathAreNamesAndNothingElse) {
-    // All different without regard to case, which the registry doesn't keep apart.
-    const std::vector<const char*> names = {"a\\b",    "a/b", "[a]", "a=b", "%",    "%5C",  "",
-                                            "General", "a b", " a",  "@a",  "\xFF", "a\tb", "\xE4\xB8\xAD"};
-    {
-        const auto store = Open();
-        int value = 0;
-        for (const char* section : names) {
-            for (const char* key : names)
-                store->WriteInteger(section, key, value++);
-        }
-    }
-    const auto store = Open();
-    int value = 0;
-    for (const char* section : names) {
-        for (const char* key : names)
-            EXPECT_EQ(store->ReadInteger(section, key), value++) << '"' << section << "\" \"" << key << '"';
-    }
+    kept_values::ExpectNamesStayApart([this] { return Open(); }, kept_values::OddNames());
 }
 
 TEST_F(RegistrySettings, WhatAnotherProgramWroteStays) {
