@@ -61,11 +61,14 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent) {
     setWindowTitle(tr("Tcl protocol"));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* const pages = new QTabWidget(this);
+    pages->setAccessibleName(tr("Pages"));
     auto* const commands = PlainText(gDescribeAllCommands() + gDescribe(CellCommand::Help()) +
                                          gDescribe(NavigatorCommand::Help()) +
                                          gDescribe(UserCommand::Help()) + gDescribe(UserMenuCommand::Help()),
                                      "helpCommands", pages);
+    commands->setAccessibleName(tr("Commands for scripts"));
     auto* const protocol = new QTextBrowser(pages);
+    protocol->setAccessibleName(tr("Lines of the navigator"));
     protocol->setObjectName(QStringLiteral("helpProtocol"));
     // Its links lead to files beside the document, which are not in the program.
     protocol->setOpenLinks(false);
@@ -89,6 +92,7 @@ AboutWindow::AboutWindow(const std::string& facts, QWidget* parent) : QDialog(pa
     font.setPointSizeF(font.pointSizeF() * 1.5);
     title->setFont(font);
     auto* const text = PlainText(facts, "aboutFacts", this);
+    text->setAccessibleName(tr("Facts of the program and the machine"));
     QDialogButtonBox* const box = CloseBox(*this);
     QPushButton* const copy = box->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
     copy->setObjectName(QStringLiteral("aboutCopy"));

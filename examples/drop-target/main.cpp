@@ -16,6 +16,7 @@
 #include <QStatusBar>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "examples/drop-target/Canvas.h"
 #include "examples/drop-target/Design.h"
@@ -111,6 +112,9 @@ int main(int argc, char** argv) {
 
     vapp_library_browser::TLibraryBrowser navigator;
     navigator.Initialize(&frame, interp.get(), nullptr);
+    navigator.AddCellViewListFilterType("All");
+    for (const auto& [tab, text] : {std::pair(0, "Names"), std::pair(1, "Details"), std::pair(2, "Own")})
+        navigator.SetCellTabsText(tab, text);
     navigator.SerializeSetup(false);
     navigator.SetCellListDefaultMenuCommand("place", vapp_library_browser::StyleFocusedLcv);
     Tcl_CreateObjCommand(interp.get(), "place", &PlaceCommand, canvas, nullptr);

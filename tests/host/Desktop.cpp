@@ -80,6 +80,12 @@ DesktopProgram::~DesktopProgram() {
     Kill();
 }
 
+void DesktopProgram::Set(const QString& variable, const QString& value) {
+    QProcessEnvironment environment = m_process.processEnvironment();
+    environment.insert(variable, value);
+    m_process.setProcessEnvironment(environment);
+}
+
 void DesktopProgram::Start(const QStringList& words) {
     StartProgram(QStringLiteral(DESKTOP_PROGRAM), words);
 }

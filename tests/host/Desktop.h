@@ -41,6 +41,8 @@ public:
     DesktopProgram(const Desktop& desktop, const std::filesystem::path& home);
     ~DesktopProgram();
 
+    /// A variable of the environment in which it is going to be started.
+    void Set(const QString& variable, const QString& value);
     /// Starts the program that DESKTOP_PROGRAM names at the build of the test.
     void Start(const QStringList& words);
     void StartProgram(const QString& program, const QStringList& words);

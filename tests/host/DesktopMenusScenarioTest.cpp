@@ -21,9 +21,13 @@ protected:
     void SetUp() override {
         DesktopFixture::SetUp();
         if (IsSkipped()) return;
+        Begin({});
+    }
+    void Begin(const QStringList& more) {
         m_home.Write("scripts/items.tcl", csItems);
-        m_first->Start(Words(
-            {QStringLiteral("--scripts"), QString::fromStdString((m_home.Path() / "scripts").string())}));
+        m_first->Start(
+            Words(more + QStringList{QStringLiteral("--scripts"),
+                                     QString::fromStdString((m_home.Path() / "scripts").string())}));
         ASSERT_TRUE(Await(*m_first, "[dict get $s rows] == 45")) << m_first->Errors();
         ASSERT_TRUE(m_first->Focus());
     }
@@ -115,6 +119,29 @@ TEST_F(DesktopMenusTest, HiddenCellsLeaveTheListAndComeBackAfterARestartOnlyIfWa
     const auto second = NewProgram();
     second->Start(Words());
     EXPECT_TRUE(Await(*second, "[dict get $s rows] == 44")) << second->Errors();
+}
+
+/// The dark theme on a screen of twice as many points; places are told in pixels of the logic.
+class DesktopSharpMenusTest : public DesktopMenusTest {
+protected:
+    static constexpr int cnScale = 2;
+    void SetUp() override {
+        DesktopFixture::SetUp();
+        if (IsSkipped()) return;
+        m_first->Set(QStringLiteral("QT_SCALE_FACTOR"), QString::number(cnScale));
+        Begin({QStringLiteral("--dark"), QStringLiteral("--size"), QStringLiteral("640x500")});
+    }
+};
+
+TEST_F(DesktopSharpMenusTest, ItemsAreWhereTheyAreSeenAndOfSubMenusToo) {
+    RightClick(PlaceOf("row 2").center() * cnScale);
+    Click(Item("Tell me") * cnScale);
+    EXPECT_TRUE(Got("focused sample " + Of("cell")));
+    ASSERT_TRUE(NoMenu());
+    RightClick(PlaceOf("row 0").center() * cnScale);
+    Click(Item("More") * cnScale);
+    Click(Item("Below") * cnScale);
+    EXPECT_TRUE(Await(*m_first, "[lindex [dict get $s typed] 0] eq {below}"));
 }
 
 }  // namespace

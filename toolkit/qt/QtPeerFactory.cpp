@@ -9,6 +9,7 @@
 
 #include "toolkit/qt/QtButtonPeer.h"
 #include "toolkit/qt/QtClipboard.h"
+#include "toolkit/qt/QtComboAccessible.h"
 #include "toolkit/qt/QtComboPeer.h"
 #include "toolkit/qt/QtDialogPeer.h"
 #include "toolkit/qt/QtDrag.h"
@@ -44,6 +45,7 @@ using namespace vapp_qt;
 
 QtPeerFactory::QtPeerFactory() {
     gInstallRowAccessibility();
+    gInstallComboAccessibility();
 }
 
 QtPeerFactory::~QtPeerFactory() {

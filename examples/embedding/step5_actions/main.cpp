@@ -23,8 +23,7 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        constexpr WPARAM cnSelectionChanged = 1;
-        if (message == WM_LN_HOSTNOTIFY && wParam == cnSelectionChanged)
+        if (message == WM_LN_HOSTNOTIFY && wParam == cnNotifySelectionChanged)
             std::puts("  main window: the selection has changed");
         if (message == WM_LN_BUILDCELLMENU) AddItems();
         if (message == WM_LN_ISDARKTHEME) return 0;

@@ -16,9 +16,10 @@
 /// setting of the excluded views.
 ///
 /// DestroyWindow may come from inside of a line; the panes' objects then live on until the next Initialize or
-/// the end of this object. The object itself may be destroyed while a menu or a drag of the navigator is
-/// open, and by the command that a menu or a double click runs: then the panes' objects live on until the
-/// next navigator's Initialize. It must not be destroyed from inside of any other line or message.
+/// the end of this object. The object itself may be destroyed while a menu of the navigator is filled or
+/// open, while a drag goes on, in answer to the message of a double click or of a pick in a tab's menu, and
+/// by the command that a menu or a double click runs: then the panes' objects live on until the next
+/// navigator's Initialize. It must not be destroyed from inside of any other line or message.
 #pragma once
 
 #include <cstddef>
