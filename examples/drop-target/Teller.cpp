@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QMenu>
 #include <QTextStream>
 #include <QThread>
 #include <iostream>
@@ -39,6 +40,21 @@ QString PlacesOfRows(const QWidget& window, UINT list) {
     for (int row = 0; row < rows->model()->rowCount(); ++row) {
         const QRect area = rows->visualRect(rows->model()->index(row, 0));
         places += PlaceOf(*rows->viewport(), area.center());
+    }
+    return places;
+}
+
+// The items of the menus that are open, and their middles.
+QString PlacesOfItems() {
+    QString places;
+    for (const QWidget* const window : QApplication::topLevelWidgets()) {
+        const auto* const menu = qobject_cast<const QMenu*>(window);
+        if (menu == nullptr || !menu->isVisible()) continue;
+        for (QAction* const item : menu->actions()) {
+            const QString text = item->text().remove(QLatin1Char('&'));
+            const QPoint middle = menu->actionGeometry(item).center();
+            places += QStringLiteral(" \"%1\"").arg(text) + PlaceOf(*menu, middle);
+        }
     }
     return places;
 }
@@ -87,6 +103,7 @@ void Teller::TellWhatIsSeen() {
     Tell(QStringLiteral("drag"), IsDragging() ? QStringLiteral(" begun") : QStringLiteral(" over"));
     const bool isOpen = QApplication::activePopupWidget() != nullptr;
     Tell(QStringLiteral("menu"), isOpen ? QStringLiteral(" open") : QStringLiteral(" closed"));
+    Tell(QStringLiteral("items"), PlacesOfItems());
 }
 
 // The list may end while a row of it is dragged: the drag goes on, in a loop of events of its own.

@@ -13,10 +13,10 @@
 #include "examples/drop-target/Canvas.h"
 #include "vapp/browser/TLibraryBrowser.h"
 
-/// Tells, a line each on the standard output, where the canvas, the libraries and the rows are, when a drag
-/// or a menu begins and ends, and which effect a drag had. Takes orders, a line each on the standard input:
-/// `refresh` gives the design a cell more and fetches the rows anew, `close` ends the navigator, `count`
-/// tells how many cells are placed.
+/// Tells, a line each on the standard output, where the canvas, the libraries, the rows and the items of open
+/// menus are, when a drag or a menu begins and ends, and which effect a drag had. Takes orders, a line each
+/// on the standard input: `refresh` gives the design a cell more and fetches the rows anew, `close` ends the
+/// navigator, `count` tells how many cells are placed.
 class Teller {
 public:
     /// All must outlive it.

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QPoint>
+#include <QRegularExpression>
 #include <QStringList>
 #include <memory>
 
@@ -85,6 +86,16 @@ protected:
     std::string NextPlaced() {
         const auto told = m_navigator->WaitFor(QStringLiteral("placed"), [](const QString&) { return true; });
         return told ? told->toStdString() : "none: " + m_navigator->Errors();
+    }
+    // The middle of an item, once it is seen.
+    QPoint Item(const char* text) {
+        const QRegularExpression place(QStringLiteral("\"%1\" (\\d+) (\\d+)").arg(QLatin1String(text)));
+        const auto told = m_navigator->WaitFor(QStringLiteral("items"), [&place](const QString& items) {
+            return place.match(items).hasMatch();
+        });
+        const QRegularExpressionMatch found = place.match(told.value_or(QString()));
+        EXPECT_TRUE(found.hasMatch()) << text << ": " << m_navigator->Errors();
+        return {found.captured(1).toInt(), found.captured(2).toInt()};
     }
     // There is no window manager that would do it.
     void GiveTheKeyboard() {
@@ -198,6 +209,18 @@ TEST_F(DropTargetTest, ARightClickOpensTheMenuOfThatRow) {
     ASSERT_TRUE(Hear("menu", "open")) << m_navigator->Errors();
     Press("p");
     EXPECT_EQ(NextPlaced(), R"("chip" "logic" "nand2" "symbol" "" left)");
+    EXPECT_TRUE(Hear("menu", "closed"));
+}
+
+TEST_F(DropTargetTest, ItemsArePickedByTheMouseAloneAlsoOfASubMenu) {
+    Click(Row(1), "3");
+    Click(Item("Place"), "1");
+    EXPECT_EQ(NextPlaced(), R"("chip" "logic" "nand2" "symbol" "" left)");
+    ASSERT_TRUE(Hear("menu", "closed"));
+    Click(Row(2), "3");
+    Click(Item("More"), "1");
+    Click(Item("Place All Selected"), "1");
+    EXPECT_EQ(NextPlaced(), R"("chip" "logic" "nor2" "symbol" "" left)");
     EXPECT_TRUE(Hear("menu", "closed"));
 }
 
