@@ -194,6 +194,32 @@ TEST_F(ScaleScenarioTest, BetweenSelectedRowsNothingShinesThrough) {
     EXPECT_EQ(gPixelsOf(picture, beside, highlight), beside.width() * beside.height());
 }
 
+TEST_F(ScaleScenarioTest, TheFrameOfTheFocusHasFourEdgesOfOneWidth) {
+    Populate(3);
+    report.SetGridStyle(false, 0);
+    report.SetGridStyle(true, 0);
+    report.SetFocusedRow(CXTPReportRow(0));
+    report.SetFocus();
+    ASSERT_TRUE(View()->hasFocus());
+    const Scaled scaled(Viewport());
+    const QImage picture = Scaled::Grab(Viewport());
+    const QColor line = View()->palette().color(QPalette::Active, QPalette::Highlight);
+    const QRect row = scaled.Inner(QRectF(0, 0, Viewport().width(), report.GetRowHeight()));
+    const int thick = qCeil(scaled.Ratio());
+    const QRect across(row.left() + row.width() / 4, row.top(), row.width() / 2, thick);
+    const QRect down(row.left(), row.top() + row.height() / 4, thick, row.height() / 2);
+    // A third of an edge is dots, at larger scales more.
+    const int wide = qFloor(across.width() * scaled.Ratio() * 0.3);
+    const int high = qFloor(down.height() * scaled.Ratio() * 0.3);
+    EXPECT_GE(gPixelsOf(picture, across, line), wide);
+    EXPECT_GE(gPixelsOf(picture, across.translated(0, row.height() - thick), line), wide);
+    EXPECT_GE(gPixelsOf(picture, down, line), high);
+    EXPECT_GE(gPixelsOf(picture, down.translated(row.width() - thick, 0), line), high);
+    const QRect inside = row.adjusted(thick, thick, -thick, -thick);
+    EXPECT_EQ(gPixelsOf(picture, inside, line), 0);
+    EXPECT_EQ(gPixelsOf(picture, row.translated(0, row.height() + 1), line), 0);
+}
+
 TEST_F(ScaleScenarioTest, ALibrarysMarksAndNameKeepTheirPlaces) {
     MarkedList list;
     ASSERT_TRUE(list.Create(&shown.form, 9, {0, 0, 200, 120}));

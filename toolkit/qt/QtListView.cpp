@@ -91,10 +91,7 @@ void QtListView::PaintRow(QPainter& painter, const QRect& row, const ListItemLoo
     const QRect text = row.adjusted(look.textIndent, 0, 0, 0);
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(gToQString(look.text), Qt::ElideRight, text.width()));
-    if (!look.focusRect) return;
-    painter.setPen(QPen(ink, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(row.adjusted(0, 0, -1, -1));
+    if (look.focusRect) PaintFocusFrame(painter, row, ink);
 }
 
 bool QtListView::viewportEvent(QEvent* event) {

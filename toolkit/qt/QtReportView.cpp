@@ -203,9 +203,7 @@ void QtReportView::PaintFocus(QPainter& painter) const {
     const bool selected = m_report->GetSelectedRows().Contains(*row);
     const QColor line =
         selected ? palette().color(QPalette::HighlightedText) : palette().color(QPalette::Highlight);
-    painter.setPen(QPen(line, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    PaintFocusFrame(painter, area, line);
 }
 
 const QFont& QtReportView::FontOf(const CFont* font) const {

@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <chrono>
@@ -70,6 +71,13 @@ QtRowView::QtRowView(QtRowControl& control, QWidget* parent)
 void QtRowView::Detach() {
     m_control = nullptr;
     viewport()->update();
+}
+
+// A pen's line lies around its path: along the edge, half of it would be cut off at scales other than one.
+void QtRowView::PaintFocusFrame(QPainter& painter, const QRect& area, const QColor& line) {
+    painter.setPen(QPen(line, 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 // --- State of the control, on its way to Qt ------------------------------------------------------------

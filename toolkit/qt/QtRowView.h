@@ -11,6 +11,8 @@
 
 #include "toolkit/qt/QtRowControl.h"
 
+class QPainter;
+
 namespace vapp_qt {
 
 class QtRowView : public QAbstractItemView {
@@ -52,6 +54,8 @@ public:
 protected:
     /// Measures the font and tells the control the heights.
     virtual void ApplyFont() = 0;
+    /// A dotted frame just inside the area, one unit wide at every scale.
+    static void PaintFocusFrame(QPainter& painter, const QRect& area, const QColor& line);
 
     [[nodiscard]] QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] int horizontalOffset() const override;
