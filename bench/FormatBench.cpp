@@ -17,11 +17,11 @@
 #include <string>
 #include <vector>
 
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 namespace {
 
-using vapp_text::FormatEngineering;
+using vapp::FormatEngineering;
 
 std::vector<double> MakeValues() {
     std::mt19937_64 random(20190200);

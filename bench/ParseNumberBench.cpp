@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "text/ParseEngineering.h"
 #include "vapp/text/CStringU.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace {
 
@@ -41,7 +41,7 @@ struct OursSpice {
     double operator()(const std::string& text) const {
         double value = 0;
         const char* end = nullptr;
-        static_cast<void>(vapp_text::ParseEngineering(text.c_str(), &value, &end, false));
+        static_cast<void>(vapp::ParseEngineering(text.c_str(), &value, &end, false));
         benchmark::DoNotOptimize(end);
         return value;
     }
@@ -51,7 +51,7 @@ struct OursSi {
     double operator()(const std::string& text) const {
         double value = 0;
         const char* end = nullptr;
-        static_cast<void>(vapp_text::ParseEngineering(text.c_str(), &value, &end, true));
+        static_cast<void>(vapp::ParseEngineering(text.c_str(), &value, &end, true));
         benchmark::DoNotOptimize(end);
         return value;
     }

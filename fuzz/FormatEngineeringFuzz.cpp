@@ -9,12 +9,12 @@
 #include <cstring>
 #include <string>
 
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 namespace {
 
 using boost::logic::tribool;
-using vapp_text::EngineeringFormatOption;
+using vapp::EngineeringFormatOption;
 
 void Require(bool holds) {
     if (!holds) std::abort();
@@ -62,13 +62,13 @@ void CheckForm(const CStringU& text, bool align, double value) {
 void CheckReadsBack(double value) {
     if (!std::isfinite(value)) return;
     const CStringU text =
-        vapp_text::FormatEngineering(value, 17, true, false, true, TeUnitScale::Scientific, false);
+        vapp::FormatEngineering(value, 17, true, false, true, TeUnitScale::Scientific, false);
     Require(std::strtod(text.Payload(), nullptr) == value);
 }
 
 void CheckDistinct(double a, double b, TeUnitScale scale) {
-    const CStringU ofA = vapp_text::FormatDistinct(a, b, scale);
-    const CStringU ofB = vapp_text::FormatDistinct(b, a, scale);
+    const CStringU ofA = vapp::FormatDistinct(a, b, scale);
+    const CStringU ofB = vapp::FormatDistinct(b, a, scale);
     if (std::isfinite(a) && std::isfinite(b) && a != b) Require(ofA != ofB);
 }
 
@@ -82,16 +82,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto choices = input.Take<std::uint8_t>();
     const auto scale = static_cast<TeUnitScale>(input.Take<int>());
     const bool align = (choices & 1U) != 0;
-    CheckForm(vapp_text::FormatEngineering(value, digits, (choices & 2U) != 0, align, ToTribool(choices / 4),
-                                           scale, ToTribool(choices / 16)),
+    CheckForm(vapp::FormatEngineering(value, digits, (choices & 2U) != 0, align, ToTribool(choices / 4),
+                                      scale, ToTribool(choices / 16)),
               align, value);
     const auto option1 = static_cast<EngineeringFormatOption>(input.Take<std::uint8_t>() % 12);
     const auto option2 = static_cast<EngineeringFormatOption>(input.Take<int>());
-    CheckForm(vapp_text::FormatEngineeringOptions(value, digits, option1, option2), true, value);
-    CheckForm(vapp_text::FormatEngineeringFull(value), false, value);
+    CheckForm(vapp::FormatEngineeringOptions(value, digits, option1, option2), true, value);
+    CheckForm(vapp::FormatEngineeringFull(value), false, value);
     CheckReadsBack(value);
     CheckDistinct(value, other, scale);
-    Require(vapp_text::FormatGeneral(value).GetByteLength() <= 25);
-    static_cast<void>(vapp_text::UnitSuffix(input.Take<int>(), scale));
+    Require(vapp::FormatGeneral(value).GetByteLength() <= 25);
+    static_cast<void>(vapp::UnitSuffix(input.Take<int>(), scale));
     return 0;
 }

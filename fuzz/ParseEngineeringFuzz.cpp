@@ -13,13 +13,14 @@
 #include <cstdlib>
 #include <string>
 
-#include "text/DigitsSetting.h"
-#include "text/ParseEngineering.h"
 #include "text/PlatformText.h"
 #include "text/ReadDouble.h"
+#include "vapp/text/DigitsSetting.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace {
 
+using namespace vapp;
 using namespace vapp_text;
 
 void Require(bool holds) {

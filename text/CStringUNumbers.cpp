@@ -10,10 +10,10 @@
 
 #include "text/CharToInt.h"
 #include "text/Codec.h"
-#include "text/ParseEngineering.h"
 #include "text/PlatformText.h"
 #include "text/ReadDouble.h"
 #include "vapp/text/CStringU.h"
+#include "vapp/text/ParseEngineering.h"
 
 using namespace vapp_text;  // NOLINT(google-build-using-namespace): members of a global class
 
@@ -86,7 +86,7 @@ double CStringU::ToDouble(CStringUPos* pos) const {
 double CStringU::ToDoubleEngineering(bool spiceOnly, CStringUPos* pos) const {
     return ReadNarrow(*this, pos, [spiceOnly](const char* text, const char** end) {
         double value = 0.0;
-        static_cast<void>(ReadEngineering(text, &value, end, !spiceOnly));
+        static_cast<void>(vapp::ReadEngineering(text, &value, end, !spiceOnly));
         return value;
     });
 }

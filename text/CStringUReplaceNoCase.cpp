@@ -132,7 +132,9 @@ int CStringU::ReplaceNoCase(const CStringU& oldText, const CStringU& newText) {
     if (this == &oldText || this == &newText) return ReplaceNoCase(CStringU(oldText), CStringU(newText));
     const std::string_view oldBytes = oldText.PayloadView();
     const std::string_view newBytes = newText.PayloadView();
-    if (!oldBytes.empty() && IsPlain(oldBytes) && IsPlain(newBytes) && IsPlain(PayloadView())) {
+    // A text may say that it isn't ASCII, and be: the marker is no part of what is searched.
+    if (!oldBytes.empty() && !HasNonAscii() && IsPlain(oldBytes) && IsPlain(newBytes) &&
+        IsPlain(PayloadView())) {
         return ReplacePlain(m_stored, oldBytes, newBytes);
     }
     if (!IsFound(Payload(), oldText.Payload())) return 0;

@@ -1,7 +1,7 @@
 /// @file
 /// Integers out of text in any of the world's decimal digits.
 ///
-///     text   = blank* [sign] prefix* digit*      the rest stays unread
+///     text   = blank* [sign] [prefix] digit*     the rest stays unread
 ///     blank  = as text/BlankChars.h tells
 ///     sign   = "+" U+FE62 U+FF0B, and for signed integers all the dashes of IsMinusChar
 ///     prefix = zeros, in any number, and then "x" "X" U+FF58 U+FF38 or "#": base 16

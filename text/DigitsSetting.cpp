@@ -1,14 +1,18 @@
 /// The fields of digit counts.
 
-#include "text/DigitsSetting.h"
+#include "vapp/text/DigitsSetting.h"
 
 #include <algorithm>
 
 #include "text/AsciiNumber.h"
 
-namespace vapp_text {
+namespace vapp {
 
 namespace {
+
+using vapp_text::DigitOf;
+using vapp_text::SkipSign;
+using vapp_text::SkipSpaces;
 
 /// The number that the whole text is, clamped; the default where it is none.
 unsigned ParseField(const CStringU& text, unsigned none, unsigned least, unsigned greatest) {
@@ -35,4 +39,4 @@ unsigned ParseDecimalsSetting(const CStringU& text) {
     return ParseField(text, 6, 0, 17);
 }
 
-}  // namespace vapp_text
+}  // namespace vapp

@@ -2,7 +2,7 @@
 /// fixed size, which cost less than to ask how much there is to move. The result is the only allocation.
 /// What the texts look like stands in the header.
 
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,11 +13,17 @@
 #include "text/UnitSuffixTable.h"
 #include "vapp/text/TEngineeringFormatSettings.h"
 
-namespace vapp_text {
+namespace vapp {
 
 using boost::logic::tribool;
 
 namespace {
+
+using vapp_text::cnDecimalDigitsRoom;
+using vapp_text::cnMaxDecimalDigits;
+using vapp_text::FindUnitSuffix;
+using vapp_text::TUnitSuffix;
+using vapp_text::WriteDecimalDigits;
 
 constexpr unsigned cnMinSignificantDigits = 3;
 constexpr std::size_t cnWidthBesideDigits = 9;
@@ -270,4 +276,4 @@ CStringU UnitSuffix(int exponent, TeUnitScale scale) {
     return {CString(suffix.m_letters, suffix.m_length), CStringU::TAscii()};
 }
 
-}  // namespace vapp_text
+}  // namespace vapp

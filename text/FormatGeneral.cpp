@@ -8,11 +8,14 @@
 #include <cstring>
 
 #include "text/DecimalDigits.h"
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
-namespace vapp_text {
+namespace vapp {
 
 namespace {
+
+using vapp_text::cnDecimalDigitsRoom;
+using vapp_text::WriteDecimalDigits;
 
 constexpr int cnDigits = 18;
 
@@ -62,4 +65,4 @@ CStringU FormatGeneral(double value) {
     return {text, TextEncoding::Raw, static_cast<int>(end - text)};
 }
 
-}  // namespace vapp_text
+}  // namespace vapp

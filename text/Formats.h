@@ -42,13 +42,15 @@ namespace vapp_text {
 /// printf into a new narrow string. For formats that the compiler sees.
 [[nodiscard]] CString FormatNarrow(const char* format, ...) VAPP_PRINTF_LIKE(1, 2);
 
-/// One value of a wide format, of whatever type it came in. Lives as long as the call; keeps a copy of texts.
+/// One value of a wide format, of whatever type it came in, but no `long double`, which would be cut to a
+/// double. Lives as long as the call; keeps a copy of texts.
 class WideFormatValue {
 public:
     enum class Kind { Integer, Real, Text, Pointer };
 
     template <typename Number>
-    requires std::is_arithmetic_v<Number> || std::is_enum_v<Number> WideFormatValue(Number number) {
+    requires(std::is_arithmetic_v<Number> || std::is_enum_v<Number>) &&
+        (!std::is_same_v<Number, long double>)WideFormatValue(Number number) {
         if constexpr (std::is_floating_point_v<Number>) {
             m_kind = Kind::Real;
             m_real = static_cast<double>(number);

@@ -1,7 +1,7 @@
 /// Reading of engineering numbers: one scanner for every width of characters, and then the arithmetic, whose
 /// order of operations is part of the result.
 
-#include "text/ParseEngineering.h"
+#include "vapp/text/ParseEngineering.h"
 
 #include <algorithm>
 #include <array>
@@ -14,9 +14,17 @@
 #include "text/EngineeringSuffix.h"
 #include "vapp/text/TEngineeringFormatSettings.h"
 
-namespace vapp_text {
+namespace vapp {
 
 namespace {
+
+using vapp_text::CodeOf;
+using vapp_text::DigitOf;
+using vapp_text::FindEngineeringSuffix;
+using vapp_text::IsLetterNoCase;
+using vapp_text::SkipSign;
+using vapp_text::SkipSpaces;
+using vapp_text::TEngineeringSuffix;
 
 constexpr std::ptrdiff_t cnKeptDigits = 18;  // what is sure to fit into 64 bits
 constexpr std::size_t cnLargestPower = 511;  // nine bits
@@ -166,4 +174,4 @@ CStringU ParseEngineeringWithSettings(const char* text, double* value, boost::lo
     return ParseEngineering(text, value, nullptr, si);
 }
 
-}  // namespace vapp_text
+}  // namespace vapp

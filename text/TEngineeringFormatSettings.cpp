@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "text/DigitsSetting.h"
+#include "vapp/text/DigitsSetting.h"
 
 namespace {
 
@@ -70,6 +70,5 @@ void TEngineeringFormatSettings::SetDefaultEngineeringFormatRemoveZeroExponents(
 }
 
 void TEngineeringFormatSettings::SetDefaultEngineeringFormatDigits(unsigned digits) noexcept {
-    m_digits.store(std::clamp(digits, vapp_text::GetMinDigits(), vapp_text::GetMaxDigits()),
-                   std::memory_order_relaxed);
+    m_digits.store(std::clamp(digits, vapp::GetMinDigits(), vapp::GetMaxDigits()), std::memory_order_relaxed);
 }

@@ -3,9 +3,9 @@
 #include <array>
 #include <cstddef>
 
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
-namespace vapp_text {
+namespace vapp {
 
 namespace {
 
@@ -39,4 +39,4 @@ CStringU UnitScaleName(TeUnitScale scale) {
     return FindWords(scale).m_name;
 }
 
-}  // namespace vapp_text
+}  // namespace vapp

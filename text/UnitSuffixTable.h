@@ -1,7 +1,7 @@
 /// @file
 /// The unit letters of the notations, in one table: what a power of a thousand is called.
 ///
-/// For writing only. The letters that are read are more, and not the same: see text/ParseEngineering.h.
+/// For writing only. The letters that are read are more, and not the same: see vapp/text/ParseEngineering.h.
 #pragma once
 
 #include "vapp/text/TeUnitScale.h"

@@ -15,9 +15,9 @@
 #include <string_view>
 #include <vector>
 
-#include "text/DigitsSetting.h"
-#include "text/FormatEngineering.h"
-#include "text/ParseEngineering.h"
+#include "vapp/text/DigitsSetting.h"
+#include "vapp/text/FormatEngineering.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace {
 
@@ -56,8 +56,8 @@ struct TOptions {
 std::string ReadDigits(const std::string& text, unsigned& digits) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), digits);
     const bool whole = error == std::errc() && end == text.data() + text.size();
-    const unsigned least = vapp_text::GetMinDigits();
-    const unsigned most = vapp_text::GetMaxDigits();
+    const unsigned least = vapp::GetMinDigits();
+    const unsigned most = vapp::GetMaxDigits();
     if (whole && digits >= least && digits <= most) return {};
     return "--digits wants a number from " + std::to_string(least) + " to " + std::to_string(most) +
            ", not \"" + text + "\"";
@@ -91,15 +91,15 @@ TOptions ReadOptions(const std::vector<std::string>& arguments) {
 TRow MakeHead() {
     TRow row = {"Text", "General"};
     for (std::size_t i = 0; i < std::size(cnScales); ++i)
-        row[2 + i] = vapp_text::UnitScaleName(cnScales[i]).Payload();
+        row[2 + i] = vapp::UnitScaleName(cnScales[i]).Payload();
     return row;
 }
 
 TRow MakeRow(const std::string& text, double value, const TOptions& options) {
-    TRow row = {text, vapp_text::FormatGeneral(value).Payload()};
+    TRow row = {text, vapp::FormatGeneral(value).Payload()};
     for (std::size_t i = 0; i < std::size(cnScales); ++i) {
-        row[2 + i] = vapp_text::FormatEngineering(value, options.m_digits, true, false, !options.m_keepZeroes,
-                                                  cnScales[i], true)
+        row[2 + i] = vapp::FormatEngineering(value, options.m_digits, true, false, !options.m_keepZeroes,
+                                             cnScales[i], true)
                          .Payload();
     }
     return row;
@@ -148,8 +148,8 @@ const char* EndOfNumber(const char* text, bool si, double& value) {
     const char* end = nullptr;
     const char* spiceEnd = nullptr;
     double ignored = 0;
-    if (!vapp_text::ReadEngineering(text, &ignored, &spiceEnd, false)) return nullptr;
-    static_cast<void>(vapp_text::ReadEngineering(text, &value, &end, si));
+    if (!vapp::ReadEngineering(text, &ignored, &spiceEnd, false)) return nullptr;
+    static_cast<void>(vapp::ReadEngineering(text, &value, &end, si));
     // The SPICE reading never ends before the number does. If the SI reading does, it has found no unit, and
     // stands on the last character.
     return end < spiceEnd ? end + 1 : end;

@@ -11,6 +11,8 @@
 #include <cstring>
 #include <new>
 
+#include "platform/win32/ClipboardMemory.h"
+
 namespace vapp_platform {
 
 namespace {
@@ -47,9 +49,6 @@ private:
     void* m_memory;
 };
 
-// The system's memory, as bytes. The flag GMEM_DDESHARE is 0x2000; old readers of the clipboard ask for it.
-constexpr UINT cnClipboardMemory = GMEM_MOVEABLE | 0x2000;
-
 template <typename Unit>
 bool Fill(HGLOBAL block, std::basic_string_view<Unit> text) noexcept {
     const LockedBlock memory(block);
@@ -62,7 +61,7 @@ bool Fill(HGLOBAL block, std::basic_string_view<Unit> text) noexcept {
 
 template <typename Unit>
 bool Put(UINT format, std::basic_string_view<Unit> text) noexcept {
-    const HGLOBAL block = GlobalAlloc(cnClipboardMemory, (text.size() + 1) * sizeof(Unit));
+    const HGLOBAL block = GlobalAlloc(cnClipboardMemory, ClipboardBytes(text));
     if (block == nullptr) return false;
     // Once the clipboard has taken it, the block is the system's.
     if (Fill(block, text) && SetClipboardData(format, block) != nullptr) return true;

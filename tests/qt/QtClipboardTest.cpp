@@ -36,6 +36,22 @@ TEST(QtClipboard, OffersUnicodeAndTheNarrowForm) {
     EXPECT_EQ(clipboard.GetText(), u"a\u00e9\u4e2d\U0001F600");
 }
 
+TEST(QtClipboard, NamesTheCharactersOfACodePageAsOtherProgramsDo) {
+    struct TRow {
+        unsigned codePage;
+        const char* name;
+    };
+    const TRow rows[] = {
+        {65001, "utf-8"},       {28591, "iso-8859-1"},  {28605, "iso-8859-15"}, {28606, "iso-8859-16"},
+        {1252, "windows-1252"}, {1254, "windows-1254"}, {20866, "koi8-r"},      {21866, "koi8-u"},
+        {51932, "euc-jp"},      {51949, "euc-kr"},      {54936, "gb18030"},     {936, "gbk"},
+        {950, "big5"},          {932, "shift_jis"},     {874, "tis-620"},       {437, "cp437"},
+        {28590, "cp28590"},     {28607, "cp28607"},
+    };
+    for (const TRow& row : rows)
+        EXPECT_EQ(vapp_qt::gCharacterSetOf(row.codePage).toStdString(), row.name);
+}
+
 TEST(QtClipboard, ReadsWhatOtherProgramsPutThere) {
     const QtClipboard clipboard;
     QGuiApplication::clipboard()->setText(QStringLiteral("fr\u00e4mmande"));

@@ -6,6 +6,7 @@
 #include "tests/text/HostileText.h"
 #include "tests/text/LocaleTables.h"
 #include "text/Fold.h"
+#include "text/Search.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
 
@@ -250,6 +251,21 @@ TEST(CStringUReplace, AStaleMarkerGoesWithAReplacement) {
     text = Raw("\x80\xC3\xA9_");
     EXPECT_EQ(text.Replace("_", "-"), 1);
     EXPECT_EQ(Stored(text), "\xC3\xA9-");
+    for (const char* const newText : {"y", "yy"}) {
+        text =
+            Raw("\x80"
+                "aXbX");
+        EXPECT_EQ(text.ReplaceNoCase("x", newText), 2);
+        EXPECT_EQ(Stored(text), newText[1] == '\0' ? "ayby" : "ayyyyX");
+    }
+    text =
+        Raw("\x80"
+            "aXbX");
+    EXPECT_EQ(text.ReplaceNoCase("c", "d"), 0);
+    EXPECT_EQ(Stored(text),
+              "\x80"
+              "aXbX")
+        << "nothing found, nothing touched";
 }
 
 TEST(CStringUReplace, NoLocaleChangesTheFormsOfACharacter) {
@@ -328,12 +344,10 @@ std::u16string Lower(std::u16string text) {
     return text;
 }
 
-// The rule word by word, each edit on the whole text.
-TReplaced ModelNoCase(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
+// The rule of a text that is found, word by word, each edit on the whole text.
+TReplaced ModelOfHits(std::u16string text, const std::u16string& oldText, const std::u16string& newText) {
     const std::u16string low = Lower(text);
     const std::u16string lowOld = Lower(oldText);
-    const bool found = IsAscii(oldText) ? low.find(lowOld) != low.npos : low.ends_with(lowOld);
-    if (!found) return {0, text};
     int count = 0;
     for (std::size_t at = low.find(lowOld); at != low.npos && at <= text.size();) {
         const std::size_t behind = std::min(at + oldText.size(), text.size());
@@ -343,6 +357,14 @@ TReplaced ModelNoCase(std::u16string text, const std::u16string& oldText, const 
         at = low.find(lowOld, at + moved);
     }
     return {count, text};
+}
+
+TReplaced ModelNoCase(const std::u16string& text, const std::u16string& oldText,
+                      const std::u16string& newText) {
+    const std::u16string low = Lower(text);
+    const std::u16string lowOld = Lower(oldText);
+    const bool found = IsAscii(oldText) ? low.find(lowOld) != low.npos : low.ends_with(lowOld);
+    return found ? ModelOfHits(text, oldText, newText) : TReplaced{0, text};
 }
 
 // ASCII is replaced by bytes, a way of its own.
@@ -406,11 +428,35 @@ void ExpectModelOrNothing(const CStringU& source, const CStringU& result, int co
     ASSERT_EQ(result.ToWide(), units) << Shown(Stored(source));
 }
 
+// Found or not is the search's to say, which goes by the look of the bytes; all behind that is the model's.
+// What is found by its bytes and not by its characters comes back as it decodes.
+void ExpectReplacedAsFound(const CStringU& source, const CStringU& result, int count, const CStringU& oldText,
+                           const CStringU& newText) {
+    if (vapp_text::FindTextNoCaseU(source.Payload(), oldText.Payload()) == vapp_text::cnNotFound) {
+        ASSERT_EQ(count, 0) << Shown(Stored(source)) << ' ' << Shown(Stored(oldText));
+        ASSERT_EQ(Stored(result), Stored(source));
+        return;
+    }
+    const TReplaced expected = ModelOfHits(source.ToWide(), oldText.ToWide(), newText.ToWide());
+    ASSERT_EQ(count, expected.count) << Shown(Stored(source)) << ' ' << Shown(Stored(oldText));
+    ASSERT_EQ(result.ToWide(), expected.text.substr(0, expected.text.find(u'\0'))) << Shown(Stored(source));
+}
+
+// From anywhere to the end, or some of it.
+std::string PieceOf(std::mt19937& random, const CStringU& text) {
+    const std::string_view bytes = text.PayloadView();
+    const std::size_t from = UpTo(random, bytes.size());
+    const std::size_t most = bytes.size() - from;
+    return std::string(bytes.substr(from, UpTo(random, 1) == 0 ? most : UpTo(random, most)));
+}
+
 TEST(CStringUReplace, MalformedTextsAreReplacedAsTheyDecode) {
     std::mt19937 random = SeededRandom();
     for (int round = 0; round < 20000; ++round) {
-        const CStringU source(HostileBytes(random).c_str(), TextEncoding::Utf8Auto);
-        const CStringU oldText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
+        const CStringU source(HostileBytes(random, round % 4 == 0 ? 60 : 12).c_str(), TextEncoding::Utf8Auto);
+        // A long one is searched for in another way than a short one.
+        const std::string oldBytes = round % 4 == 0 ? PieceOf(random, source) : HostileBytes(random, 3);
+        const CStringU oldText(oldBytes.c_str(), TextEncoding::Utf8Auto);
         const CStringU newText(HostileBytes(random, 3).c_str(), TextEncoding::Utf8Auto);
         const char16_t oldUnit = oldText.LastChar();
         const char16_t newUnit = newText.LastChar();
@@ -423,8 +469,7 @@ TEST(CStringUReplace, MalformedTextsAreReplacedAsTheyDecode) {
         ExpectModelOrNothing(source, text, count, ReplaceModel(source.ToWide(), oldUnit, newUnit));
         text = source;
         count = text.ReplaceNoCase(oldText, newText);
-        // Found by its bytes and not by its characters: the text comes back as it decodes.
-        if (count == 0) ExpectModelOrNothing(source, text, 0, {0, source.ToWide()});
+        ExpectReplacedAsFound(source, text, count, oldText, newText);
         // The model knows ASCII by its characters, the text by its first byte: an overlong letter is both.
         if (source.HasNonAscii() == IsAscii(source.ToWide())) continue;
         text = source;

@@ -1,6 +1,6 @@
 // The settings fields of digit counts: whatever the user types becomes a count in range.
 
-#include "text/DigitsSetting.h"
+#include "vapp/text/DigitsSetting.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace vapp_text;
+using namespace vapp;
 
 TEST(DigitsSetting, FieldsByTheTable) {
     struct TRow {

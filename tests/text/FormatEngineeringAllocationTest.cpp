@@ -11,8 +11,8 @@
 
 #include "tests/text/AllocationCount.h"
 #include "text/BlockCache.h"
-#include "text/FormatEngineering.h"
 #include "vapp/text/CString.h"
+#include "vapp/text/FormatEngineering.h"
 
 namespace {
 
@@ -47,21 +47,21 @@ TEST(FormatEngineeringAllocation, ATextIsTheOnlyAllocation) {
         for (const unsigned digits : {3U, 4U, 17U, 18U, 100U, 800U, 4'000'000'000U}) {
             for (int scale = 0; scale <= 4; ++scale) {
                 const std::size_t count = CountKept([&] {
-                    return vapp_text::FormatEngineering(value, digits, scale % 2 == 0, digits % 2 == 0,
-                                                        scale > 2, static_cast<TeUnitScale>(scale), true);
+                    return vapp::FormatEngineering(value, digits, scale % 2 == 0, digits % 2 == 0, scale > 2,
+                                                   static_cast<TeUnitScale>(scale), true);
                 });
                 EXPECT_EQ(count, 1U) << value << ' ' << digits << ' ' << scale;
             }
         }
-        EXPECT_EQ(CountKept([&] { return vapp_text::FormatGeneral(value); }), 1U) << value;
-        EXPECT_EQ(CountKept([&] { return vapp_text::FormatEngineeringFull(value); }), 1U) << value;
-        EXPECT_EQ(CountKept([&] { return vapp_text::FormatEngineeringOptions(value); }), 1U) << value;
+        EXPECT_EQ(CountKept([&] { return vapp::FormatGeneral(value); }), 1U) << value;
+        EXPECT_EQ(CountKept([&] { return vapp::FormatEngineeringFull(value); }), 1U) << value;
+        EXPECT_EQ(CountKept([&] { return vapp::FormatEngineeringOptions(value); }), 1U) << value;
     }
 }
 
 TEST(FormatEngineeringAllocation, TwoValuesThatDifferAtOnceCostTwo) {
     const std::vector<CString> inUse = TextsInAllBlocks();
-    EXPECT_EQ(CountKept([] { return vapp_text::FormatDistinct(1, 2, TeUnitScale::Si); }), 2U);
+    EXPECT_EQ(CountKept([] { return vapp::FormatDistinct(1, 2, TeUnitScale::Si); }), 2U);
 }
 
 }  // namespace

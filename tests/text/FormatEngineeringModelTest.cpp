@@ -14,7 +14,7 @@
 
 #include "tests/text/BigDecimal.h"
 #include "tests/text/TextHelpers.h"
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 namespace {
 
@@ -24,9 +24,8 @@ using text_test::TBigDecimal;
 using text_test::TModelStyle;
 
 std::string Ours(double value, const TModelStyle& style) {
-    return vapp_text::FormatEngineering(value, static_cast<unsigned>(style.digits), style.significant,
-                                        style.align, style.strip, static_cast<TeUnitScale>(style.scale),
-                                        style.stripExponent)
+    return vapp::FormatEngineering(value, static_cast<unsigned>(style.digits), style.significant, style.align,
+                                   style.strip, static_cast<TeUnitScale>(style.scale), style.stripExponent)
         .Payload();
 }
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-using vapp_text::FormatEngineering;
+using vapp::FormatEngineering;
 
 TEST(FormatEngineeringRoundTrip, RandomDoublesComeBack) {
     std::mt19937 random = text_test::SeededRandom("RandomDoublesComeBack");
@@ -50,8 +50,7 @@ TEST(FormatEngineeringRoundTrip, ShortNumbersComeBackToTheLastBitInEveryLetter) 
                 EXPECT_EQ(text_test::ReadExactly(text.Payload(), static_cast<TeUnitScale>(scale)), value)
                     << text.Payload();
                 double read = 0;
-                EXPECT_TRUE(
-                    vapp_text::ParseEngineering(text.Payload(), &read, nullptr, scale == 0).IsEmpty());
+                EXPECT_TRUE(vapp::ParseEngineering(text.Payload(), &read, nullptr, scale == 0).IsEmpty());
                 EXPECT_LE(text_test::DistanceInUnits(read, value), 1) << text.Payload();
             }
         }
@@ -64,7 +63,7 @@ TEST(FormatEngineeringRoundTrip, AlignedTextsComeBack) {
             const CStringU text =
                 FormatEngineering(value, 4, true, true, false, static_cast<TeUnitScale>(scale), false);
             double read = 99;
-            EXPECT_TRUE(vapp_text::ParseEngineering(text.Payload(), &read, nullptr, scale == 0).IsEmpty());
+            EXPECT_TRUE(vapp::ParseEngineering(text.Payload(), &read, nullptr, scale == 0).IsEmpty());
             EXPECT_NEAR(read, value, std::fabs(value) * 1e-15) << '"' << text.Payload() << '"';
         }
     }
@@ -92,7 +91,7 @@ TEST(FormatEngineeringRoundTrip, NotationsReadOneAnotherOtherwiseInTheseLetters)
         const CStringU text = FormatEngineering(row.value, 3, true, false, true, row.scale, true);
         EXPECT_EQ(text, row.text);
         double read = 0;
-        EXPECT_TRUE(vapp_text::ParseEngineering(text.Payload(), &read, nullptr, row.si).IsEmpty());
+        EXPECT_TRUE(vapp::ParseEngineering(text.Payload(), &read, nullptr, row.si).IsEmpty());
         EXPECT_DOUBLE_EQ(read, row.read) << row.text;
     }
 }
@@ -100,8 +99,8 @@ TEST(FormatEngineeringRoundTrip, NotationsReadOneAnotherOtherwiseInTheseLetters)
 TEST(FormatEngineeringRoundTrip, OthersComeBackAsNothingOrAsZero) {
     const auto read = [](double value) {
         double back = 99;
-        const CStringU error = vapp_text::ParseEngineering(vapp_text::FormatEngineeringFull(value).Payload(),
-                                                           &back, nullptr, true);
+        const CStringU error =
+            vapp::ParseEngineering(vapp::FormatEngineeringFull(value).Payload(), &back, nullptr, true);
         return std::make_pair(std::string(error.Payload()), back);
     };
     EXPECT_EQ(read(std::nan("")), std::make_pair(std::string("Not a number"), 0.0));

@@ -1,7 +1,7 @@
 // Number texts by tables: notations, unit letters, options, the settings behind them, and values that are no
 // numbers. Against big decimals: FormatEngineeringModelTest.cpp.
 
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 #include <gtest/gtest.h>
 
@@ -17,12 +17,12 @@
 namespace {
 
 using boost::logic::indeterminate;
-using vapp_text::EngineeringFormatOption;
-using vapp_text::FormatDistinct;
-using vapp_text::FormatEngineering;
-using vapp_text::FormatEngineeringFull;
-using vapp_text::FormatEngineeringOptions;
-using vapp_text::UnitSuffix;
+using vapp::EngineeringFormatOption;
+using vapp::FormatDistinct;
+using vapp::FormatEngineering;
+using vapp::FormatEngineeringFull;
+using vapp::FormatEngineeringOptions;
+using vapp::UnitSuffix;
 
 constexpr double cnInfinity = std::numeric_limits<double>::infinity();
 constexpr double cnNaN = std::numeric_limits<double>::quiet_NaN();
@@ -396,7 +396,7 @@ TEST_F(FormatEngineeringText, HasALetterForEachPowerOfAThousand) {
 
 void ExpectTextsOfThePlainLocale() {
     EXPECT_EQ(Long(1234.5e6, 6, cnSignificant, TeUnitScale::HSpice), "1.23450G");
-    EXPECT_EQ(vapp_text::FormatGeneral(1.5), "1.5");
+    EXPECT_EQ(vapp::FormatGeneral(1.5), "1.5");
     EXPECT_EQ(Short(1e6, 3, TeUnitScale::HSpice), "1MEG");
     EXPECT_EQ(FormatDistinct(1.25, 1.5, TeUnitScale::Si), "1.25");
 }

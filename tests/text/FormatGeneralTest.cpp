@@ -10,11 +10,11 @@
 
 #include "tests/text/BigDecimal.h"
 #include "tests/text/TextHelpers.h"
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 namespace {
 
-using vapp_text::FormatGeneral;
+using vapp::FormatGeneral;
 
 TEST(FormatGeneral, WritesDecimalsAndPowers) {
     struct TRow {

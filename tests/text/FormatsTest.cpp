@@ -130,6 +130,10 @@ void ExpectWholeNumbersAndTexts() {
 
 TEST(Formats, GroupsAreThoseOfTheLocale) {
     EXPECT_EQ(FormatWide("%'d %'.1f %'x", 1234567, 1234.5, 255), u"1234567 1234.5 ff") << "which has none";
+    const text_test::TLocaleGuard guard(text_test::cnCommaLocales);
+    if (!guard.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
+    EXPECT_EQ(FormatWide("%'d %'.1f %'x", 1234567, 1234.5, 255), u"1.234.567 1.234,5 ff");
+    EXPECT_EQ(CStringU::Formatted("%'d", 1234567).ToWide(), u"1.234.567");
 }
 
 // Numbers for people: the C library writes them as the host has set it up.

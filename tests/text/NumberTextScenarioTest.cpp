@@ -5,20 +5,23 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <random>
+#include <string_view>
 
 #include "tests/text/HostileText.h"
-#include "text/FormatEngineering.h"
-#include "text/ParseEngineering.h"
+#include "vapp/text/FormatEngineering.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace {
 
 using namespace text_test;
-using namespace vapp_text;
+using namespace vapp;
 
 constexpr double cnInfinite = std::numeric_limits<double>::infinity();
 // Below it the power of ten of an 18-digit number is infinite.
@@ -66,6 +69,38 @@ TEST(NumberTextScenario, AnyDoubleReturnsWithinAFewSteps) {
     }
     std::cout << count << " doubles, " << exact << " returned, the others at most " << farthest
               << " steps off\n";
+}
+
+// A number of all the bytes of a text, by the rule of Fowler, Noll and Vo.
+std::uint64_t SumOf(std::uint64_t sum, std::string_view bytes) {
+    for (const char byte : bytes)
+        sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+    return sum;
+}
+
+// One number for all texts and all values read from them, so that two systems that differ in a single bit
+// show it.
+TEST(NumberTextScenario, EverySystemWritesAndReadsTheSameBits) {
+    std::mt19937_64 random(20191u);  // NOLINT(cert-msc51-cpp): the same on every system
+    std::uint64_t texts = 0xCBF29CE484222325U;
+    std::uint64_t values = texts;
+    for (int round = 0; round < 20000; ++round) {
+        const double value = AnyDouble(random);
+        const std::uint64_t choice = random();
+        const auto digits = static_cast<unsigned>(choice % 24);
+        const auto scale = static_cast<TeUnitScale>(choice / 32 % 5);
+        const CStringU text = FormatEngineering(value, digits, (choice & 256U) != 0, (choice & 512U) != 0,
+                                                (choice & 1024U) != 0, scale, (choice & 2048U) != 0);
+        texts = SumOf(SumOf(texts, text.PayloadView()), FormatGeneral(value).PayloadView());
+        for (const bool si : {false, true}) {
+            double back = 0;
+            static_cast<void>(ReadEngineering(text.Payload(), &back, nullptr, si));
+            const auto bits = std::bit_cast<std::array<char, sizeof back>>(back);
+            values = SumOf(values, {bits.data(), bits.size()});
+        }
+    }
+    EXPECT_EQ(texts, 6830194534952415313U);
+    EXPECT_EQ(values, 11377935494472007062U);
 }
 
 TEST(NumberTextScenario, WhatDesignersWriteReturnsAsItWas) {

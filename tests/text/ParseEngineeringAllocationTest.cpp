@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "tests/text/AllocationCount.h"
-#include "text/ParseEngineering.h"
 #include "text/ReadDouble.h"
 #include "vapp/text/CStringU.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace {
 
@@ -35,12 +35,12 @@ TEST(ParseEngineeringAllocation, ReadingCostsNone) {
 TEST(ParseEngineeringAllocation, OnlyTheWordsForNoNumberCost) {
     double value = 0;
     for (const bool si : {false, true}) {
-        EXPECT_EQ(CountAllocations(
-                      [&] { static_cast<void>(vapp_text::ParseEngineering("1.5k", &value, nullptr, si)); }),
-                  0U);
-        EXPECT_LE(CountAllocations(
-                      [&] { static_cast<void>(vapp_text::ParseEngineering("abc", &value, nullptr, si)); }),
-                  1U);
+        EXPECT_EQ(
+            CountAllocations([&] { static_cast<void>(vapp::ParseEngineering("1.5k", &value, nullptr, si)); }),
+            0U);
+        EXPECT_LE(
+            CountAllocations([&] { static_cast<void>(vapp::ParseEngineering("abc", &value, nullptr, si)); }),
+            1U);
     }
 }
 

@@ -10,12 +10,12 @@
 
 #include "tests/text/HostileText.h"
 #include "tests/text/NumberModels.h"
-#include "text/ParseEngineering.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace {
 
 using namespace text_test;
-using vapp_text::ParseEngineering;
+using vapp::ParseEngineering;
 
 std::uint64_t Bits(double value) {
     // The sign of a NaN is not part of any result.

@@ -1,6 +1,6 @@
 // Engineering numbers by tables: values to the last bit, end positions, errno, and the texts that are none.
 
-#include "text/ParseEngineering.h"
+#include "vapp/text/ParseEngineering.h"
 
 #include <gtest/gtest.h>
 
@@ -15,8 +15,8 @@
 namespace {
 
 using boost::logic::indeterminate;
-using vapp_text::ParseEngineering;
-using vapp_text::ParseEngineeringWithSettings;
+using vapp::ParseEngineering;
+using vapp::ParseEngineeringWithSettings;
 
 constexpr double cnParsedInfinity = std::numeric_limits<double>::infinity();
 

@@ -13,8 +13,8 @@
 #include <string>
 #include <string_view>
 
-#include "text/FormatEngineering.h"
-#include "text/ParseEngineering.h"
+#include "vapp/text/FormatEngineering.h"
+#include "vapp/text/ParseEngineering.h"
 
 namespace text_test {
 
@@ -30,7 +30,7 @@ inline double DistanceInUnits(double a, double b) {
 inline double ReadExactly(std::string_view text, TeUnitScale scale) {
     std::string plain(text);
     for (int exponent = -24; exponent <= 24; exponent += 3) {
-        const std::string letters(vapp_text::UnitSuffix(exponent, scale).Payload());
+        const std::string letters(vapp::UnitSuffix(exponent, scale).Payload());
         if (exponent == 0 || letters.empty() || !text.ends_with(letters)) continue;
         plain.resize(plain.size() - letters.size());
         plain += "e" + std::to_string(exponent);
@@ -75,7 +75,7 @@ public:
         const auto digits = static_cast<unsigned>(3 + choice / 5 % 15);
         const bool strip = choice / 128 % 2 == 0;
         const CStringU text =
-            vapp_text::FormatEngineering(value, digits, true, false, strip, scale, choice / 256 % 2 == 0);
+            vapp::FormatEngineering(value, digits, true, false, strip, scale, choice / 256 % 2 == 0);
         m_text = text.Payload();
         return CheckExact(value, digits, scale) && CheckParsed(text, value, scale);
     }
@@ -104,7 +104,7 @@ private:
     [[nodiscard]] bool CheckParsed(const CStringU& text, double value, TeUnitScale scale) {
         double read = 99;
         const bool si = scale == TeUnitScale::Si;
-        if (!vapp_text::ParseEngineering(text.Payload(), &read, nullptr, si).IsEmpty()) return false;
+        if (!vapp::ParseEngineering(text.Payload(), &read, nullptr, si).IsEmpty()) return false;
         if (std::fabs(value) < cnLeastReadValue && read == 0) return true;
         if (std::isinf(read) && std::fabs(value) <= cnLeastRoundedOut) return false;
         const double units = DistanceInUnits(Finite(read), Finite(m_exact));

@@ -4,7 +4,7 @@
 
 #include <climits>
 
-#include "text/FormatEngineering.h"
+#include "vapp/text/FormatEngineering.h"
 
 namespace {
 
@@ -26,8 +26,8 @@ TEST(UnitScaleNames, HaveAKeywordAndANameForEachNotation) {
         {INT_MIN, "undefined", "Undefined"},
     };
     for (const TRow& row : rows) {
-        EXPECT_EQ(vapp_text::UnitScaleKeyword(static_cast<TeUnitScale>(row.scale)), row.keyword) << row.scale;
-        EXPECT_EQ(vapp_text::UnitScaleName(static_cast<TeUnitScale>(row.scale)), row.name) << row.scale;
+        EXPECT_EQ(vapp::UnitScaleKeyword(static_cast<TeUnitScale>(row.scale)), row.keyword) << row.scale;
+        EXPECT_EQ(vapp::UnitScaleName(static_cast<TeUnitScale>(row.scale)), row.name) << row.scale;
     }
 }
 

@@ -20,15 +20,22 @@ namespace {
 constexpr char csUnicodeType[] = "text/plain;charset=utf-8";
 constexpr char csUnnamedType[] = "text/plain";
 
-// NATIVE: what the narrow form is in.
-QString NarrowType(unsigned codePage) {
-    const QString type = QStringLiteral("text/plain;charset=");
-    if (codePage == cnUtf8CodePage) return csUnicodeType;
-    if (codePage > 28590 && codePage <= 28590 + 16) {
-        return type + QStringLiteral("iso-8859-%1").arg(codePage - 28590);
-    }
-    if (codePage / 10 == 125) return type + QStringLiteral("windows-%1").arg(codePage);
-    return type + QStringLiteral("cp%1").arg(codePage);
+struct TNamedCodePage {
+    unsigned codePage;
+    const char* name;
+};
+
+// Those that a locale can have and whose name isn't made of their number.
+constexpr TNamedCodePage cnNamedCodePages[] = {
+    {cnUtf8CodePage, "utf-8"}, {874, "tis-620"},  {932, "shift_jis"}, {936, "gbk"},      {950, "big5"},
+    {20866, "koi8-r"},         {21866, "koi8-u"}, {51932, "euc-jp"},  {51949, "euc-kr"}, {54936, "gb18030"},
+};
+// The parts of ISO 8859 follow this one.
+constexpr unsigned cnBeforeIso8859 = 28590;
+constexpr unsigned cnIso8859Parts = 16;
+
+QString NarrowType() {
+    return QStringLiteral("text/plain;charset=") + gCharacterSetOf(gGetSystemCodePage());
 }
 
 // Without an application object there is no clipboard, and asking for it would end the process.
@@ -38,6 +45,16 @@ QClipboard* DesktopClipboard() {
 
 }  // namespace
 
+QString gCharacterSetOf(unsigned codePage) {
+    for (const TNamedCodePage& named : cnNamedCodePages) {
+        if (named.codePage == codePage) return QString::fromLatin1(named.name);
+    }
+    if (codePage > cnBeforeIso8859 && codePage <= cnBeforeIso8859 + cnIso8859Parts) {
+        return QStringLiteral("iso-8859-%1").arg(codePage - cnBeforeIso8859);
+    }
+    return (codePage / 10 == 125 ? QStringLiteral("windows-%1") : QStringLiteral("cp%1")).arg(codePage);
+}
+
 // Whether the desktop took it is asked by reading it back: not every platform of Qt tells who owns its
 // clipboard.
 bool QtClipboard::SetText(std::u16string_view wide, std::optional<std::string_view> narrow) {
@@ -46,7 +63,7 @@ bool QtClipboard::SetText(std::u16string_view wide, std::optional<std::string_vi
     const QByteArray unicodeForm = QStringView(wide).toUtf8();
     const QByteArray narrowForm =
         narrow ? QByteArray(narrow->data(), static_cast<qsizetype>(narrow->size())) : unicodeForm;
-    const QString narrowType = narrow ? NarrowType(gGetSystemCodePage()) : QString(csUnicodeType);
+    const QString narrowType = narrow ? NarrowType() : QString(csUnicodeType);
     auto data = std::make_unique<QMimeData>();
     data->setData(narrowType, narrowForm);
     data->setData(csUnicodeType, unicodeForm);

@@ -24,7 +24,6 @@ MAY_INCLUDE = {
     "host/posix": {"host/posix", "host"},
     "host/win32": {"host/win32", "host"},
     "examples": {"examples", "toolkit/qt"},
-    "examples/units": {"examples/units", "text"},  # shows a room that is not exported
 }
 LIBRARY_ROOMS = {"text", "platform", "connection", "toolkit", "app", "browser", "celllist"}
 # Rooms that are included through their exported headers only. The two panes' rooms are one window tree with pointers

@@ -287,7 +287,8 @@ public:
     // --- Formatting ------------------------------------------------------------------------------------
 
     /// A printf result, with the payload of `format` as the format, classified by TextEncoding::Utf8Auto.
-    /// Real numbers get the decimal point of the host's locale, as CString's do; nothing else of it counts.
+    /// Numbers get the decimal point, and with "'" the groups, of the host's locale, as CString's do; nothing
+    /// else of it counts.
     /// Sizes may be written "%Iu" (see CString::FormatV). Texts are passed by Payload(): a CStringU itself
     /// does not compile.
     template <FormatArgument... Arguments>
@@ -339,8 +340,9 @@ public:
 
     // --- Numbers ---------------------------------------------------------------------------------------
     // All begin at the front of the text and leave the rest unread. `pos`, unless null, becomes the place in
-    // this text where reading ended. No locale has a say: the point is always ".". Text without a number is
-    // 0.
+    // this text where reading ended. No locale has a say in digits and points: the point is always
+    // ".". But what reads floating numbers reads text outside of ASCII in the active code page. Text without
+    // a number is 0.
 
     /// What strtod reads in C's plain locale: decimal and hexadecimal floats, "inf", "nan". `pos` gets the
     /// place behind the number, or offset 0 for none. Out of range is infinity or 0 with errno ERANGE.

@@ -13,7 +13,7 @@
 
 /// Puts a text on the clipboard, as Unicode and in the system's code page, which other programs expect
 /// whatever code page is the active one here. True if both were taken. Half a surrogate pair survives only
-/// where the clipboard holds UTF-16: a toolkit whose clipboard holds UTF-8 makes U+FFFD of it.
+/// where the clipboard holds UTF-16: a toolkit whose clipboard holds UTF-8 makes another character of it.
 VAPP_EXPORT bool SetClipboardText(const CStringU& text);
 
 /// Puts a text on the clipboard as Unicode alone; programs that know no Unicode see what the system makes of

@@ -2,7 +2,7 @@
 /// EngineeringFormatOption: what a number's text is to look like, as codes that stand in option lists.
 #pragma once
 
-namespace vapp_text {
+namespace vapp {
 
 /// One wish of an option list. The codes stand in files of hosts, so they stay as they are; any other code is
 /// no option and changes nothing.
@@ -21,4 +21,4 @@ enum class EngineeringFormatOption : int {
     Engineering = 10
 };
 
-}  // namespace vapp_text
+}  // namespace vapp

@@ -1,7 +1,7 @@
 /// @file
 /// FormatEngineering: numbers as chip designers read them, *1.5k*, *10MEG*, *2.2e-012*.
 ///
-/// The counterpart of text/ParseEngineering.h. The grammar of what is written:
+/// The counterpart of vapp/text/ParseEngineering.h. The grammar of what is written:
 ///
 ///     text     = [pad] [sign] left [point right] [suffix] [spaces]
 ///     pad      = no, one or two spaces, so that the points of a column stand in line; with `align` only
@@ -36,11 +36,12 @@
 
 #include <boost/logic/tribool.hpp>
 
-#include "text/EngineeringFormatOption.h"
+#include "vapp/Export.h"
 #include "vapp/text/CStringU.h"
+#include "vapp/text/EngineeringFormatOption.h"
 #include "vapp/text/TeUnitScale.h"
 
-namespace vapp_text {
+namespace vapp {
 
 /// The engineering text of a value; ASCII.
 ///
@@ -50,32 +51,33 @@ namespace vapp_text {
 /// choice or leave it to gGetEngineeringFormatSettings(): `removeTrailingZeroes` writes "1.5k" for "1.50k";
 /// `unitScale` is the notation, where any value outside of 0 to 4 leaves it; in notations with exponents
 /// `removeZeroExponents` writes "1" for "1e000".
-[[nodiscard]] CStringU FormatEngineering(double value, unsigned digits, bool significantDigits, bool align,
-                                         boost::logic::tribool removeTrailingZeroes, TeUnitScale unitScale,
-                                         boost::logic::tribool removeZeroExponents);
+[[nodiscard]] VAPP_EXPORT CStringU FormatEngineering(double value, unsigned digits, bool significantDigits,
+                                                     bool align, boost::logic::tribool removeTrailingZeroes,
+                                                     TeUnitScale unitScale,
+                                                     boost::logic::tribool removeZeroExponents);
 
 /// FormatEngineering with its arguments told by options, a later one overriding an earlier one. Without
 /// options: significant digits, no alignment, all else as the settings say.
-[[nodiscard]] CStringU FormatEngineeringOptions(
+[[nodiscard]] VAPP_EXPORT CStringU FormatEngineeringOptions(
     double value, unsigned digits, EngineeringFormatOption option1 = EngineeringFormatOption::None,
     EngineeringFormatOption option2 = EngineeringFormatOption::None,
     EngineeringFormatOption option3 = EngineeringFormatOption::None,
     EngineeringFormatOption option4 = EngineeringFormatOption::None,
     EngineeringFormatOption option5 = EngineeringFormatOption::None);
 /// The same with the settings' count of digits.
-[[nodiscard]] CStringU FormatEngineeringOptions(
-    double value, EngineeringFormatOption option1 = EngineeringFormatOption::None,
-    EngineeringFormatOption option2 = EngineeringFormatOption::None,
-    EngineeringFormatOption option3 = EngineeringFormatOption::None,
-    EngineeringFormatOption option4 = EngineeringFormatOption::None);
+[[nodiscard]] VAPP_EXPORT CStringU
+FormatEngineeringOptions(double value, EngineeringFormatOption option1 = EngineeringFormatOption::None,
+                         EngineeringFormatOption option2 = EngineeringFormatOption::None,
+                         EngineeringFormatOption option3 = EngineeringFormatOption::None,
+                         EngineeringFormatOption option4 = EngineeringFormatOption::None);
 
 /// All that a double holds: 18 significant digits, SI letters, no trailing zeroes.
-[[nodiscard]] CStringU FormatEngineeringFull(double value);
+[[nodiscard]] VAPP_EXPORT CStringU FormatEngineeringFull(double value);
 
 /// The shortest engineering text of `a`, from 3 up to 29 significant digits, which is not also the text of
 /// `b`. Where no such count tells them apart (equal values; two NaNs), `a` with 17 digits, its trailing
 /// zeroes as the settings say.
-[[nodiscard]] CStringU FormatDistinct(double a, double b, TeUnitScale unitScale);
+[[nodiscard]] VAPP_EXPORT CStringU FormatDistinct(double a, double b, TeUnitScale unitScale);
 
 /// The plain text of a value with 18 significant digits, in the form of the Windows C runtime's general
 /// conversion (`_gcvt_s`) on both systems:
@@ -85,15 +87,15 @@ namespace vapp_text {
 ///  - trailing zeroes behind the point are taken off, and the point stays: "0.", "1.", "1.5". Only a number
 ///    whose integer digits are 18 has no point.
 /// Minus zero is "0.", NaN "nan", infinity "inf" and "-inf".
-[[nodiscard]] CStringU FormatGeneral(double value);
+[[nodiscard]] VAPP_EXPORT CStringU FormatGeneral(double value);
 
 /// The unit letter for a power of ten, which is first cut down to a multiple of 3: "k" for 3, 4 and 5. Empty
 /// where the notation has none and writes an exponent. The letter of 0 is a space, so that columns line up.
-[[nodiscard]] CStringU UnitSuffix(int exponent, TeUnitScale scale);
+[[nodiscard]] VAPP_EXPORT CStringU UnitSuffix(int exponent, TeUnitScale scale);
 
 /// A notation's word for files, "si", "spice", "hspice", "scientific", "engineering"; else "undefined".
-[[nodiscard]] CStringU UnitScaleKeyword(TeUnitScale scale);
+[[nodiscard]] VAPP_EXPORT CStringU UnitScaleKeyword(TeUnitScale scale);
 /// A notation's name for people: "SI", "Spice", "HSpice", "Scientific", "Engineering"; else "Undefined".
-[[nodiscard]] CStringU UnitScaleName(TeUnitScale scale);
+[[nodiscard]] VAPP_EXPORT CStringU UnitScaleName(TeUnitScale scale);
 
-}  // namespace vapp_text
+}  // namespace vapp

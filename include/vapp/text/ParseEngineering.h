@@ -35,28 +35,31 @@
 
 #include <boost/logic/tribool.hpp>
 
+#include "vapp/Export.h"
 #include "vapp/text/CStringU.h"
 
-namespace vapp_text {
+namespace vapp {
 
 /// Reads a number from text that ends with a NUL; a null pointer is empty text. `value` gets the number,
 /// `end` the end position unless it is null. `siSuffix` chooses the SI reading of suffixes before the SPICE
 /// one. Returns "Not a number", or empty text for success.
-[[nodiscard]] CStringU ParseEngineering(const char* text, double* value, const char** end, bool siSuffix);
+[[nodiscard]] VAPP_EXPORT CStringU ParseEngineering(const char* text, double* value, const char** end,
+                                                    bool siSuffix);
 /// The same on wide text: only ASCII characters mean anything, values above 0xFFFF too end the number.
-[[nodiscard]] CStringU ParseEngineering(const wchar_t* text, double* value, const wchar_t** end,
-                                        bool siSuffix);
-[[nodiscard]] CStringU ParseEngineering(const char16_t* text, double* value, const char16_t** end,
-                                        bool siSuffix);
+[[nodiscard]] VAPP_EXPORT CStringU ParseEngineering(const wchar_t* text, double* value, const wchar_t** end,
+                                                    bool siSuffix);
+[[nodiscard]] VAPP_EXPORT CStringU ParseEngineering(const char16_t* text, double* value, const char16_t** end,
+                                                    bool siSuffix);
 
 /// The same without words: false for "Not a number". For those who show no error text, and would pay for it.
-[[nodiscard]] bool ReadEngineering(const char* text, double* value, const char** end, bool siSuffix) noexcept;
+[[nodiscard]] VAPP_EXPORT bool ReadEngineering(const char* text, double* value, const char** end,
+                                               bool siSuffix) noexcept;
 
 /// The same with the process' default reading of suffixes where the caller states none. A CStringU is read in
 /// the active code page, whose conversion may turn a foreign character into an ASCII one.
-[[nodiscard]] CStringU ParseEngineeringWithSettings(const CStringU& text, double* value,
-                                                    boost::logic::tribool siSuffix);
-[[nodiscard]] CStringU ParseEngineeringWithSettings(const char* text, double* value,
-                                                    boost::logic::tribool siSuffix);
+[[nodiscard]] VAPP_EXPORT CStringU ParseEngineeringWithSettings(const CStringU& text, double* value,
+                                                                boost::logic::tribool siSuffix);
+[[nodiscard]] VAPP_EXPORT CStringU ParseEngineeringWithSettings(const char* text, double* value,
+                                                                boost::logic::tribool siSuffix);
 
-}  // namespace vapp_text
+}  // namespace vapp
