@@ -128,12 +128,19 @@ void ExpectWholeNumbersAndTexts() {
     EXPECT_EQ(CStringU::Formatted("%d %s", -42, "1.5"), CStringU("-42 1.5"));
 }
 
-TEST(Formats, GroupsAreThoseOfTheLocale) {
+// Which sign stands between groups is the C library's to say: in one that puts "." for real numbers, integers
+// have ",".
+TEST(Formats, GroupsAreThoseOfTheNarrowPrintf) {
     EXPECT_EQ(FormatWide("%'d %'.1f %'x", 1234567, 1234.5, 255), u"1234567 1234.5 ff") << "which has none";
     const text_test::TLocaleGuard guard(text_test::cnCommaLocales);
     if (!guard.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
-    EXPECT_EQ(FormatWide("%'d %'.1f %'x", 1234567, 1234.5, 255), u"1.234.567 1.234,5 ff");
-    EXPECT_EQ(CStringU::Formatted("%'d", 1234567).ToWide(), u"1.234.567");
+    const CString whole = FormatNarrow("%'d", 1234567);
+    const CString real = FormatNarrow("%'.1f", 1234.5);
+    EXPECT_EQ(whole.GetLength(), 9) << whole.GetString();
+    EXPECT_EQ(real, "1.234,5");
+    EXPECT_EQ(FormatWide("%'d|%'.1f|%'x", 1234567, 1234.5, 255),
+              CStringU(whole + "|" + real + "|ff").ToWide());
+    EXPECT_EQ(CStringU::Formatted("%'d", 1234567), CStringU(whole));
 }
 
 // Numbers for people: the C library writes them as the host has set it up.
