@@ -163,27 +163,35 @@ int CListCtrl::HitTest(CPoint point) const {
 
 void CListCtrl::ClickedByUser(int row, TModifiers modifiers) {
     const RowCursor before = m_cursor;
-    if (m_cursor.Click(row < GetItemCount() ? row : -1, modifiers)) CursorChanged(before);
+    if (m_cursor.Click(row < GetItemCount() ? row : -1, modifiers)) CursorChanged(before, true);
 }
 
 void CListCtrl::ContextClickedByUser(int row) {
     const RowCursor before = m_cursor;
-    if (m_cursor.ContextClick(row < GetItemCount() ? row : -1)) CursorChanged(before);
+    if (m_cursor.ContextClick(row < GetItemCount() ? row : -1)) CursorChanged(before, true);
 }
 
 void CListCtrl::KeyPressedByUser(TKey key, TModifiers modifiers) {
     const RowCursor before = m_cursor;
-    if (m_cursor.Key(key, modifiers, GetItemCount(), GetCountPerPage())) CursorChanged(before);
+    if (m_cursor.Key(key, modifiers, GetItemCount(), GetCountPerPage())) CursorChanged(before, false);
 }
 
 void CListCtrl::TypedByUser(const CStringU& text, std::int64_t milliseconds) {
     const int row = m_typeAhead.Find(text, milliseconds, GetFocusedItem(), GetItemCount(),
                                      [this](int item) { return GetItemText(item); });
-    if (row >= 0) ClickedByUser(row, {});
+    const RowCursor before = m_cursor;
+    if (row >= 0 && m_cursor.Click(row, {})) CursorChanged(before, false);
 }
 
-void CListCtrl::CursorChanged(const RowCursor& before) {
-    if (m_cursor.GetFocus() != before.GetFocus()) EnsureVisible(m_cursor.GetFocus());
+// Also a row of which the lower edge of the window leaves a part.
+bool CListCtrl::IsInSight(int row) const {
+    const std::int64_t top = (static_cast<std::int64_t>(row) - m_top) * m_rowHeight;
+    return top >= 0 && top < GetClientRect().bottom - m_headerHeight;
+}
+
+void CListCtrl::CursorChanged(const RowCursor& before, bool byPress) {
+    const int focus = m_cursor.GetFocus();
+    if (focus != before.GetFocus() && !(byPress && IsInSight(focus))) EnsureVisible(focus);
     NotifyChanges(before);
 }
 

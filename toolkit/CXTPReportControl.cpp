@@ -144,12 +144,12 @@ bool CXTPReportControl::MeasureItem(int row, CXTPReportColumn& column, CXTPRepor
 
 void CXTPReportControl::ClickedByUser(int row, TModifiers modifiers) {
     const int focusBefore = m_cursor.GetFocus();
-    if (m_cursor.Click(row < m_rowCount ? row : -1, modifiers)) CursorChanged(focusBefore);
+    if (m_cursor.Click(row < m_rowCount ? row : -1, modifiers)) CursorChanged(focusBefore, true);
 }
 
 void CXTPReportControl::ContextClickedByUser(int row) {
     const int focusBefore = m_cursor.GetFocus();
-    if (m_cursor.ContextClick(row < m_rowCount ? row : -1)) CursorChanged(focusBefore);
+    if (m_cursor.ContextClick(row < m_rowCount ? row : -1)) CursorChanged(focusBefore, true);
 }
 
 void CXTPReportControl::DoubleClickedByUser(CPoint point) {
@@ -168,14 +168,15 @@ bool CXTPReportControl::OnBeginDrag(CPoint /*point*/, UINT /*flags*/) {
 
 void CXTPReportControl::KeyPressedByUser(TKey key, TModifiers modifiers) {
     const int focusBefore = m_cursor.GetFocus();
-    if (m_cursor.Key(key, modifiers, m_rowCount, GetCountPerPage())) CursorChanged(focusBefore);
+    if (m_cursor.Key(key, modifiers, m_rowCount, GetCountPerPage())) CursorChanged(focusBefore, false);
 }
 
 void CXTPReportControl::TypedByUser(const CStringU& text, std::int64_t milliseconds) {
     const int row = m_typeAhead.FindMatch(
         text, milliseconds, m_cursor.GetFocus(), m_rowCount,
         [this](int index, const CStringU& wanted) { return IsTypeAheadMatch(index, wanted); });
-    if (row >= 0) ClickedByUser(row, {});
+    const int focusBefore = m_cursor.GetFocus();
+    if (row >= 0 && m_cursor.Click(row, {})) CursorChanged(focusBefore, false);
 }
 
 void CXTPReportControl::ScrolledByUser(int topRow, int scrollX) {
@@ -185,9 +186,10 @@ void CXTPReportControl::ScrolledByUser(int topRow, int scrollX) {
     EndUpdate();
 }
 
-void CXTPReportControl::CursorChanged(int focusBefore) {
+void CXTPReportControl::CursorChanged(int focusBefore, bool byPress) {
+    const int focus = m_cursor.GetFocus();
     BeginUpdate();
-    if (m_cursor.GetFocus() != focusBefore) EnsureVisible(m_cursor.GetFocus());
+    if (focus != focusBefore && !(byPress && IsInSight(focus))) EnsureVisible(focus);
     SelectionChanged(cnChangeSelection | cnChangeFocusItem);
     EndUpdate();
 }

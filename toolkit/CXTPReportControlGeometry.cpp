@@ -48,6 +48,12 @@ void CXTPReportControl::EnsureVisible(int row) {
     }
 }
 
+// Also a row of which the lower edge of the window leaves a part.
+bool CXTPReportControl::IsInSight(int row) const {
+    const std::int64_t top = (static_cast<std::int64_t>(row) - m_top) * m_rowHeight;
+    return top >= 0 && top < GetClientRect().bottom - m_headerHeight;
+}
+
 void CXTPReportControl::SetRowMetrics(int rowHeight, int headerHeight) {
     m_rowHeight = std::max(rowHeight, 1);
     m_headerHeight = std::max(headerHeight, 0);

@@ -150,6 +150,45 @@ TEST_F(CommandScenarioTest, ADragOutOfTheListCarriesTheRowThatWasPressed) {
     EXPECT_EQ(dragged, TCommandLines{"abd"});
 }
 
+// The usual case: the height of the list is no multiple of that of a row.
+TEST_F(CommandScenarioTest, ARowOfWhichAPartShowsIsDraggedAndOpenedAsAnyOther) {
+    TTriples rows;
+    for (int number = 100; number < 400; ++number)
+        rows.push_back({"l1", "c" + std::to_string(number), "sym"});
+    AnswerCells(rows);
+    Repopulate();
+    const int height = Report().GetRowHeight();
+    const int page = Report().GetCountPerPage();
+    const CRect rect = Report().GetRect();
+    Report().MoveWindow({rect.left, rect.top, rect.right,
+                         rect.top + Report().GetHeaderHeight() + page * height + height / 2 +
+                             (rect.bottom - rect.top - Report().GetClientRect().bottom)});
+    QApplication::processEvents();
+    ASSERT_EQ(Report().GetCountPerPage(), page);
+    const QPoint inPart(30, page * height + 2);
+    const std::string pressed = "c" + std::to_string(100 + page);
+    TCommandLines dragged;
+    const COleDataSource::TDragRunner own = [&](COleDataSource& source, UINT, const CRect&) {
+        const std::any* data = source.GetData(CLibCellViewOleDataSource::ClipboardFormatLibCellView);
+        dragged.emplace_back(std::any_cast<const CLibCellViewOleData&>(*data).cell.Payload());
+        return cnDropNone;
+    };
+    COleDataSource::InstallDragRunner(own);
+    QTest::mousePress(&Viewport(), Qt::LeftButton, Qt::NoModifier, inPart);
+    QMouseEvent move(QEvent::MouseMove, InRow(0), Viewport().mapToGlobal(InRow(0)), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Viewport(), &move);
+    QtPeerFactory::Install();
+    QTest::mouseRelease(&Viewport(), Qt::LeftButton, Qt::NoModifier, inPart);
+    EXPECT_EQ(dragged, TCommandLines{pressed});
+    QTest::mouseClick(&Viewport(), Qt::LeftButton, Qt::NoModifier, InRow(0));
+    m_browser.SetCellListDefaultMenuCommand("open", StyleFocusedLcv);
+    m_host.ClearLines();
+    QTest::mouseClick(&Viewport(), Qt::LeftButton, Qt::NoModifier, inPart);
+    QTest::mouseDClick(&Viewport(), Qt::LeftButton, Qt::NoModifier, inPart);
+    EXPECT_EQ(Sent(), TCommandLines{"logaction open top l1 " + pressed + " sym"});
+}
+
 TEST_F(CommandScenarioTest, ALibraryHasATipAndAStatusTextUntilThePointerLeaves) {
     const QPoint inside(10, 5);
     QCursor::setPos(LibraryViewport().mapToGlobal(inside));

@@ -214,6 +214,17 @@ protected:
     [[nodiscard]] QPoint At(int row, int x = 20) const {
         return {x, row * report.GetRowHeight() + report.GetRowHeight() / 2};
     }
+    /// Makes the report so high that half of its last row shows; gives that row, of the first page.
+    int CutLastRow() {
+        const int page = report.GetCountPerPage();
+        const CRect rect = report.GetRect();
+        report.MoveWindow(
+            {rect.left, rect.top, rect.right,
+             rect.top + report.GetHeaderHeight() + page * report.GetRowHeight() + report.GetRowHeight() / 2});
+        QApplication::processEvents();
+        EXPECT_EQ(report.GetCountPerPage(), page);
+        return page;
+    }
     void Send(QEvent::Type type, QPoint at, Qt::MouseButton button) {
         const bool moves = type == QEvent::MouseMove;
         QMouseEvent event(type, at, Rows().mapToGlobal(at), moves ? Qt::NoButton : button,
@@ -243,6 +254,57 @@ TEST_F(QtRowViewDragTest, ARowIsDraggedOnceThePointerHasLeftIt) {
 TEST_F(QtRowViewDragTest, ARowIsDraggedOutAtTheSideToo) {
     gDrag(Rows(), At(2), At(2, 500));
     EXPECT_EQ(report.begun.size(), 1u);
+}
+
+TEST_F(QtRowViewDragTest, ARowThatIsPartlyShownIsTheOneThatIsDragged) {
+    const int cut = CutLastRow();
+    const QPoint pressed(20, cut * report.GetRowHeight() + 2);
+    gDrag(Rows(), pressed, At(cut - 2));
+    ASSERT_EQ(report.begun.size(), 1u);
+    EXPECT_EQ(report.HitTestRow(report.begun[0].point), CXTPReportRow(cut));
+    EXPECT_EQ(report.GetFocusedRow(), CXTPReportRow(cut));
+}
+
+TEST_F(QtRowViewDragTest, TheWheelMovesWhatWasPressed) {
+    for (const int pressed : {6, 4}) {
+        report.SetTopRow(0);
+        report.begun.clear();
+        gSendMouse(Rows(), QEvent::MouseButtonPress, At(pressed));
+        gWheel(Rows(), 1);
+        const int top = report.GetTopRowIndex();
+        ASSERT_GT(top, 0);
+        gSendMouse(Rows(), QEvent::MouseMove, At(pressed) + QPoint(1, 0));
+        EXPECT_TRUE(report.begun.empty()) << "the rows moved, and not the pointer";
+        gSendMouse(Rows(), QEvent::MouseMove, At(pressed + 1));
+        ASSERT_EQ(report.begun.size(), 1u);
+        EXPECT_EQ(report.HitTestRow(report.begun[0].point), CXTPReportRow(pressed));
+        gSendMouse(Rows(), QEvent::MouseButtonRelease, At(pressed));
+    }
+}
+
+TEST_F(QtRowViewDragTest, ARowThatWasScrolledAwayOrIsCutNowIsNotMistakenForAnother) {
+    gSendMouse(Rows(), QEvent::MouseButtonPress, At(1));
+    report.SetTopRow(50);
+    gSendMouse(Rows(), QEvent::MouseMove, At(4));
+    EXPECT_TRUE(report.begun.empty()) << "where it was is no place any more";
+    gSendMouse(Rows(), QEvent::MouseButtonRelease, At(4));
+    const int cut = CutLastRow();
+    report.SetTopRow(1);
+    gSendMouse(Rows(), QEvent::MouseButtonPress, {20, cut * report.GetRowHeight() - 1});
+    report.SetTopRow(0);
+    gSendMouse(Rows(), QEvent::MouseMove, At(1));
+    ASSERT_EQ(report.begun.size(), 1u);
+    EXPECT_EQ(report.HitTestRow(report.begun[0].point), CXTPReportRow(cut));
+}
+
+TEST_F(QtRowViewDragTest, ADoubleClickOnARowThatIsPartlyShownMeansIt) {
+    const int cut = CutLastRow();
+    const QPoint pressed(20, cut * report.GetRowHeight() + 2);
+    QTest::mouseClick(&Rows(), Qt::LeftButton, {}, pressed);
+    QTest::mouseDClick(&Rows(), Qt::LeftButton, {}, pressed);
+    EXPECT_EQ(report.opened, std::vector<int>{cut});
+    EXPECT_EQ(report.GetFocusedRow(), CXTPReportRow(cut));
+    EXPECT_EQ(report.GetTopRowIndex(), 0);
 }
 
 TEST_F(QtRowViewDragTest, TheFlagsTellTheButton) {

@@ -113,7 +113,8 @@ inline void gSendMouse(QWidget& widget, QEvent::Type type, const QPoint& at,
     QApplication::sendEvent(&widget, &event);
 }
 
-/// A report whose rows can be dragged out; it writes down where a drag began and with which flags.
+/// A report whose rows can be dragged out; it writes down where a drag began and with which flags, and which
+/// rows were clicked twice.
 class DraggedReport : public FakeReport {
 public:
     struct Begun {
@@ -121,6 +122,7 @@ public:
         UINT flags;
     };
     std::vector<Begun> begun;
+    std::vector<int> opened;
     std::function<void()> onDrag;  ///< what happens while the drag is going on
 
     bool OnBeginDrag(CPoint point, UINT flags) override {
@@ -128,6 +130,10 @@ public:
         const auto during = onDrag;
         if (during) during();
         return false;
+    }
+    void OnDoubleClick(CPoint point) override {
+        const std::optional<CXTPReportRow> row = HitTestRow(point);
+        opened.push_back(row ? row->GetIndex() : -1);
     }
 };
 

@@ -154,6 +154,23 @@ TEST_F(CListCtrlTest, ClicksAndKeysFollowTheRulesOfTheCursor) {
     EXPECT_EQ(list.GetSelectedCount(), 0) << "below the last row is the empty area";
 }
 
+TEST_F(CListCtrlTest, APressLeavesARowThatIsPartlyShownWhereItIs) {
+    Fill(20);
+    list.MoveWindow({0, 0, 100, 100});
+    ASSERT_EQ(list.GetCountPerPage(), 5);
+    list.ClickedByUser(5, {});
+    EXPECT_EQ(list.GetFocusedItem(), 5);
+    EXPECT_EQ(list.GetTopIndex(), 0);
+    list.ClickedByUser(0, {});
+    list.ContextClickedByUser(5);
+    EXPECT_EQ(list.GetTopIndex(), 0);
+    list.ClickedByUser(4, {});
+    list.KeyPressedByUser(TKey::Down, {});
+    EXPECT_EQ(list.GetTopIndex(), 1) << "a key shows the whole row";
+    list.ClickedByUser(9, {});
+    EXPECT_EQ(list.GetTopIndex(), 5) << "nothing of that row was shown";
+}
+
 TEST_F(CListCtrlTest, TypingGoesToTheRowAndSelectsIt) {
     list.TypedByUser("b", 0);
     EXPECT_EQ(list.GetFocusedItem(), 1);

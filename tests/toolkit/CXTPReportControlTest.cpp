@@ -111,6 +111,29 @@ TEST_F(CXTPReportControlTest, OneUserOperationIsOneNotificationAndOneChange) {
     EXPECT_EQ(report.GetSelectedRows().GetCount(), 0) << "below the last row is the empty area";
 }
 
+TEST_F(CXTPReportControlTest, APressLeavesARowThatIsPartlyShownWhereItIs) {
+    const int page = report.GetCountPerPage();
+    const CRect rect = report.GetRect();
+    const int half = report.GetHeaderHeight() + page * report.GetRowHeight() + report.GetRowHeight() / 2;
+    report.MoveWindow({rect.left, rect.top, rect.right, rect.top + half});
+    ASSERT_EQ(report.GetCountPerPage(), page);
+    report.ClickedByUser(page, {});
+    EXPECT_EQ(report.GetTopRowIndex(), 0);
+    EXPECT_EQ(report.GetFocusedRow(), CXTPReportRow(page));
+    report.ContextClickedByUser(page);
+    report.ClickedByUser(0, {});
+    report.ContextClickedByUser(page);
+    EXPECT_EQ(report.GetTopRowIndex(), 0);
+    report.ClickedByUser(0, {});
+    report.KeyPressedByUser(TKey::PageDown, {});
+    report.KeyPressedByUser(TKey::Down, {});
+    EXPECT_EQ(report.GetTopRowIndex(), 1) << "a key shows the whole row";
+    report.ClickedByUser(0, {});
+    EXPECT_EQ(report.GetTopRowIndex(), 0) << "nothing of that row was shown";
+    report.ClickedByUser(page + 1, {});
+    EXPECT_EQ(report.GetTopRowIndex(), 2) << "nor of this one";
+}
+
 TEST_F(CXTPReportControlTest, SelectAllDoesNotScroll) {
     report.ClickedByUser(3, {});
     report.SetTopRow(50);

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "toolkit/qt/QtPeer.h"
 #include "toolkit/qt/QtText.h"
@@ -262,6 +263,7 @@ void QtRowView::mousePressEvent(QMouseEvent* event) {
     m_draggedTo = event->button() == Qt::LeftButton && !canDrag ? row : -1;
     m_pressedRow = canDrag ? row : -1;
     m_pressed = event->position().toPoint();
+    m_pressedInRow = m_pressed - RowRect(row).topLeft();
     m_pressedButton = event->button();
     if (event->button() == Qt::LeftButton) m_control->Click(row, ModifiersOf(event->modifiers()));
     if (event->button() == Qt::RightButton) m_control->ContextClick(row);
@@ -287,10 +289,13 @@ void QtRowView::DragOut(const QMouseEvent& event) {
     UINT flags = 0;
     if (m_pressedButton == Qt::LeftButton) flags = 1;
     if (m_pressedButton == Qt::RightButton) flags = 2;
-    m_pressedRow = -1;
-    if (flags == 0) return;
+    // The rows may have been scrolled since; of a row that is cut by an edge only a part is there.
+    const QRect row = RowRect(std::exchange(m_pressedRow, -1));
+    const QRect shown = row & viewport()->rect();
+    if (flags == 0 || shown.isEmpty()) return;
+    const QPoint pressed = row.topLeft() + m_pressedInRow;
     const QtBusyScope busy;
-    m_control->BeginDrag(ClientPoint(m_pressed), flags);
+    m_control->BeginDrag(ClientPoint({pressed.x(), std::min(pressed.y(), shown.bottom())}), flags);
 }
 
 // Rows that are passed are selected, as shift and a click would; beyond an edge it scrolls row by row.
@@ -300,6 +305,7 @@ void QtRowView::SelectAlong(const QMouseEvent& event) {
     m_draggedTo = row;
     const QtBusyScope busy;
     m_control->Click(row, {.shift = true, .control = event.modifiers().testFlag(Qt::ControlModifier)});
+    if (m_control != nullptr) m_control->EnsureVisible(row);
 }
 
 int QtRowView::DragTarget(int y) const {

@@ -94,7 +94,8 @@ private:
     bool m_mirrorPending = false;
     int m_draggedTo = -1;   ///< row of the selecting that is under way
     int m_pressedRow = -1;  ///< row that may be dragged out
-    QPoint m_pressed;
+    QPoint m_pressed;       ///< where the button went down
+    QPoint m_pressedInRow;  ///< and where that was in its row, which the wheel may move
     Qt::MouseButton m_pressedButton = Qt::NoButton;
 };
 

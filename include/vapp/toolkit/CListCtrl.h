@@ -87,7 +87,9 @@ public:
     /// Row under a client point, or -1.
     [[nodiscard]] int HitTest(CPoint point) const;
 
-    /// What the user does, as peers report it.
+    // What the user does, as peers report it
+    /// A press leaves the rows where they are if any part of its row shows: what follows it, a second press
+    /// or a drag, means the same row. Keys and typed letters bring the whole row into view.
     void ClickedByUser(int row, TModifiers modifiers);
     void ContextClickedByUser(int row);
     void KeyPressedByUser(TKey key, TModifiers modifiers);
@@ -130,7 +132,8 @@ private:
         int width = 0;
     };
 
-    void CursorChanged(const RowCursor& before);
+    [[nodiscard]] bool IsInSight(int row) const;
+    void CursorChanged(const RowCursor& before, bool byPress);
     void NotifyChanges(const RowCursor& before);
 
     std::vector<CStringU> m_items;

@@ -115,6 +115,8 @@ public:
     bool MeasureItem(int row, CXTPReportColumn& column, CXTPReportRecordItemMetrics& metrics);
 
     // What the user does, as peers report it
+    /// A press leaves the rows where they are if any part of its row shows: what follows it, a second press
+    /// or a drag, means the same row. Keys and typed letters bring the whole row into view.
     void ClickedByUser(int row, TModifiers modifiers);
     void ContextClickedByUser(int row);
     /// A double click at a client point: `OnDoubleClick` follows. The row has got its click before.
@@ -163,7 +165,8 @@ private:
     [[nodiscard]] int LastTopRow() const;
     [[nodiscard]] int LastScrollX() const;
     void ClampScroll();
-    void CursorChanged(int focusBefore);
+    [[nodiscard]] bool IsInSight(int row) const;
+    void CursorChanged(int focusBefore, bool byPress);
     void TellPending();
 
     CXTPReportColumns m_columns;
