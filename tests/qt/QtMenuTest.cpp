@@ -3,9 +3,11 @@
 #include "toolkit/qt/QtMenu.h"
 
 #include <QTest>
+#include <functional>
 
 #include "tests/qt/PopupAnswer.h"
 #include "tests/qt/QtTestFrame.h"
+#include "toolkit/qt/QtPeer.h"
 
 namespace {
 
@@ -93,11 +95,43 @@ TEST_F(QtMenuTest, OpensOnEitherSideOfItsPoint) {
 }
 
 TEST_F(QtMenuTest, SurvivesTheEndOfItsOwner) {
-    const PopupAnswer answer([this](QMenu& popup) {
-        popup.close();
-        shown.frame.DestroyWindow();
-    });
-    EXPECT_EQ(Track(), 0u);
+    {
+        const PopupAnswer answer([this](QMenu& popup) {
+            popup.close();
+            shown.frame.DestroyWindow();
+        });
+        EXPECT_EQ(Track(), 0u);
+    }
     CWnd without;
     EXPECT_EQ(menu.Track(without, {}), 0u) << "no widget, no menu";
+}
+
+TEST_F(QtMenuTest, LeavesTheScreenWithItsOwner) {
+    const std::function<void()> ends[] = {[this] { shown.form.ShowWindow(false); },
+                                          [this] { shown.frame.ShowWindow(false); },
+                                          [this] { shown.form.DestroyWindow(); }};
+    for (const std::function<void()>& end : ends) {
+        for (const bool isSubMenuOpen : {false, true}) {
+            if (!shown.form.IsWindow()) continue;
+            shown.frame.ShowWindow(true);
+            shown.form.ShowWindow(true);
+            QApplication::processEvents();
+            const PopupAnswer answer([&](QMenu& popup) {
+                const QPointer<QMenu> open(&popup);
+                const QPointer<QMenu> below(popup.actions()[3]->menu());
+                if (isSubMenuOpen) {
+                    popup.setActiveAction(popup.actions()[3]);
+                    QTest::keyClick(&popup, Qt::Key_Right);
+                    ASSERT_TRUE(below->isVisible());
+                }
+                // As it comes from inside of an event of the window itself.
+                const vapp_qt::QtBusyScope busy;
+                end();
+                EXPECT_TRUE(!open || !open->isVisible()) << "nobody is there to pick for";
+                EXPECT_TRUE(!below || !below->isVisible());
+            });
+            EXPECT_EQ(Track(), 0u);
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        }
+    }
 }

@@ -2,7 +2,9 @@
 /// The menu is made anew for each showing, in the font and colours of the moment.
 #include "toolkit/qt/QtMenu.h"
 
+#include <QEvent>
 #include <QMenu>
+#include <QObject>
 #include <QPointer>
 
 #include "toolkit/qt/QtText.h"
@@ -48,6 +50,20 @@ void AddItems(QMenu& shown, const CMenu& menu, UINT& picked) {
     }
 }
 
+// A menu is a window of its own, which stays when the one that it belongs to is hidden or ends: the user
+// would go on picking from it for nobody.
+class LeaveWithOwner : public QObject {
+public:
+    LeaveWithOwner(QMenu& menu, QWidget& owner) : m_menu(&menu) { owner.installEventFilter(this); }
+    bool eventFilter(QObject* owner, QEvent* event) override {
+        if (event->type() == QEvent::Hide && m_menu) m_menu->close();
+        return QObject::eventFilter(owner, event);
+    }
+
+private:
+    QPointer<QMenu> m_menu;
+};
+
 }  // namespace
 
 UINT gTrackMenu(const CMenu& menu, const CWnd& owner, CPoint screen, TMenuAlign align) {
@@ -61,6 +77,7 @@ UINT gTrackMenu(const CMenu& menu, const CWnd& owner, CPoint screen, TMenuAlign 
     const CPoint client = owner.ScreenToClient(screen);
     QPoint corner = widget->mapToGlobal(QPoint(client.x, client.y));
     if (align == TMenuAlign::Right) corner.rx() -= shown->sizeHint().width();
+    const LeaveWithOwner leaving(*shown, *widget);
     shown->exec(corner);
     delete shown.data();
     return picked;
