@@ -1,12 +1,12 @@
 // The smallest host: a Tcl interpreter that knows a design, a frame, and the navigator in it.
 #include <tcl.h>
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 
 #include "vapp/browser/TLibraryBrowser.h"
 #include "vapp/toolkit/CFrameWnd.h"
 #include "vapp/toolkit/CWinAppEx.h"
+#include "vapp/toolkit/qt/QtIdle.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 
 static const char csDesign[] = R"tcl(
@@ -38,9 +38,8 @@ int main(int argc, char** argv) {
     navigator.Initialize(&frame, interp, nullptr);
     navigator.SerializeSetup(false);
     // The host drives the navigator: it refreshes what is dirty whenever the event loop has nothing else to
-    // do.
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &qt,
-                     [&navigator] { navigator.Populate(); });
+    // do, and no menu is open.
+    gRunWhenIdle(qt, [&navigator] { navigator.Populate(); });
     frame.ShowWindow(true);
     return QApplication::exec();
 }

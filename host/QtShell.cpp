@@ -23,8 +23,10 @@
 #include "host/SymbolPainter.h"
 #include "host/TextViewer.h"
 #include "host/WindowLayout.h"
+#include "vapp/browser/TSymbolPreview.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/toolkit/WindowPlacement.h"
+#include "vapp/toolkit/qt/QtIdle.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 #include "vapp/toolkit/qt/QtTheme.h"
 
@@ -100,6 +102,7 @@ QtShell::~QtShell() {
     delete m_dock.data();
     delete m_logDock.data();
     delete m_status.data();
+    QObject::disconnect(m_refreshing);
     QObject::disconnect(m_idle);
     m_navigator.Commands().SetPreviewHandler(nullptr);
     m_navigator.Browser().SetPreview(true, CStringU(), nullptr);
@@ -200,7 +203,7 @@ void QtShell::ConnectMenus(QMainWindow& window) {
 void QtShell::ToggleConsole() {
     if (m_dock->isVisible() && m_consolePane->HasInputFocus()) {
         m_dock->hide();
-        m_navigator.Browser().GetCellListView()->GetReport().SetFocus();
+        FocusCells();
         return;
     }
     m_dock->show();
@@ -234,14 +237,21 @@ int QtShell::Run() {
 // The keyboard belongs to the list that is the heart of it all, and no splitter's bar.
 void QtShell::FirstLook() {
     m_navigator.FitPanes();
-    m_navigator.Browser().GetCellListView()->GetReport().SetFocus();
+    FocusCells();
+}
+
+// A script may have ended the panes, and left the window.
+void QtShell::FocusCells() {
+    if (auto* const cells = m_navigator.Browser().GetCellListView()) cells->GetReport().SetFocus();
 }
 
 void QtShell::Show() {
     gApplyTheme(m_navigator.Frame().IsDark());
     m_watcher.Watch(m_navigator.Store());
+    m_refreshing = gRunWhenIdle(*qApp, [this] { Refresh(); });
+    // A script that plays the user has something to do in open menus too.
     m_idle = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                              qApp, [this] { OnIdle(); });
+                              qApp, [this] { m_navigator.RunIdleScript(); });
     m_navigator.Frame().ShowWindow(true);
     FirstLook();
     TellTroubles();
@@ -251,11 +261,10 @@ void QtShell::Show() {
 
 // A list that goes to a cell takes the keyboard. To somebody who typed the line that made it go there, the
 // next letters would be lost.
-void QtShell::OnIdle() {
+void QtShell::Refresh() {
     const bool isTyping = m_consolePane != nullptr && m_consolePane->HasInputFocus();
     m_navigator.Populate();
     if (isTyping && !m_consolePane->HasInputFocus()) m_consolePane->FocusInput();
-    m_navigator.RunIdleScript();
 }
 
 // The widget's own place and size, and not the control's: those are of the client area, without the title
@@ -306,13 +315,22 @@ std::optional<std::string> QtShell::Screenshot(const std::string& file) {
     FirstLook();
     for (int round = 0; round < cnSettlingRounds; ++round) {
         QApplication::processEvents();
-        OnIdle();
+        Refresh();
+        m_navigator.RunIdleScript();
     }
     QApplication::processEvents();
     QWidget* const window = gWidgetOf(m_navigator.Frame());
     if (window == nullptr || !window->grab().save(QFile::decodeName(file.c_str())))
         return "The picture can't be written to \"" + file + "\".";
     return std::nullopt;
+}
+
+// Of the screen on which the pane stands: a picture for a finer one would be scaled down, and its lines lie
+// between the pixels.
+qreal QtShell::PreviewScale() const {
+    const auto* const pane = m_navigator.Browser().GetSymbolPreview();
+    const QWidget* const widget = pane != nullptr ? gWidgetOf(*pane) : nullptr;
+    return widget != nullptr ? widget->devicePixelRatioF() : qApp->devicePixelRatio();
 }
 
 void QtShell::ShowPreview(const PreviewRequest& request) {
@@ -322,7 +340,7 @@ void QtShell::ShowPreview(const PreviewRequest& request) {
     PictureRequest picture;
     picture.width = request.width;
     picture.height = request.height;
-    picture.scale = qApp->devicePixelRatio();
+    picture.scale = PreviewScale();
     picture.isDark = m_navigator.Frame().IsDark();
     QtBitmap bitmap(gPaintView(store, view, picture));
     m_navigator.Browser().SetPreview(false, gLibraryText(CaptionOf(request.name)), bitmap.Get());

@@ -64,8 +64,10 @@ private:
     void ToggleConsole();
     int Exit(Tcl_Interp* interp, TclWords words);
     void FirstLook();
-    void OnIdle();
+    void FocusCells();
+    void Refresh();
     void KeepPlace();
+    [[nodiscard]] qreal PreviewScale() const;
     void ShowPreview(const PreviewRequest& request);
     void TellTroubles();
 
@@ -83,6 +85,7 @@ private:
     TclCommand m_exit;
     std::optional<int> m_exitStatus;
     bool m_isRunning = false;
+    QMetaObject::Connection m_refreshing;
     QMetaObject::Connection m_idle;
     bool m_wasShown = false;
     std::vector<std::string> m_toldTroubles;

@@ -26,6 +26,7 @@
 #include "vapp/browser/TclBridge.h"
 #include "vapp/toolkit/CFrameWnd.h"
 #include "vapp/toolkit/CWinAppEx.h"
+#include "vapp/toolkit/qt/QtIdle.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 
 namespace {
@@ -119,16 +120,15 @@ int main(int argc, char** argv) {
     navigator.SetCellListDefaultMenuCommand("place", vapp_library_browser::StyleFocusedLcv);
     Tcl_CreateObjCommand(interp.get(), "place", &PlaceCommand, canvas, nullptr);
     frame.navigator = &navigator;
+    gRunWhenIdle(window, [&navigator] { navigator.Populate(); });
     std::unique_ptr<Teller> teller;
     if (isTelling) {
         teller = std::make_unique<Teller>(window, *canvas, navigator, interp.get());
         frame.onStatus = [](const QString& text) { Teller::Print(QStringLiteral("status ") + text); };
+        // Also what is seen of an open menu.
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                         &window, [&teller] { teller->TellWhatIsSeen(); });
     }
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &window,
-                     [&] {
-                         navigator.Populate();
-                         if (teller) teller->TellWhatIsSeen();
-                     });
     frame.ShowWindow(true);
     return QApplication::exec();
 }

@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractItemView>
+#include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QScreen>
@@ -17,6 +19,8 @@
 #include "host/Navigator.h"
 #include "host/NavigatorApp.h"
 #include "tests/host/TempFolder.h"
+#include "tests/qt/PopupAnswer.h"
+#include "tests/qt/UntilIdle.h"
 #include "vapp/celllist/TCellListView.h"
 #include "vapp/text/ActiveCodePage.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
@@ -212,6 +216,46 @@ TEST_F(QtShellTest, ALineThatMovesTheListLeavesTheKeyboardInTheConsole) {
     QTest::keyClick(input, Qt::Key_Return);
     QTRY_VERIFY_WITH_TIMEOUT(run.navigator.Browser().GetFocusedCell().cell == "inv", 10'000);
     EXPECT_EQ(input, QApplication::focusWidget());
+}
+
+// The loop of an open menu comes to rest too. What the user picks is done with the cell that the menu is of.
+TEST_F(QtShellTest, RowsThatCameWhileAMenuIsOpenAreFetchedWhenItHasBeenLeft) {
+    Run run(*this);
+    gRunUntilIdle();
+    auto& report = run.navigator.Browser().GetCellListView()->GetReport();
+    ASSERT_EQ(1, report.GetRows().GetCount());
+    std::string opened;
+    run.navigator.Cells().SetOpenHandler(
+        [&](const navigator::CellViewName& name, const std::filesystem::path&) { opened = name.cell; });
+    auto& rows = *dynamic_cast<QAbstractItemView&>(*gWidgetOf(report)).viewport();
+    const QPoint row(30, report.GetRowHeight() / 2);
+    {
+        const PopupAnswer answer([&](QMenu& popup) {
+            m_folder.Write("lib/and.sym", "v {}\n");
+            run.navigator.Rescan();
+            gRunUntilIdle();
+            EXPECT_EQ(1, report.GetRows().GetCount());
+            popup.defaultAction()->trigger();
+        });
+        QTest::mousePress(&rows, Qt::RightButton, Qt::NoModifier, row);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, row, rows.mapToGlobal(row));
+        QApplication::sendEvent(&rows, &event);
+        QTest::mouseRelease(&rows, Qt::RightButton, Qt::NoModifier, row);
+    }
+    EXPECT_EQ("inv", opened);
+    gRunUntilIdle();
+    EXPECT_EQ(2, report.GetRows().GetCount());
+}
+
+TEST_F(QtShellTest, TheKeyOfTheConsoleIsNoHarmWithoutPanes) {
+    Run run(*this);
+    run.Window()->activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(run.Window()->isActiveWindow(), 10'000);
+    QTest::keyClick(run.Window(), Qt::Key_T, Qt::ControlModifier);
+    QWidget* const input = run.Console()->findChild<QWidget*>(QStringLiteral("consoleInput"));
+    run.navigator.Browser().DestroyWindow();
+    QTest::keyClick(input, Qt::Key_T, Qt::ControlModifier);
+    EXPECT_FALSE(run.Console()->isVisible());
 }
 
 TEST_F(QtShellTest, AScriptEndsTheProgramWithItsStatus) {

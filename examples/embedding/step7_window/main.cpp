@@ -1,5 +1,4 @@
 // Step 7: the same tool on a screen, by Qt: widgets, settings in a file or in the registry, a menu, pictures.
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -18,6 +17,7 @@
 #include "vapp/toolkit/CFrameWnd.h"
 #include "vapp/toolkit/WindowPlacement.h"
 #include "vapp/toolkit/qt/QtBitmap.h"
+#include "vapp/toolkit/qt/QtIdle.h"
 #include "vapp/toolkit/qt/QtPeerFactory.h"
 #include "vapp/toolkit/qt/QtProfileStore.h"
 #include "vapp/toolkit/qt/QtTheme.h"
@@ -139,9 +139,8 @@ int ShowWindow(const ToolWords& words, Frame& frame, TLibraryBrowser& browser, D
         browser.RequestLibraryViewDelayedPopulate();
         browser.RequestCellListViewDelayedPopulate(UpdateAlways);
     });
-    // Whenever Qt has nothing else to do, what is out of date is refreshed.
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                     &frame.Widget(), [&browser] { browser.Populate(); });
+    // Whenever Qt has nothing else to do, what is out of date is refreshed; not under an open menu.
+    gRunWhenIdle(frame.Widget(), [&browser] { browser.Populate(); });
     PutBack(frame.Widget());
     frame.ShowWindow(true);
     if (words.picture.empty()) return QApplication::exec();

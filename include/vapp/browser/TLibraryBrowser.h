@@ -70,7 +70,8 @@ public:
     // --- Refresh ---------------------------------------------------------------------------------------
 
     /// Refreshes the library pane if it is dirty, then the cell list if that is dirty. For the host to call
-    /// when idle.
+    /// when idle, and no menu is open: a command that is picked from one is run for the cells that have focus
+    /// and selection by then, and a refresh puts the focus back by the number of its row.
     void Populate();
     void RequestLibraryViewDelayedPopulate();
     void RequestCellListViewDelayedPopulate(TUpdateCellListReason reason);
@@ -135,7 +136,8 @@ public:
     // WM_LN_BUILDTABMENU, when a list builds its menu. At any other time they do nothing, but for the default
     // command, which counts whenever it is set.
 
-    /// Adds an item that runs a host command, with the next free number.
+    /// Adds an item that runs a host command, with the next free number. Give it a command: a number without
+    /// one is taken for the name of a view from 43000 on, and says "Not yet implemented." below.
     void AddCellListMenuCommand(const CString& text, const CStringU& command,
                                 TLibraryBrowserTclInterfaceStyle style, bool disabled, bool checked,
                                 bool isDefault);
