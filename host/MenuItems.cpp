@@ -7,7 +7,10 @@
 #include <utility>
 
 #include "host/LibraryText.h"
+#include "host/TclList.h"
 #include "vapp/browser/TLibraryBrowser.h"
+#include "vapp/browser/TclBridge.h"
+#include "vapp/celllist/TCellListView.h"
 
 namespace navigator {
 
@@ -79,6 +82,52 @@ bool IsSafeInQuotes(const CStringU& name) {
     return std::string_view(name.Payload()).find_first_of("{}\"\\") == std::string_view::npos;
 }
 
+/// Of more selected views than these the rest is not looked at: a menu should come at once.
+constexpr int cnMostChecked = 10'000;
+
+/// The only word of a list, if it has one and no more.
+std::optional<std::string> OnlyWord(const std::string& list) {
+    const std::vector<std::string> words = gWordsOfList(list);
+    return words.size() == 1 ? std::optional(words.front()) : std::nullopt;
+}
+
+/// Whether a command that reads the list of the selected views as lists finds the three names of this one:
+/// they stand in quotes within braces, each as the hook has made it a word.
+bool ArrivesInList(const TLibCellView& view) {
+    const std::array<const CStringU*, 3> names{&view.library, &view.cell, &view.view};
+    if (std::all_of(names.begin(), names.end(), [](const CStringU* name) { return IsSafeInQuotes(*name); }))
+        return true;
+    std::string words;
+    std::vector<std::string> wanted;
+    for (const CStringU* name : names) {
+        words.append(words.empty() ? "" : " ").append(SanitizeTclInput(*name).Payload());
+        wanted.emplace_back(name->Payload());
+    }
+    const std::optional<std::string> list = OnlyWord("{ \"" + words + "\" }");
+    const std::optional<std::string> element = list ? OnlyWord(*list) : std::nullopt;
+    return element && gWordsOfList(*element) == wanted;
+}
+
+bool DoSelectedArrive(const TLibraryBrowser& browser) {
+    const TCellListView* const pane = browser.GetCellListView();
+    if (pane == nullptr) return true;
+    int checked = 0;
+    for (const TLibCellView& view : pane->GetSelectedCells()) {
+        if (!ArrivesInList(view)) return false;
+        if (++checked == cnMostChecked) break;
+    }
+    return true;
+}
+
+/// The items, those of a style greyed unless the names that they would tell arrive.
+std::vector<MenuItem> GreyedUnless(bool doArrive, std::span<const MenuItem> items,
+                                   TLibraryBrowserTclInterfaceStyle style) {
+    std::vector<MenuItem> shown(items.begin(), items.end());
+    for (MenuItem& item : shown)
+        if (item.style == style && !doArrive) item.isDisabled = true;
+    return shown;
+}
+
 }  // namespace
 
 std::optional<TMenuPlace> gMenuPlaceOf(std::string_view word) {
@@ -101,16 +150,13 @@ const MenuStyle* gFindMenuStyle(TMenuPlace place, std::string_view word) {
 }
 
 void gAddCellItems(TLibraryBrowser& browser, std::span<const MenuItem> items) {
-    AddAll(browser, cnCellSink, items);
+    AddAll(browser, cnCellSink, GreyedUnless(DoSelectedArrive(browser), items, StyleSelectedLcvs));
 }
 
 void gAddLibraryItems(TLibraryBrowser& browser, std::span<const MenuItem> items) {
     const std::set<CStringIU> selected = browser.GetSelectedLibrariesSet();
     const bool isSafe = std::all_of(selected.begin(), selected.end(), IsSafeInQuotes);
-    std::vector<MenuItem> shown(items.begin(), items.end());
-    for (MenuItem& item : shown)
-        if (item.style == StyleSelectedLibraries && !isSafe) item.isDisabled = true;
-    AddAll(browser, cnLibrarySink, shown);
+    AddAll(browser, cnLibrarySink, GreyedUnless(isSafe, items, StyleSelectedLibraries));
 }
 
 std::vector<std::string> gAddTabItems(TLibraryBrowser& browser, std::span<const MenuItem> items) {

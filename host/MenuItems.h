@@ -49,7 +49,9 @@ struct MenuItem {
     bool isDefault = false;
 };
 
-/// While the cell list builds its menu: puts the items in front of its own.
+/// While the cell list builds its menu: puts the items in front of its own. Items that get the selected views
+/// are greyed if the name of one of them can't be told in a list of lists, as one that begins with a
+/// quote or holds a backslash; of very many selected views the first ones are looked at.
 void gAddCellItems(vapp_library_browser::TLibraryBrowser& browser, std::span<const MenuItem> items);
 
 /// While the library list builds its menu. Its menu has no separators. The names of libraries that are told
