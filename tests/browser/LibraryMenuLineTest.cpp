@@ -4,9 +4,11 @@
 #include "browser/LibraryMenuLine.h"
 
 #include <gtest/gtest.h>
+#include <tcl.h>
 
 #include <array>
 
+#include "tests/browser/NamesOfCommand.h"
 #include "tests/browser/RecordingHost.h"
 #include "vapp/text/Translate.h"
 
@@ -28,6 +30,10 @@ std::string Told(const std::optional<CStringU>& line) {
 std::string Line(const char* text, TLibraryBrowserTclInterfaceStyle style, bool qedit = false,
                  const char* design = "my top", const Libraries& libraries = csTwo) {
     return Told(MakeLibraryMenuLine(text, style, qedit, design, libraries));
+}
+
+Libraries LibrariesOf(const NamesOfCommand& names) {
+    return {CStringIU(names.cell.library), CStringIU("io")};
 }
 
 class LibraryMenuLine : public testing::Test {
@@ -54,6 +60,68 @@ TEST_F(LibraryMenuLine, IsForEveryStyleWhatTheGoldenFileSays) {
         }
     }
     ExpectGolden("library-menu.txt", lines);
+}
+
+TEST_F(LibraryMenuLine, IsForEveryKindOfNameWhatTheGoldenFileSays) {
+    std::vector<std::string> lines;
+    for (const bool hooked : {false, true}) {
+        const HookGuard hook(hooked ? &RecordingHost::Brace : nullptr);
+        for (const NamesOfCommand& names : cnNamesOfCommand) {
+            for (const bool qedit : {false, true}) {
+                for (const TLibraryBrowserTclInterfaceStyle style : cnAllStyles) {
+                    lines.push_back(std::string(names.what) + (hooked ? " hook" : "") +
+                                    (qedit ? " editor " : " ") + std::to_string(style) + ": " +
+                                    Line("edit it", style, qedit, names.design, LibrariesOf(names)));
+                }
+            }
+        }
+    }
+    ExpectGolden("library-names.txt", lines);
+}
+
+// A host that evaluates what it logs: the design is one word whatever it is, the libraries are a list again
+// as long as their names hold nothing that ends it or is changed in it. Nothing runs but the command.
+TEST_F(LibraryMenuLine, ArrivesWordByWordAndNothingElseRuns) {
+    const HookGuard hook;
+    ASSERT_EQ(m_host.Eval("proc logaction {line} {uplevel #0 $line}; proc edit args {set ::got $args}; "
+                          "proc exit args {set ::hit exit}"),
+              "");
+    std::vector<NamesOfCommand> rows(cnNamesOfCommand.begin(), cnNamesOfCommand.end());
+    rows.push_back(cnBackslashNames);
+    for (const NamesOfCommand& names : rows) {
+        SCOPED_TRACE(names.what);
+        const auto arrived = [&](TLibraryBrowserTclInterfaceStyle style, bool qedit) {
+            const std::string line = Line("edit", style, qedit, names.design, LibrariesOf(names));
+            m_host.Eval("unset -nocomplain ::got");
+            return Tcl_Eval(m_host.GetInterp(), line.c_str()) == TCL_OK ? m_host.Eval("set ::got")
+                                                                        : std::string("(failed)");
+        };
+        EXPECT_EQ(arrived(StyleCommandOnly, false), RecordingHost::List({names.design}));
+        EXPECT_EQ(arrived(StyleCommandOnly, true), "");
+        EXPECT_EQ(arrived(StyleBuiltIn, false), "");
+        EXPECT_EQ(arrived(StyleFocusedLcv, false), "") << "wrapped twice, it is the same command";
+        std::vector<std::string> wanted;
+        for (const CStringIU& library : LibrariesOf(names))
+            wanted.emplace_back(library.Payload());
+        const std::string list = RecordingHost::List(wanted);
+        const bool isHarmless =
+            std::string(names.cell.library.Payload()).find_first_of("{}\"\\") == std::string::npos;
+        for (const bool qedit : {false, true}) {
+            const std::string got = arrived(StyleSelectedLibraries, qedit);
+            if (isHarmless) {
+                Tcl_SetVar(m_host.GetInterp(), "list", list.c_str(), TCL_GLOBAL_ONLY);
+                EXPECT_EQ(m_host.Eval("list {*}[lindex $::got end]"), m_host.Eval("list {*}$::list"));
+                EXPECT_EQ(m_host.Eval("lrange $::got 0 end-1"),
+                          qedit ? "-libraries" : RecordingHost::List({names.design, "-libraries"}));
+            } else {
+                Tcl_SetVar(m_host.GetInterp(), "name", names.cell.library.Payload(), TCL_GLOBAL_ONLY);
+                EXPECT_EQ(m_host.Eval("catch {expr {$::name in [lindex $::got end]}} is; string is true $is"),
+                          "0")
+                    << "no list can be made of " << got;
+            }
+        }
+    }
+    EXPECT_EQ(m_host.Eval("info exists ::hit"), "0");
 }
 
 TEST_F(LibraryMenuLine, OtherStylesAreWrappedTwiceWhateverTheTextBeginsWith) {

@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "tests/browser/NamesOfCommand.h"
 #include "tests/browser/RecordingHost.h"
 
 namespace {
@@ -14,21 +15,6 @@ using namespace vapp_library_browser;
 constexpr std::array cnCellStyles = {StyleCommandOnly, StyleFocusedLcv,       StyleSelectedLcvs,
                                      StyleMasterCell,  StyleCellLibraryView,  StyleLibraryCell,
                                      StyleBuiltIn,     StyleSelectedLibraries};
-
-struct NamesOfCommand {
-    const char* what;
-    const char* design;
-    TLibCellView cell;
-};
-const std::array cnNamesOfCommand = {
-    NamesOfCommand{"plain", "top", {"lib", "inv", "sym"}},
-    NamesOfCommand{"blanks", "my top", {"my lib", "an inv", "a sym"}},
-    NamesOfCommand{"braces", "t{op", {"l}ib", "{inv}", "sy{m"}},
-    NamesOfCommand{"brackets", "[top]", {"lib[0]", "[exit]", "sym]"}},
-    NamesOfCommand{"quotes", "t\"op", {"\"lib\"", "in\"v", "sym\""}},
-    NamesOfCommand{"dollars", "$top", {"lib$x", "${inv}", "$sym"}},
-    NamesOfCommand{"newlines", "t\nop", {"l\nib", "inv\n", "\nsym"}},
-};
 
 CellCommandSubject SubjectWith(const NamesOfCommand& names, bool qedit) {
     const TLibCellView second(names.cell.library, "nand2", names.cell.view);
@@ -148,7 +134,7 @@ TEST_F(CellCommandLineTest, TheSelectedCellsArriveAsOneWordAndNothingElseRuns) {
                    : "ERROR " + std::string(Tcl_GetStringResult(interp));
     };
     std::vector<NamesOfCommand> rows(cnNamesOfCommand.begin(), cnNamesOfCommand.end());
-    rows.push_back({"backslashes", "t\\op", {"li\\b", "a\\b", "sy\\"}});
+    rows.push_back(cnBackslashNames);
     for (const NamesOfCommand& names : rows) {
         SCOPED_TRACE(names.what);
         const CellCommandSubject subject = SubjectWith(names, false);
