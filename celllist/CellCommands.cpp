@@ -34,10 +34,8 @@ constexpr char csNotYetImplemented[] = "__$$Translatable$$_Not yet implemented."
 
 std::set<TLibCellView> SetOf(const TReport::TSelectedColl& cells) {
     std::set<TLibCellView> set;
-    for (const TLibCellView& cell : cells) {
-        // A row that has gone can still be selected after a fetching that failed.
-        if (!cell.cell.IsEmpty()) set.insert(cell);
-    }
+    for (const TLibCellView& cell : cells)
+        set.insert(cell);
     return set;
 }
 

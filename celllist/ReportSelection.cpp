@@ -12,6 +12,11 @@ namespace {
 
 using TReport = TCellNamesReportCtrl;
 
+// After a fetching that failed the rows are still there, also as selected ones, and the cells are not.
+CXTPReportSelectedRowPosition WithCell(const TReport& report, CXTPReportSelectedRowPosition position) {
+    return position >= 0 && static_cast<std::uint64_t>(position) < report.GetCellViewCount() ? position : -1;
+}
+
 }  // namespace
 
 TLibCellView TReport::TSelectedColl::const_iterator::operator*() const {
@@ -22,15 +27,16 @@ TLibCellView TReport::TSelectedColl::const_iterator::operator*() const {
 
 TReport::TSelectedColl::const_iterator& TReport::TSelectedColl::const_iterator::operator++() {
     static_cast<void>(m_report->GetSelectedRows().GetNextSelectedRow(m_position));
+    m_position = WithCell(*m_report, m_position);
     return *this;
 }
 
 TReport::TSelectedColl::const_iterator TReport::TSelectedColl::begin() const {
-    return {*m_report, m_report->GetSelectedRows().GetFirstSelectedRowPosition()};
+    return {*m_report, WithCell(*m_report, m_report->GetSelectedRows().GetFirstSelectedRowPosition())};
 }
 
 bool TReport::AreAnyCellsSelected() const {
-    return GetSelectedRows().GetFirstSelectedRowPosition() >= 0;
+    return !GetSelected().empty();
 }
 
 void TReport::OnSelectAll() {

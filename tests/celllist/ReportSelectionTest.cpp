@@ -81,14 +81,41 @@ TEST_F(ReportSelectionTest, BringsAHighlightedCellIntoView) {
     EXPECT_GT(top + Report().GetCountPerPage(), 400);
 }
 
-TEST_F(ReportSelectionTest, ReadsNothingOfRowsThatAreGone) {
+TEST_F(ReportSelectionTest, WalksDisturbNeitherEachOtherNorTheSelection) {
+    Report().GetSelectedRows().AddBlock(0, 1);
+    Report().GetSelectedRows().AddBlock(3, 4);
+    const TReport::TSelectedColl selected = Report().GetSelected();
+    CXTPReportSelectedRowPosition position = Report().GetSelectedRows().GetFirstSelectedRowPosition();
+    std::vector<int> rows;
+    auto slow = selected.begin();
+    while (const std::optional<CXTPReportRow> row = Report().GetSelectedRows().GetNextSelectedRow(position)) {
+        rows.push_back(row->GetIndex());
+        ASSERT_NE(slow, selected.end());
+        EXPECT_EQ(*slow, Report().GetCell(row->GetIndex())) << "one walk inside of the other";
+        TLines inner;
+        for (const TLibCellView& cell : selected)
+            inner.emplace_back(cell.Join(" ").Payload());
+        EXPECT_EQ(inner, (TLines{"l1 a v", "l1 b lay", "l2 b sym", "l2 c v"}));
+        EXPECT_EQ(*slow, *slow) << "looking is no step";
+        auto before = slow++;
+        EXPECT_EQ(*before, Report().GetCell(row->GetIndex()));
+    }
+    EXPECT_EQ(rows, (std::vector<int>{0, 1, 3, 4}));
+    EXPECT_EQ(slow, selected.end());
+    EXPECT_EQ(Ranges(), (std::vector<RowSelection::Range>{{0, 1}, {3, 4}}));
+}
+
+TEST_F(ReportSelectionTest, HasNothingOfRowsThatAreGone) {
     Report().OnSelectAll();
     m_host.AnswerStart(csCount, "x");
     m_host.AnswerStart(csList, "{");
     Report().Populate();
+    EXPECT_GT(Report().GetRows().GetCount(), 0) << "they are blank";
     Report().OnSelectAll();
-    for (const TLibCellView& cell : Report().GetSelected())
-        EXPECT_TRUE(cell.cell.IsEmpty());
+    EXPECT_GT(Report().GetSelectedRows().GetCount(), 0);
+    EXPECT_TRUE(Report().GetSelected().empty());
+    EXPECT_TRUE(m_browser.GetSelectedCells().empty());
+    EXPECT_FALSE(m_browser.AreAnyCellsSelected()) << "there is nothing to do something with";
     AnswerCells({{"l1", "a", "v"}});
     Report().Populate();
     EXPECT_EQ(Report().GetCellViewCount(), 1u);

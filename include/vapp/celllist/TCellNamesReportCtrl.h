@@ -220,7 +220,8 @@ public:
 
     // --- Selection -------------------------------------------------------------------------------------
 
-    /// The selected rows, to be walked through. Valid until the next population or change of selection.
+    /// The cells of the selected rows, to be walked through. Rows that a failed population has left blank
+    /// have none. Valid until the next population or change of selection.
     class VAPP_EXPORT TSelectedColl {
     public:
         class VAPP_EXPORT const_iterator {
@@ -260,6 +261,7 @@ public:
     };
 
     [[nodiscard]] TSelectedColl GetSelected() const { return TSelectedColl(*this); }
+    /// False also if all that is selected are rows without cells.
     [[nodiscard]] bool AreAnyCellsSelected() const;
     /// Takes the keyboard and selects every row.
     void OnSelectAll();
