@@ -84,7 +84,7 @@ void TSymbolPreview::DisplayNewPreview() {
     ShowFocusedCell();
     // Once more if the line moved the focus or the size, and no more than once: a host that refreshes the
     // navigator in every answer would go on without end.
-    if (m_askedMeanwhile) ShowFocusedCell();
+    if (m_askedMeanwhile && IsWindow()) ShowFocusedCell();
 }
 
 void TSymbolPreview::ShowFocusedCell() {

@@ -30,16 +30,6 @@ CString FormatOfThisProcess() {
     return format;
 }
 
-// The same as the clipboard gets for such a row: the names as they are, with blanks between them.
-CStringU TextOf(const TLibCellView& cell) {
-    CStringU text = cell.library;
-    for (const CStringU* name : {&cell.cell, &cell.view}) {
-        text += " ";
-        text += *name;
-    }
-    return text;
-}
-
 }  // namespace
 
 CLibCellViewOleData::CLibCellViewOleData(const CStringU& designName, const TLibCellView& lcv,
@@ -96,7 +86,8 @@ bool TReport::StartDragAndDrop(bool rightButton, const TLibCellView& cell, const
     m_dataSource->CacheData(
         CLibCellViewOleDataSource::ClipboardFormatLibCellView,
         CLibCellViewOleData(view != nullptr ? view->GetSelectedDesign() : CStringU(), cell, rightButton));
-    m_dataSource->SetText(TextOf(cell));
+    // The same as the clipboard gets for such a row.
+    m_dataSource->SetText(cell.Join(" "));
     const FlagGuard dragging(m_inDragDrop);
     return m_dataSource->DoDragDrop(cnDropCopy | cnDropLink, start != nullptr ? *start : CRect()) !=
            cnDropNone;

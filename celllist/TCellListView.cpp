@@ -120,7 +120,8 @@ void TCellListView::OnCbnCloseupFilterCombo() {
 // With a refresh due, the rows that the host would ask about are not those that the user has selected.
 void TCellListView::OnReportSelectionChanged() {
     if (!m_needsPopulate) AskMainWindow(WM_LN_HOSTNOTIFY, cnNotifySelectionChanged);
-    if (m_previewView != nullptr) m_previewView->DisplayNewPreview();
+    // The host may have ended the window; what was its preview has nothing to show any more.
+    if (IsWindow() && m_previewView != nullptr) m_previewView->DisplayNewPreview();
 }
 
 void TCellListView::OnReportSortOrderChanged() {

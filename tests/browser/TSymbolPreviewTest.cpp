@@ -37,6 +37,17 @@ protected:
     HBITMAP m_bitmap = reinterpret_cast<HBITMAP>(&m_host);  // opaque: only its address is looked at
 };
 
+TEST_F(TSymbolPreviewTest, ALineThatMovesTheFocusAndEndsTheWindowIsTheLast) {
+    ShowFocusedCell();
+    m_host.HandleStart("librarynavigator preview", [this](Tcl_Interp*) {
+        Preview().DisplayNewPreview();
+        m_browser.DestroyWindow();
+        return TCL_OK;
+    });
+    Preview().DisplayNewPreview();
+    EXPECT_EQ(PreviewLines().size(), 1u);
+}
+
 TEST_F(TSymbolPreviewTest, AsksForAPictureOfThePresentSize) {
     ShowFocusedCell();
     Preview().MoveWindow({0, 0, 208, 232});
@@ -211,6 +222,7 @@ TEST_F(TSymbolPreviewTest, ASizeWithoutAWidthLaysOutByTheWindowAndSendsNoLine) {
 }
 
 TEST_F(TSymbolPreviewTest, AMovedPaneIsPaintedAtOnce) {
+    vapp_platform::SetWineAnswer(true);
     RecordingPeers peers;
     Initialize();
     Preview().MoveWindow({0, 0, 208, 232});
@@ -220,4 +232,5 @@ TEST_F(TSymbolPreviewTest, AMovedPaneIsPaintedAtOnce) {
     Preview().MoveWindow({0, 10, 218, 242});
     EXPECT_EQ(peers.Of(Preview()).updates, 1u);
     EXPECT_EQ(peers.Of(Preview()).invalidations, 1u);
+    vapp_platform::SetWineAnswer(std::nullopt);
 }

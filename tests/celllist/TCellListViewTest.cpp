@@ -154,6 +154,18 @@ TEST_F(TCellListViewTest, TellsTheMainWindowOfTheSelectionUnlessARefreshIsDue) {
     EXPECT_EQ(listener.m_messages, (std::vector<std::pair<UINT, WPARAM>>{{WM_LN_ISDARKTHEME, 0}}));
 }
 
+TEST_F(TCellListViewTest, AWindowThatTheHostEndsWhenItIsToldOfTheSelectionSendsNothingMore) {
+    AnsweringWindow window(m_app);
+    window.answer = [this](UINT message, WPARAM, LPARAM) -> LRESULT {
+        if (message == WM_LN_HOSTNOTIFY) m_browser.DestroyWindow();
+        return 0;
+    };
+    m_host.ClearLines();
+    SelectRow(1);
+    EXPECT_FALSE(m_browser.IsWindow());
+    EXPECT_EQ(m_host.Lines(), TLines());
+}
+
 TEST_F(TCellListViewTest, HasThreeTabsWhoseTextsTheHostGives) {
     const auto& tabs = dynamic_cast<CTabCtrl&>(*Cells().GetDlgItem(TCellListView::cnTabs));
     ASSERT_EQ(tabs.GetItemCount(), 3);
