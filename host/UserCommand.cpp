@@ -105,8 +105,8 @@ const SubCommandRow<UserCommand> UserCommand::csSubCommands[] = {
       "and "
       "directions), rows (their number), cell (of the focus: library, cell, view), heights (of the panes), "
       "window (left, top, width and height of its inner area), filter (the sub-string), type (of the "
-      "filter), setup (the arrangement of columns), columns (captions and widths of those that are shown), "
-      "status (the line below the list), drag (1 while a cell is dragged)."},
+      "filter), setup (the arrangement of columns), tab (its number, from 0), columns (captions and widths "
+      "of those that are shown), status (the line below the list), drag (1 while a cell is dragged)."},
      0,
      0,
      &UserCommand::State},
@@ -268,6 +268,7 @@ int UserCommand::State(Tcl_Interp* interp, TclWords) {
     Put(state, "filter", NativeObject(cells->GetFilterText()));
     Put(state, "type", TextObject(cells->GetDropDownFilter()));
     Put(state, "setup", TextObject(cells->GetReport().GetActiveSetup()));
+    Put(state, "tab", Tcl_NewIntObj(cells->GetSetupTab()));
     Put(state, "columns", ColumnList(cells->GetReport().GetColumns()));
     Put(state, "status",
         NativeObject(cells->GetDlgItem(vapp_library_browser::TCellListView::cnStatus)->GetWindowText()));

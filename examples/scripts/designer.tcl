@@ -7,7 +7,7 @@
 
 namespace eval example {
     variable said ""
-    variable watched {}
+    variable marked {}
 
     # What a command has to tell.
     proc say {sentence} {
@@ -83,16 +83,17 @@ namespace eval example {
     }
 
     # For a tab: its number, and 1 if the item became checked.
-    proc watch {tab isChecked} {
-        variable watched
-        set watched [lsearch -all -inline -not -exact $watched $tab]
-        if {$isChecked} { lappend watched $tab }
-        say "Tab $tab is [expr {$isChecked ? {watched} : {not watched any more}}]."
+    proc mark {tab isChecked} {
+        variable marked
+        set marked [lsearch -all -inline -not -exact $marked $tab]
+        if {$isChecked} { lappend marked $tab }
+        say "Tab $tab is [expr {$isChecked ? {marked} : {not marked any more}}]."
     }
 
-    proc isWatched {} {
-        variable watched
-        expr {$watched ne ""}
+    # A tab whose menu is asked for is the current one.
+    proc isMarked {} {
+        variable marked
+        expr {[dict get [user state] tab] in $marked}
     }
 }
 
@@ -109,4 +110,4 @@ usermenu add libraries "Size of libraries" example::sizeOfLibraries -style libra
     -enabled {expr {[dict get [user state] libraries] ne ""}}
 usermenu add libraries "Names to clipboard" CopyNamestoClipboard    -style builtin
 
-usermenu add tabs "Tell me when shown" example::watch -checked example::isWatched
+usermenu add tabs "Marked" example::mark -checked example::isMarked

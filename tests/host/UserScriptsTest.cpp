@@ -72,11 +72,16 @@ TEST_F(UserScriptsTest, TheExampleUsesEveryStyle) {
     EXPECT_EQ(Answer("set example::said"), "lib: 3 views");
     PickFromLibraries("Size of design");
     EXPECT_EQ(Answer("set example::said"), m_design + ": 4 views in 2 libraries");
-    PickFromTab(1, "Tell me when shown");
-    EXPECT_EQ(Answer("set example::said"), "Tab 1 is watched.");
-    PickFromTab(1, "Tell me when shown");
-    EXPECT_THAT(m_seen, Contains("Tell me when shown *"));
-    EXPECT_EQ(Answer("set example::said"), "Tab 1 is not watched any more.");
+    PickFromTab(0, "Marked");
+    EXPECT_EQ(Answer("set example::said"), "Tab 0 is marked.");
+    PickFromTab(1, "Marked");
+    EXPECT_THAT(m_seen, Contains("Marked")) << "each tab has a mark of its own";
+    EXPECT_EQ(Answer("set example::said"), "Tab 1 is marked.");
+    PickFromTab(1, "Marked");
+    EXPECT_THAT(m_seen, Contains("Marked *"));
+    EXPECT_EQ(Answer("set example::said"), "Tab 1 is not marked any more.");
+    PickFromTab(0, "");
+    EXPECT_THAT(m_seen, Contains("Marked *"));
 }
 
 TEST_F(UserScriptsTest, AnExamplePlacesCellsOntoASchematic) {
