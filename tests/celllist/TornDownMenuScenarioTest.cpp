@@ -1,158 +1,78 @@
 /// @file
-/// Menus that are torn down: while the host fills one, while it is open, and by the command that was picked
-/// from it, the host ends the window, the navigator itself or the frame, drops a library, or fetches rows.
-#include <gtest/gtest.h>
+/// Menus, double clicks and drags that are torn down, without a screen: whatever the host does at whichever
+/// moment, the navigator lives on, and what is run names what was meant.
+#include <any>
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "tests/browser/AnsweringWindow.h"
-#include "tests/browser/RecordingHost.h"
+#include "tests/celllist/TornDownNavigator.h"
 #include "tests/toolkit/RecordingPeers.h"
-#include "vapp/browser/Messages.h"
-#include "vapp/browser/TLibraryBrowser.h"
-#include "vapp/browser/TLibraryView.h"
+#include "vapp/browser/CExcludeDlg.h"
+#include "vapp/celllist/CLibCellViewOleData.h"
 #include "vapp/celllist/CLibCellViewOleDataSource.h"
-#include "vapp/toolkit/CFrameWnd.h"
-#include "vapp/toolkit/CWinAppEx.h"
+#include "vapp/celllist/TCellListCommand.h"
 
 namespace {
 
 using namespace vapp_library_browser;
+using TTornLines = std::vector<std::string>;
 
-class TornDownFrame : public CFrameWnd {
-public:
-    ~TornDownFrame() override { DestroyWindow(); }
-};
-
-class TornDownMenu : public testing::Test {
+class TornDownMenu : public TornDownNavigator {
 protected:
-    enum class TMoment { Filling, Open, Running };
     struct TWhat {
         const char* name;
         std::function<void()> open;  ///< asks for the menu, and picks the host's item or the first view
         UINT picked;
     };
-    struct TAct {
-        const char* name;
-        std::function<void()> run;
-        bool endsWindow;
-    };
 
     TornDownMenu() {
-        m_window.answer = [this](UINT message, WPARAM, LPARAM) -> LRESULT { return Answer(message); };
         m_peers.pick = [this](const CMenu&) {
             ++m_shown;
             At(TMoment::Open);
             return m_picked;
         };
-        COleDataSource::InstallDragRunner([this](COleDataSource&, UINT, const CRect&) {
+        m_peers.answerDialog = [this](CDialog& dialog) {
+            ++m_shown;
             At(TMoment::Open);
+            dynamic_cast<CButton&>(*dialog.GetDlgItem(IDOK)).Click();
+        };
+        COleDataSource::InstallDragRunner([this](COleDataSource& source, UINT, const CRect&) {
+            At(TMoment::Open);
+            const std::any* data = source.GetData(CLibCellViewOleDataSource::ClipboardFormatLibCellView);
+            const auto* cell = data != nullptr ? std::any_cast<CLibCellViewOleData>(data) : nullptr;
+            if (cell != nullptr) m_dragged = *cell;
+            m_draggedText = source.GetText();
             return cnDropCopy;
         });
     }
     ~TornDownMenu() override { COleDataSource::InstallDragRunner({}); }
 
-    void Begin() {
-        m_frame = std::make_unique<TornDownFrame>();
-        m_frame->CreateFrame("frame", {0, 0, 400, 940});
-        m_navigator = std::make_unique<TLibraryBrowser>();
-        m_host.Answer("database all_libs", "{top {l1 /l1} {l2 /l2}}");
-        m_host.AnswerStart("database cells", "2");
-        m_host.AnswerStart("database cells -lcv -library top -filter", "{l1 a sym} {l2 b lay}");
-        m_host.Answer("database cells -lcv -library top", "{l1 a sym} {l2 b lay}");
-        m_host.AnswerStart("librarynavigator preview set", "");
-        m_host.HandleStart("logaction", [this](Tcl_Interp*) {
-            ++m_ran;
-            At(TMoment::Running);
-            return 0;
-        });
-        ASSERT_TRUE(m_navigator->Initialize(m_frame.get(), m_host.GetInterp(), nullptr));
-        m_navigator->Populate();
-        m_shown = m_ran = 0;
-        m_isDone = false;
-    }
-    void End() {
-        m_navigator.reset();
-        m_frame.reset();
-    }
-
-    LRESULT Answer(UINT message) {
-        if (message == WM_LN_BUILDCELLMENU && m_navigator) {
-            m_navigator->AddCellListMenuCommand("Act", "act", StyleFocusedLcv, false, false, false);
-            At(TMoment::Filling);
-        }
-        if (message == WM_LN_BUILDLIBRARYMENU && m_navigator) {
-            m_navigator->AddLibraryListMenuCommand("Act", "act", StyleSelectedLibraries, false, false, false);
-            At(TMoment::Filling);
-        }
-        if (message == WM_LN_BUILDTABMENU && m_navigator) {
-            m_navigator->GetCellListView()->AddCellTabsMenuItem("Act", false);
-            At(TMoment::Filling);
-        }
-        if (message == WM_LN_TABMENUPICK || message == WM_LN_CELLDBLCLK) {
-            ++m_ran;
-            At(TMoment::Running);
-        }
-        return 0;
-    }
-    void At(TMoment moment) {
-        if (moment != m_moment || m_isDone) return;
-        m_isDone = true;
-        m_act();
-    }
-
-    [[nodiscard]] TCellNamesReportCtrl& Report() { return m_navigator->GetCellListView()->GetReport(); }
     [[nodiscard]] CPoint InRow(int row) {
         return {10, Report().GetHeaderHeight() + row * Report().GetRowHeight() + 1};
     }
-    void OpenRows() { Report().ContextMenuByPeer(Report().ClientToScreen(InRow(0))); }
+    void OpenRows() {
+        Report().ContextClickedByUser(0);
+        Report().ContextMenuByPeer(Report().ClientToScreen(InRow(0)));
+    }
     // The View column stands behind the first one.
     void OpenHeader() {
         const int left = Report().GetColumns().GetAt(0)->GetShownWidth() + 1;
         Report().ContextMenuByPeer(Report().ClientToScreen({left, 1}));
     }
-    void OpenTab() {
-        auto& tabs =
-            dynamic_cast<CTabCtrl&>(*m_navigator->GetCellListView()->GetDlgItem(TCellListView::cnTabs));
-        tabs.ContextClickedByUser(1, {5, 5});
-    }
+    void OpenTab() { Tabs().ContextClickedByUser(1, {5, 5}); }
     void OpenLibraries() {
         m_navigator->SelectInLibraryList("l2");
         m_navigator->GetLibraryView()->GetLibraryListCtrl().ContextMenuByPeer({30, 40});
     }
-    void FetchRows() {
-        m_navigator->RequestCellListViewDelayedPopulate(UpdateAlways);
-        m_navigator->Populate();
-    }
-    void DropLibrary() {
-        m_host.Answer("database all_libs", "{top {l1 /l1}}");
-        m_host.AnswerStart("database cells -lcv -library top -filter", "{l1 a sym}");
-        m_navigator->RequestLibraryViewDelayedPopulate();
-        FetchRows();
-    }
-    [[nodiscard]] std::vector<TAct> Acts() {
-        return {{"the window ends", [this] { m_navigator->DestroyWindow(); }, true},
-                {"the navigator ends", [this] { m_navigator.reset(); }, true},
-                {"the frame's window ends", [this] { m_frame->DestroyWindow(); }, true},
-                {"the library goes", [this] { DropLibrary(); }, false},
-                {"rows are fetched", [this] { FetchRows(); }, false}};
+    /// What the picked command was told; nothing of a tab's, which has none.
+    [[nodiscard]] static TTornLines WantedLines(const std::string& menu, const TAct& act, TMoment moment) {
+        if (menu == "tab" || (act.EndsWindow() && moment != TMoment::Running)) return {};
+        if (menu == "rows") return {"logaction act top " + FocusWhenPicked(act.kind, moment)};
+        return {"logaction act top" + LibrariesWhenPicked(act.kind, moment)};
     }
 
-    RecordingHost m_host;
     RecordingPeers m_peers;
-    CWinAppEx m_app{"tool"};
-    AnsweringWindow m_window{m_app};
-    std::unique_ptr<TornDownFrame> m_frame;
-    std::unique_ptr<TLibraryBrowser> m_navigator;
-    std::function<void()> m_act;
-    TMoment m_moment = TMoment::Filling;
     UINT m_picked = 0;
-    int m_shown = 0;
-    int m_ran = 0;
-    bool m_isDone = false;
+    CLibCellViewOleData m_dragged{{}, {}, false};
+    CStringU m_draggedText;
 };
 
 TEST_F(TornDownMenu, EveryMenuSurvivesEveryActAtEveryMoment) {
@@ -170,9 +90,13 @@ TEST_F(TornDownMenu, EveryMenuSurvivesEveryActAtEveryMoment) {
                 m_picked = menu.picked;
                 menu.open();
                 EXPECT_TRUE(m_isDone);
-                const bool endsEarly = act.endsWindow && moment != TMoment::Running;
+                const bool endsEarly = act.EndsWindow() && moment != TMoment::Running;
                 EXPECT_EQ(m_ran, endsEarly ? 0 : 1) << "what was picked in a window that has gone is not run";
-                EXPECT_EQ(m_shown, act.endsWindow && moment == TMoment::Filling ? 0 : 1);
+                EXPECT_EQ(m_shown, act.EndsWindow() && moment == TMoment::Filling ? 0 : 1);
+                EXPECT_EQ(m_lines, WantedLines(menu.name, act, moment));
+                if (!act.EndsWindow()) {
+                    EXPECT_EQ(Rows(), RowsAfter(act.kind));
+                }
                 End();
             }
         }
@@ -188,8 +112,9 @@ TEST_F(TornDownMenu, TheMenuOfAHeaderSurvivesEveryAct) {
         m_picked = 43000;
         OpenHeader();
         EXPECT_TRUE(m_isDone);
-        if (!act.endsWindow) {
-            EXPECT_EQ(Report().GetOptions().viewFilter.size(), 1u);
+        if (!act.EndsWindow()) {
+            EXPECT_EQ(Report().GetOptions().viewFilter, std::set<CStringIU>{CStringIU("lay")})
+                << "the name that the menu showed";
         }
         End();
     }
@@ -205,23 +130,116 @@ TEST_F(TornDownMenu, ADoubleClickSurvivesEveryAct) {
         Report().ClickedByUser(0, {});
         Report().DoubleClickedByUser(InRow(0));
         EXPECT_TRUE(m_isDone);
-        EXPECT_EQ(m_ran, act.endsWindow ? 1 : 2) << "the message, and the line if there is still a window";
+        EXPECT_EQ(m_ran, act.EndsWindow() ? 1 : 2) << "the message, and the line if there is still a window";
+        if (!act.EndsWindow()) {
+            EXPECT_EQ(m_lines, TTornLines{"logaction act top { \"l1 a sym\" }"})
+                << "the selection goes with the cell";
+        }
         End();
     }
 }
 
-TEST_F(TornDownMenu, ADragSurvivesEveryAct) {
+TEST_F(TornDownMenu, ADragSurvivesEveryActAndCarriesWhatWasPressed) {
     for (const TAct& act : Acts()) {
         SCOPED_TRACE(act.name);
         Begin();
         m_act = act.run;
         m_moment = TMoment::Open;
-        EXPECT_TRUE(Report().DragBegunByUser(InRow(0), 1)) << "the drop has been made all the same";
+        m_dragged = CLibCellViewOleData({}, {}, false);
+        EXPECT_TRUE(Report().DragBegunByUser(InRow(0), 2)) << "the drop has been made all the same";
         EXPECT_TRUE(m_isDone);
-        if (m_navigator && m_navigator->IsWindow()) {
+        const TTornLines names = {m_dragged.design.Payload(), m_dragged.library.Payload(),
+                                  m_dragged.cell.Payload(), m_dragged.view.Payload(),
+                                  m_dragged.sortKey.Payload()};
+        EXPECT_EQ(names, (TTornLines{"top", "l1", "a", "sym", ""}));
+        EXPECT_TRUE(m_dragged.startedByRightButton);
+        EXPECT_EQ(m_draggedText, "l1 a sym");
+        if (!act.EndsWindow()) {
             EXPECT_FALSE(Report().IsInDragDrop());
+            EXPECT_EQ(Rows(), RowsAfter(act.kind));
         }
         End();
+    }
+}
+
+// The views to leave out are the user's setting, whatever has become of the window in which they were asked.
+TEST_F(TornDownMenu, TheDialogOfTheExcludedViewsSurvivesEveryAct) {
+    for (const TAct& act : Acts()) {
+        SCOPED_TRACE(act.name);
+        Begin();
+        m_host.ClearLines();
+        m_act = act.run;
+        m_moment = TMoment::Open;
+        m_picked = ExcludeViews;
+        m_app.WriteProfileString("LibraryNavigator", "ExcludeViewNames", "mine");
+        // The menu comes first; the act is the dialog's.
+        m_isDone = true;
+        m_peers.pick = [this](const CMenu&) {
+            m_isDone = false;
+            return m_picked;
+        };
+        OpenRows();
+        EXPECT_TRUE(m_isDone);
+        EXPECT_EQ(m_app.GetProfileString("LibraryNavigator", "ExcludeViewNames"), CString("mine"));
+        if (act.EndsWindow()) {
+            EXPECT_EQ(m_host.LinesStarting("database cells -lcv -library top -filter"), TTornLines());
+        } else {
+            EXPECT_EQ(Report().GetExcludeViews(), "mine");
+            EXPECT_EQ(Rows(), RowsAfter(act.kind));
+        }
+        End();
+    }
+}
+
+// What has no handler says so in a box, which waits for the user as well.
+TEST_F(TornDownMenu, ABoxThatHasNothingToDoSurvivesEveryAct) {
+    for (const TAct& act : Acts()) {
+        SCOPED_TRACE(act.name);
+        Begin();
+        m_act = act.run;
+        m_moment = TMoment::Open;
+        m_picked = ColumnChooser;
+        m_isDone = true;
+        m_peers.pick = [this](const CMenu&) {
+            m_isDone = false;
+            return m_picked;
+        };
+        m_peers.whileBoxIsShown = [this] { At(TMoment::Open); };
+        m_peers.boxes.clear();
+        OpenRows();
+        EXPECT_TRUE(m_isDone);
+        ASSERT_EQ(m_peers.boxes.size(), 1u);
+        EXPECT_EQ(m_peers.boxes[0].GetText(), "Not yet implemented.");
+        EXPECT_EQ(m_lines, TTornLines());
+        End();
+    }
+}
+
+// The host is asked for the view names before each menu, and whether its column chooser shows.
+TEST_F(TornDownMenu, TheQuestionsBeforeAMenuSurviveTheEndOfTheWindow) {
+    for (const TAct& act : Acts()) {
+        if (act.kind != TKind::WindowEnds && act.kind != TKind::FrameEnds) continue;
+        for (const bool isOfViews : {true, false}) {
+            SCOPED_TRACE(std::string(act.name) + (isOfViews ? " views" : " chooser"));
+            Begin();
+            m_isDone = true;
+            m_picked = 41000;
+            if (isOfViews) {
+                m_host.Handle("database cells -lcv -library top", [&](Tcl_Interp*) {
+                    act.run();
+                    return 0;
+                });
+            }
+            m_window.answer = [&](UINT message, WPARAM, LPARAM) -> LRESULT {
+                if (message == WM_LN_COLCHOOSERSHOWN && m_navigator->IsWindow()) act.run();
+                return Answer(message);
+            };
+            Report().ContextMenuByPeer({20, 60});
+            EXPECT_FALSE(m_navigator->IsWindow());
+            EXPECT_EQ(m_shown, 0);
+            EXPECT_EQ(m_ran, 0);
+            End();
+        }
     }
 }
 

@@ -94,6 +94,7 @@ public:
     std::vector<CRect> monitors;         ///< what MonitorAreas answers
     std::vector<TMessageBox> boxes;      ///< those that were shown
     std::optional<int> answer = IDOK;    ///< to every box; nothing: boxes can't be shown
+    std::function<void()> whileBoxIsShown;
     /// The user of menus: sees one and gives the command that is picked.
     std::function<UINT(const CMenu& menu)> pick;
     /// The user of dialogs.
@@ -114,6 +115,7 @@ public:
     std::unique_ptr<Peer> CreateSplash(TSplashScreen& window) override { return Make(window, "splash"); }
     std::optional<int> ShowMessageBox(const TMessageBox& box) override {
         if (answer) boxes.push_back(box);
+        if (whileBoxIsShown) whileBoxIsShown();
         return answer;
     }
     UINT TrackMenu(const CMenu& menu, CWnd& /*owner*/, CPoint screen, TMenuAlign align) override {
