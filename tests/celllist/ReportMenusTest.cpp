@@ -299,6 +299,31 @@ TEST_F(ReportMenusTest, TellsThatAHostsCommandWithoutAHandlerDoesNothing) {
     EXPECT_EQ(m_peers.boxes.size(), 2u) << "a menu that was left says nothing";
 }
 
+// Numbers from the 2001st item on are those of view names.
+TEST_F(ReportMenusTest, AnItemWithAnEmptyCommandHasNoHandler) {
+    ListeningWindow listener(m_app);
+    UINT last = 0;
+    listener.m_whenAsked = [&] {
+        if (listener.m_messages.back().first != WM_LN_BUILDCELLMENU) return;
+        m_browser.AddCellListMenuCommand("empty", "", StyleCommandOnly, false, false, false);
+        for (int item = 1; item <= 2000; ++item) {
+            last = Report().GetNextCellListPopupCmdId();
+            m_browser.AddCellListMenuCommand("more", item < 2000 ? "act" : "", StyleCommandOnly, false, false,
+                                             false);
+        }
+    };
+    m_pick = 41000;
+    RightClick();
+    ASSERT_EQ(m_peers.boxes.size(), 1u);
+    EXPECT_EQ(m_peers.boxes[0].GetText(), "Not yet implemented.");
+    EXPECT_TRUE(Report().GetOptions().viewFilter.empty());
+    EXPECT_EQ(last, TReport::cnBaseID);
+    m_pick = last;
+    RightClick();
+    EXPECT_EQ(m_peers.boxes.size(), 1u);
+    EXPECT_EQ(Report().GetOptions().viewFilter.size(), 1u);
+}
+
 TEST_F(ReportMenusTest, AsksWhetherTheColumnChooserIsShown) {
     ListeningWindow window(m_app);
     RightClick();

@@ -70,9 +70,10 @@ protected:
         return told.has_value();
     }
     /// Waits until an item of a menu of the first program is seen, and gives the middle of it.
-    QPoint Item(const std::string& text) {
+    QPoint Item(const std::string& text) { return ItemOf(*m_first, text); }
+    QPoint ItemOf(DesktopProgram& program, const std::string& text) {
         const std::string find = "[lsearch -index 1 -inline [dict get $s menu] " + Word(text) + "]";
-        EXPECT_TRUE(Await(*m_first, find + " ne {}")) << text << ": " << Of("menu");
+        EXPECT_TRUE(Await(program, find + " ne {}")) << text << ": " << Of("menu");
         const std::vector<std::string> place =
             m_interp.List("set s " + Word(m_state) + "; dict get " + find + " place");
         if (place.size() != 4) return {};

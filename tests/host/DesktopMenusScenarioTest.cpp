@@ -99,15 +99,21 @@ TEST_F(DesktopMenusTest, TheMenuOfALibraryActsOnTheSelectedOnes) {
     ASSERT_TRUE(Await(*m_first, "[dict get $s libraries] eq {logic}"));
     RightClick(PlaceOf("library logic").center());
     Click(Item("Tell library"));
-    EXPECT_TRUE(Await(*m_first, "[lrange [dict get $s typed] 0 2] eq {library sample -libraries}"));
+    EXPECT_TRUE(Got("library sample -libraries { \"logic\" }")) << Of("typed");
 }
 
 TEST_F(DesktopMenusTest, TheMenuOfATabActsAndShowsTheTab) {
     const QRect tabs = PlaceOf("control 7718");
-    RightClick(tabs.topLeft() + QPoint(tabs.height() * 2, tabs.height() / 2));
+    ASSERT_TRUE(Await(*m_first, "[dict get $s tab] == 0"));
+    const std::string setup = Of("setup");
+    const std::string columns = Of("columns");
+    RightClick(tabs.topLeft() + QPoint(tabs.height() * 4, tabs.height() / 2));
     Click(Item("Tell tab"));
-    EXPECT_TRUE(Await(*m_first, "[lindex [dict get $s typed] 0] eq {tab}"));
+    EXPECT_TRUE(Got("tab 1 1")) << Of("typed");
     EXPECT_TRUE(NoMenu());
+    EXPECT_TRUE(Await(*m_first, "[dict get $s tab] == 1"));
+    EXPECT_TRUE(Await(*m_first, "[dict get $s setup] ne " + Word(setup)));
+    EXPECT_NE(columns, Of("columns")) << "that tab has columns of its own";
 }
 
 TEST_F(DesktopMenusTest, HiddenCellsLeaveTheListAndComeBackAfterARestartOnlyIfWanted) {
@@ -118,7 +124,12 @@ TEST_F(DesktopMenusTest, HiddenCellsLeaveTheListAndComeBackAfterARestartOnlyIfWa
     ASSERT_EQ(0, m_first->WaitForEnd()) << m_first->Errors();
     const auto second = NewProgram();
     second->Start(Words());
-    EXPECT_TRUE(Await(*second, "[dict get $s rows] == 44")) << second->Errors();
+    ASSERT_TRUE(Await(*second, "[dict get $s rows] == 44")) << second->Errors();
+    ASSERT_TRUE(second->Focus());
+    RightClick(PlaceOf("row 0").center());
+    for (const char* item : {"Settings", "Filters", "Show Hidden Cells"})
+        Click(ItemOf(*second, item));
+    EXPECT_TRUE(Await(*second, "[dict get $s rows] == 45")) << second->Errors();
 }
 
 /// The dark theme on a screen of twice as many points; places are told in pixels of the logic.
