@@ -127,54 +127,40 @@ TEST_F(DesignerMenusTest, NamesOfAnyKindArriveAsOneWordAndNothingRuns) {
     EXPECT_EQ(Answer("info exists ::ran"), "0");
 }
 
-TEST_F(DesignerMenusTest,
-       ItemsForSelectedViewsAreGreyedWhereANameWouldNotArrive){const struct {const char * cell;
-bool arrives;
-}
-cells[] = {
-    {"\"ab", false},
-    {"\"a\"", false},
-    {"a\\b", false},
-    {"a\\", false},
-    {"{b", false},
-    {"a\"b", true},
-    {"ab\"", true},
-    {"my cell", true},
-    {"a$[x]", true},
-    {"a{b}c", true},
-    {"a{b", true},
-    {"a}b", true},
-    {"a;b#", true},
-    {"a\nb", true}
-}
-};
-for (const auto& cell : cells)
-    m_folder.Write(std::string("names/") + cell.cell + ".sym", "v {}\n");
-Start();
-auto& browser = m_navigator->Browser();
-browser.SelectInLibraryList("names");
-m_navigator->Populate();
-ASSERT_EQ(browser.GetCellViewCount(), std::size(cells));
-const auto isReserved = [this](const std::string& cell) {
-    return Answer(gListOfWords(
-               {"database", "cellviewinfo", "is_reserved", m_design, "names", cell, "symbol"})) == "1";
-};
-for (const auto& cell : cells) {
-    SCOPED_TRACE(cell.cell);
-    browser.HighlightCellInList("names", cell.cell);
-    ASSERT_EQ(browser.GetFocusedCell().cell, cell.cell);
-    const std::size_t before = Log().size();
-    PickFromCells("&Reserve");
-    EXPECT_THAT(m_seen, Contains(cell.arrives ? "&Reserve" : "&Reserve -"));
-    EXPECT_THAT(m_seen, Contains(cell.arrives ? "&Hide in lists" : "&Hide in lists -"));
-    EXPECT_THAT(m_seen, Contains("&Open as text !")) << "the focused one can always be told";
-    EXPECT_EQ(isReserved(cell.cell), cell.arrives);
-    EXPECT_EQ(Log().size(), cell.arrives ? before + 2 : before) << "nothing fails";
-    browser.AddToCellListSelections({{"names", "my cell", "symbol"}});
-    PickFromCells("");
-    EXPECT_THAT(m_seen, Contains(cell.arrives ? "&Hide in lists" : "&Hide in lists -"))
-        << "one such name spoils the whole list";
-}
+TEST_F(DesignerMenusTest, ItemsForSelectedViewsAreGreyedWhereANameWouldNotArrive) {
+    const struct {
+        const char* cell;
+        bool arrives;
+    } cells[] = {{"\"ab", false}, {"\"a\"", false}, {"a\\b", false},   {"a\\", false},  {"{b", false},
+                 {"a\"b", true},  {"ab\"", true},   {"my cell", true}, {"a$[x]", true}, {"a{b}c", true},
+                 {"a{b", true},   {"a}b", true},    {"a;b#", true},    {"a\nb", true}};
+    for (const auto& cell : cells)
+        m_folder.Write(std::string("names/") + cell.cell + ".sym", "v {}\n");
+    Start();
+    auto& browser = m_navigator->Browser();
+    browser.SelectInLibraryList("names");
+    m_navigator->Populate();
+    ASSERT_EQ(browser.GetCellViewCount(), std::size(cells));
+    const auto isReserved = [this](const std::string& cell) {
+        return Answer(gListOfWords(
+                   {"database", "cellviewinfo", "is_reserved", m_design, "names", cell, "symbol"})) == "1";
+    };
+    for (const auto& cell : cells) {
+        SCOPED_TRACE(cell.cell);
+        browser.HighlightCellInList("names", cell.cell);
+        ASSERT_EQ(browser.GetFocusedCell().cell, cell.cell);
+        const std::size_t before = Log().size();
+        PickFromCells("&Reserve");
+        EXPECT_THAT(m_seen, Contains(cell.arrives ? "&Reserve" : "&Reserve -"));
+        EXPECT_THAT(m_seen, Contains(cell.arrives ? "&Hide in lists" : "&Hide in lists -"));
+        EXPECT_THAT(m_seen, Contains("&Open as text !")) << "the focused one can always be told";
+        EXPECT_EQ(isReserved(cell.cell), cell.arrives);
+        EXPECT_EQ(Log().size(), cell.arrives ? before + 2 : before) << "nothing fails";
+        browser.AddToCellListSelections({{"names", "my cell", "symbol"}});
+        PickFromCells("");
+        EXPECT_THAT(m_seen, Contains(cell.arrives ? "&Hide in lists" : "&Hide in lists -"))
+            << "one such name spoils the whole list";
+    }
 }
 
 TEST_F(DesignerMenusTest, ADoubleClickOpens) {
