@@ -274,3 +274,18 @@ TEST_F(ScaleScenarioTest, TheHeaderEndsWhereTheRowsBegin) {
                         first);
     EXPECT_GT(text.width(), 10 * ratio) << "the caption";
 }
+
+// Once a style took minutes, at three, for the picture of a section that was as wide as this.
+TEST_F(ScaleScenarioTest, AHeaderOfAnyWidthIsPaintedAtOnceAndLooksTheSame) {
+    report.GetColumns().GetAt(2)->SetWidth(2000);
+    Populate(3);
+    auto* header = gWidgetOf(report)->findChild<QWidget*>("header");
+    ASSERT_NE(header, nullptr);
+    const QImage wide = Scaled::Grab(*header);
+    report.GetColumns().GetAt(2)->SetWidth(0x7FFFFFFF);
+    QApplication::processEvents();
+    EXPECT_EQ(Scaled::Grab(*header), wide);
+    report.SetScrollX(0x7FFFFFFF);
+    QApplication::processEvents();
+    EXPECT_NE(Scaled::Grab(*header), wide) << "its caption is out of sight";
+}

@@ -23,6 +23,9 @@ namespace {
 
 constexpr int cnEdgeReach = 4;
 constexpr int cnVerticalPadding = 4;
+// More than an arrow and the margins around it take.
+constexpr int cnOutOfSight = 100;
+constexpr int cnLongestText = 10000;
 
 QStyleOptionHeader::SectionPosition PositionOf(const QtColumnPlace& place) {
     return place.visibleIndex == 0 ? QStyleOptionHeader::Beginning : QStyleOptionHeader::Middle;
@@ -80,11 +83,20 @@ void QtReportHeader::ApplyColors() {
         m_colors.setColor(role, ink);
 }
 
+// Styles draw a section as one picture of its size, in pixels of the screen. One of a column as wide as a
+// user or a kept setting may make it takes them minutes: what lies far out of sight is left out, and with it
+// neither text nor arrow is moved.
+QRect QtReportHeader::PaintedPart(const QtColumnPlace& place, const QString& text) const {
+    const int textWidth = std::min(fontMetrics().horizontalAdvance(text), cnLongestText);
+    const int left = std::max(place.left, -(textWidth + cnOutOfSight));
+    const int right = std::min(place.Right(), width() + cnOutOfSight);
+    return {left, 0, std::max(right - left, 0), height()};
+}
+
 void QtReportHeader::PaintSection(QPainter& painter, const QtColumnPlace& place) const {
     QStyleOptionHeader option;
     option.initFrom(this);
     option.palette = m_colors;
-    option.rect = QRect(place.left, 0, place.width, height());
     option.orientation = Qt::Horizontal;
     option.section = place.visibleIndex;
     option.position = PositionOf(place);
@@ -103,6 +115,7 @@ void QtReportHeader::PaintSection(QPainter& painter, const QtColumnPlace& place)
     const int arrow = sorted ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) + margin : 0;
     option.text = fontMetrics().elidedText(gToQString(place.column->GetCaption()), Qt::ElideRight,
                                            place.width - 2 * margin - arrow);
+    option.rect = PaintedPart(place, option.text);
     style()->drawControl(QStyle::CE_Header, &option, &painter, this);
 }
 

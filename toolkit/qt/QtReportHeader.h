@@ -47,6 +47,7 @@ private:
         COLORREF text = cnNoColor;
     };
 
+    [[nodiscard]] QRect PaintedPart(const QtColumnPlace& place, const QString& text) const;
     void PaintSection(QPainter& painter, const QtColumnPlace& place) const;
     void PaintEmptySection(QPainter& painter, int left) const;
     void PaintDropMark(QPainter& painter) const;
