@@ -50,7 +50,7 @@ protected:
         ASSERT_NE(header, nullptr);
         const QPoint point(Report().GetColumns().GetAt(0)->GetShownWidth() + 3, 4);
         QContextMenuEvent event(QContextMenuEvent::Mouse, point, header->mapToGlobal(point));
-        QApplication::sendEvent(header->viewport(), &event);
+        QApplication::sendEvent(header, &event);
     }
     void OpenTab() {
         auto& bar = dynamic_cast<QTabBar&>(*gWidgetOf(Tabs()));
