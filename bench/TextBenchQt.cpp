@@ -61,6 +61,10 @@ struct QtChanges {
         if constexpr (What == Change::ReplaceChar) changed.replace(u'_', u'-');
         if constexpr (What == Change::ReplaceText)
             changed.replace(QLatin1String("_x"), QLatin1String("-by-"));
+        if constexpr (What == Change::ReplaceCharNoCase)
+            changed.replace(QChar(u'X'), QChar(u'-'), Qt::CaseInsensitive);
+        if constexpr (What == Change::ReplaceTextNoCase)
+            changed.replace(QLatin1String("_x"), QLatin1String("-y"), Qt::CaseInsensitive);
         return changed;
     }
 };
@@ -97,6 +101,8 @@ void RegisterQtPeers() {
 void RegisterQtChangePeers() {
     RegisterChanges<QtChanges>("QString");
     RegisterChanges<QtUtf8Changes>("QString_utf8");
+    RegisterNoCaseChanges<QtChanges>("QString");
+    RegisterNoCaseChanges<QtUtf8Changes>("QString_utf8");
 }
 
 }  // namespace text_bench

@@ -87,6 +87,13 @@ void RegisterChanges(const std::string& name, bool asciiOnly = false) {
     RegisterChange<Peer, Change::Tokens>("tokens", name, asciiOnly);
 }
 
+/// Those that replace in either case.
+template <typename Peer>
+void RegisterNoCaseChanges(const std::string& name, bool asciiOnly = false) {
+    RegisterChange<Peer, Change::ReplaceCharNoCase>("replacecharnocase", name, asciiOnly);
+    RegisterChange<Peer, Change::ReplaceTextNoCase>("replacetextnocase", name, asciiOnly);
+}
+
 /// Registers a peer for the changes that only ours and the standard string's peers have.
 template <typename Peer>
 void RegisterMoreChanges(const std::string& name, bool asciiOnly = false) {
@@ -95,8 +102,7 @@ void RegisterMoreChanges(const std::string& name, bool asciiOnly = false) {
     RegisterChange<Peer, Change::SpanOf>("spanof", name, asciiOnly);
     RegisterChange<Peer, Change::SpanTo>("spanto", name, asciiOnly);
     RegisterChange<Peer, Change::IsBlank>("isblank", name, asciiOnly);
-    RegisterChange<Peer, Change::ReplaceCharNoCase>("replacecharnocase", name, asciiOnly);
-    RegisterChange<Peer, Change::ReplaceTextNoCase>("replacetextnocase", name, asciiOnly);
+    RegisterNoCaseChanges<Peer>(name, asciiOnly);
     RegisterChange<Peer, Change::QuotedList>("quotedlist", name, asciiOnly);
 }
 

@@ -25,7 +25,7 @@ constexpr int cnEdgeReach = 4;
 constexpr int cnVerticalPadding = 4;
 // More than an arrow and the margins around it take.
 constexpr int cnOutOfSight = 100;
-constexpr int cnLongestText = 10000;
+constexpr int cnLongestTitle = 10000;
 
 QStyleOptionHeader::SectionPosition PositionOf(const QtColumnPlace& place) {
     return place.visibleIndex == 0 ? QStyleOptionHeader::Beginning : QStyleOptionHeader::Middle;
@@ -87,7 +87,7 @@ void QtReportHeader::ApplyColors() {
 // user or a kept setting may make it takes them minutes: what lies far out of sight is left out, and with it
 // neither text nor arrow is moved.
 QRect QtReportHeader::PaintedPart(const QtColumnPlace& place, const QString& text) const {
-    const int textWidth = std::min(fontMetrics().horizontalAdvance(text), cnLongestText);
+    const int textWidth = std::min(fontMetrics().horizontalAdvance(text), cnLongestTitle);
     const int left = std::max(place.left, -(textWidth + cnOutOfSight));
     const int right = std::min(place.Right(), width() + cnOutOfSight);
     return {left, 0, std::max(right - left, 0), height()};
