@@ -19,7 +19,7 @@ namespace {
 constexpr int cnMostLinesKept = 20'000;
 constexpr int cnWantedWidth = 400;
 constexpr int cnWantedHeight = 200;
-constexpr int cnMargin = 4;
+constexpr int cnPaneMargin = 4;
 
 QString ShownText(const std::string& utf8) {
     QString text = QString::fromStdString(utf8);
@@ -48,8 +48,8 @@ ConsolePane::ConsolePane(TclConsole& console, QWidget* parent)
     m_output->setTabChangesFocus(true);
     m_output->setMinimumSize(1, 1);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(cnMargin, 0, cnMargin, cnMargin);
-    layout->setSpacing(cnMargin);
+    layout->setContentsMargins(cnPaneMargin, 0, cnPaneMargin, cnPaneMargin);
+    layout->setSpacing(cnPaneMargin);
     layout->addWidget(m_output, 1);
     layout->addWidget(m_input);
     setFocusProxy(m_input);

@@ -6,6 +6,7 @@
 
 #include "host/DisplayName.h"
 #include "host/PathText.h"
+#include "host/Utf8.h"
 #include "vapp/toolkit/CWinAppEx.h"
 
 namespace navigator {
@@ -38,20 +39,16 @@ fs::path IdentityOf(const fs::path& folder) {
     return error ? Absolute(folder) : Absolute(path);
 }
 
-bool IsContinuation(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
 std::size_t CountCharacters(const std::string& text) {
     return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char byte) { return !IsContinuation(byte); }));
+        std::count_if(text.begin(), text.end(), [](char byte) { return !gIsContinuation(byte); }));
 }
 
 /// Where the character with this number begins.
 std::size_t BeginOf(const std::string& text, std::size_t character) {
     std::size_t at = 0;
     for (std::size_t passed = 0; at < text.size(); ++at) {
-        if (!IsContinuation(text[at]) && passed++ == character) break;
+        if (!gIsContinuation(text[at]) && passed++ == character) break;
     }
     return at;
 }

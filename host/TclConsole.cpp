@@ -7,6 +7,7 @@
 
 #include "host/OutputCapture.h"
 #include "host/TclCommand.h"
+#include "host/Utf8.h"
 
 namespace navigator {
 
@@ -15,17 +16,14 @@ namespace {
 /// A window lays a line out as a whole, and again whenever its width changes.
 constexpr std::size_t cnLongestLine = 4'000;
 
-bool IsContinuation(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
 /// The first place at or before `at` where a character begins; a text that is no UTF-8 is cut anywhere.
 std::size_t CharacterBegin(std::string_view text, std::size_t at) {
     constexpr std::size_t cnLongestCharacter = 4;
     std::size_t begin = at;
-    while (begin > 0 && at - begin < cnLongestCharacter && begin < text.size() && IsContinuation(text[begin]))
+    while (begin > 0 && at - begin < cnLongestCharacter && begin < text.size() &&
+           gIsContinuation(text[begin]))
         --begin;
-    return begin < text.size() && IsContinuation(text[begin]) ? at : begin;
+    return begin < text.size() && gIsContinuation(text[begin]) ? at : begin;
 }
 
 /// Tcl keeps a NUL and characters beyond the first plane in forms of its own.

@@ -13,7 +13,7 @@ namespace navigator {
 namespace {
 
 /// In the order of csItemOptions.
-enum Option { CheckedOption, EnabledOption, StyleOption, SubMenuOption };
+enum ItemOption { CheckedOption, EnabledOption, StyleOption, SubMenuOption };
 constexpr std::array<const char*, 5> csItemOptions{"-checked", "-enabled", "-style", "-submenu", nullptr};
 constexpr std::string_view csDefault = "-default";
 
