@@ -17,31 +17,18 @@
 #include "text/Fold.h"
 #include "text/LinearSearch.h"
 #include "text/MappedText.h"
+#include "text/StoredForm.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
 
 namespace {
 
 using vapp_text::FoldChar;
-using vapp_text::FormOf;
-using vapp_text::TextForm;
+using vapp_text::HasDueMarker;
+using vapp_text::IsEncoded;
 
 constexpr bool IsAsciiUnit(char16_t unit) {
     return unit < 0x80U;
-}
-
-// True where the bytes are those of the characters that the text decodes to. High bytes in a text that says
-// that it is ASCII are read one by one.
-bool IsEncoded(const CStringU& text) {
-    const TextForm form = FormOf(text.PayloadView());
-    return form == TextForm::Plain || (form == TextForm::Encoded && text.HasNonAscii());
-}
-
-// True where the marker is there just if it is due.
-bool HasDueMarker(const CStringU& text) {
-    const std::string_view payload = text.PayloadView();
-    const bool due = !vapp_text::AllAscii(payload) && vapp_text::IsAsciiByte(payload.front());
-    return due == (payload.size() != text.Stored().View().size());
 }
 
 // The bytes of a character, with a NUL behind them.

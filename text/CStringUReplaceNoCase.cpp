@@ -8,7 +8,8 @@
 /// is added here are two ends that the rule lacks: an empty new text goes on behind its hit, and a hit that
 /// has drifted behind the end is none.
 ///
-/// Where all three texts are ASCII, bytes are units, and nothing is decoded.
+/// Where all three texts are ASCII, bytes are units, and nothing is decoded. Nor is it where the two that are
+/// exchanged are, and as long as one another: nothing drifts, and any encoded text is edited where it stands.
 
 #include <algorithm>
 #include <cstring>
@@ -22,6 +23,7 @@
 #include "text/LinearSearch.h"
 #include "text/PlainNoCaseSearch.h"
 #include "text/Search.h"
+#include "text/StoredForm.h"
 #include "vapp/text/CStringU.h"
 
 namespace {
@@ -71,7 +73,8 @@ int ReplaceDrifting(CString& text, Search& search, std::size_t hit, std::string_
     return replaced;
 }
 
-// Plain texts, the wanted one not empty and no part of the edited one.
+// Plain texts, the wanted one not empty and no part of the edited one, which may be encoded where nothing
+// drifts.
 template <typename Search>
 int ReplacePlain(CString& text, Search&& search, std::string_view wanted, std::string_view inserted) {
     std::size_t hit = search.Find(text.View(), 0);
@@ -92,6 +95,19 @@ int ReplacePlain(CString& text, std::string_view wanted, std::string_view insert
         return ReplacePlain(text, ShortNoCaseSearch(wanted), wanted, inserted);
     }
     return ReplacePlain(text, LongNoCaseSearch(text.View(), wanted), wanted, inserted);
+}
+
+// Whether a text holds a character that Unicode folds into ASCII: the dotted capital I or the sign of Kelvin.
+// A system's own table may do so or not.
+bool HoldsForeignLetter(std::string_view payload) {
+    return payload.find("\xC4\xB0") != std::string_view::npos ||
+           payload.find("\xE2\x84\xAA") != std::string_view::npos;
+}
+
+// Whether a plain text is found in this one just where its bytes stand, in either case.
+bool GoesByBytes(const CStringU& text, std::string_view wanted) {
+    if (!text.HasNonAscii() || !vapp_text::HasDueMarker(text) || !vapp_text::IsEncoded(text)) return false;
+    return wanted.find_first_of("iIkK") == std::string_view::npos || !HoldsForeignLetter(text.PayloadView());
 }
 
 std::u16string Folded(std::u16string units) {
@@ -132,10 +148,12 @@ int CStringU::ReplaceNoCase(const CStringU& oldText, const CStringU& newText) {
     if (this == &oldText || this == &newText) return ReplaceNoCase(CStringU(oldText), CStringU(newText));
     const std::string_view oldBytes = oldText.PayloadView();
     const std::string_view newBytes = newText.PayloadView();
-    // A text may say that it isn't ASCII, and be: the marker is no part of what is searched.
-    if (!oldBytes.empty() && !HasNonAscii() && IsPlain(oldBytes) && IsPlain(newBytes) &&
-        IsPlain(PayloadView())) {
-        return ReplacePlain(m_stored, oldBytes, newBytes);
+    if (!oldBytes.empty() && IsPlain(oldBytes) && IsPlain(newBytes)) {
+        // A text may say that it isn't ASCII, and be: the marker is no part of what is searched.
+        const bool asciiText = !HasNonAscii() && IsPlain(PayloadView());
+        if (asciiText || (oldBytes.size() == newBytes.size() && GoesByBytes(*this, oldBytes))) {
+            return ReplacePlain(m_stored, oldBytes, newBytes);
+        }
     }
     if (!IsFound(Payload(), oldText.Payload())) return 0;
     DriftingEdit edit(ToWide());

@@ -1,5 +1,6 @@
 /// @file
-/// A plain text that is looked for without case in another one: ASCII without a NUL, both of them.
+/// A plain text, ASCII without a NUL, that is looked for without case in another one, byte by byte: in one
+/// that is encoded it is found where it stands.
 ///
 /// For the replacement of texts. The short search makes nothing before it begins and takes eight places at a
 /// time; the long one folds both texts first, so that a search takes no more than their lengths together,
@@ -58,8 +59,8 @@ private:
     struct TEightOf {
         explicit TEightOf(char byte) noexcept
             : folded(EightOf(FoldAsciiByte(byte))), caseBits(EightOf(AsciiCaseBit(byte))) {}
-        // Zero for each byte that is the character, with no high bit in the others.
-        [[nodiscard]] Word Differences(Word plain) const noexcept { return (plain | caseBits) ^ folded; }
+        // Zero for each byte that is the character.
+        [[nodiscard]] Word Differences(Word bytes) const noexcept { return (bytes | caseBits) ^ folded; }
 
         Word folded;
         Word caseBits;
@@ -68,7 +69,7 @@ private:
     // Marks the places of eight that hold the first and the last character, given what stands where each
     // would have to.
     [[nodiscard]] Word HitsOf(Word firsts, Word lasts) const noexcept {
-        return ~((m_first.Differences(firsts) | m_last.Differences(lasts)) + ~cnHighBits) & cnHighBits;
+        return ZeroBytes(m_first.Differences(firsts) | m_last.Differences(lasts));
     }
     [[nodiscard]] std::size_t FirstHeld(const char* text, std::size_t from, Word hits) const noexcept {
         for (; hits != 0; hits &= hits - 1) {

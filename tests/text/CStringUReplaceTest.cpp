@@ -5,7 +5,6 @@
 
 #include "tests/text/HostileText.h"
 #include "tests/text/LocaleTables.h"
-#include "text/Fold.h"
 #include "text/Search.h"
 #include "text/Upper.h"
 #include "vapp/text/CStringU.h"
@@ -251,21 +250,6 @@ TEST(CStringUReplace, AStaleMarkerGoesWithAReplacement) {
     text = Raw("\x80\xC3\xA9_");
     EXPECT_EQ(text.Replace("_", "-"), 1);
     EXPECT_EQ(Stored(text), "\xC3\xA9-");
-    for (const char* const newText : {"y", "yy"}) {
-        text =
-            Raw("\x80"
-                "aXbX");
-        EXPECT_EQ(text.ReplaceNoCase("x", newText), 2);
-        EXPECT_EQ(Stored(text), newText[1] == '\0' ? "ayby" : "ayyyyX");
-    }
-    text =
-        Raw("\x80"
-            "aXbX");
-    EXPECT_EQ(text.ReplaceNoCase("c", "d"), 0);
-    EXPECT_EQ(Stored(text),
-              "\x80"
-              "aXbX")
-        << "nothing found, nothing touched";
 }
 
 TEST(CStringUReplace, NoLocaleChangesTheFormsOfACharacter) {
@@ -280,7 +264,7 @@ TEST(CStringUReplace, NoLocaleChangesTheFormsOfACharacter) {
 // Few letters in both cases, so that there is something to replace.
 std::u16string Letters(std::mt19937& random, std::size_t longest) {
     static constexpr std::u16string_view ascii = u"aAbB";
-    static constexpr std::u16string_view wide = u"aAbB\u00e9\u00c9\u4e2d\u212ak";
+    static constexpr std::u16string_view wide = u"aAbB\u00e9\u00c9\u4e2d\u212aki\u0130";
     const std::u16string_view alphabet = UpTo(random, 1) == 0 ? ascii : wide;
     std::u16string text;
     for (std::size_t left = UpTo(random, longest); left > 0; --left)
