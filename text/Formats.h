@@ -42,15 +42,18 @@ namespace vapp_text {
 /// printf into a new narrow string. For formats that the compiler sees.
 [[nodiscard]] CString FormatNarrow(const char* format, ...) VAPP_PRINTF_LIKE(1, 2);
 
-/// One value of a wide format, of whatever type it came in, but no `long double`, which would be cut to a
-/// double. Lives as long as the call; keeps a copy of texts.
+/// A number that a wide format takes whole: none of type `long double`, which would be cut to a double.
+template <typename Number>
+concept FormatNumber =
+    !std::is_same_v<Number, long double> && (std::is_arithmetic_v<Number> || std::is_enum_v<Number>);
+
+/// One value of a wide format, of whatever type it came in. Lives as long as the call; keeps a copy of texts.
 class WideFormatValue {
 public:
     enum class Kind { Integer, Real, Text, Pointer };
 
-    template <typename Number>
-    requires(std::is_arithmetic_v<Number> || std::is_enum_v<Number>) &&
-        (!std::is_same_v<Number, long double>)WideFormatValue(Number number) {
+    template <FormatNumber Number>
+    WideFormatValue(Number number) {
         if constexpr (std::is_floating_point_v<Number>) {
             m_kind = Kind::Real;
             m_real = static_cast<double>(number);

@@ -128,6 +128,12 @@ void ExpectWholeNumbersAndTexts() {
     EXPECT_EQ(CStringU::Formatted("%d %s", -42, "1.5"), CStringU("-42 1.5"));
 }
 
+TEST(Formats, ANumberThatWouldBeCutIsRefused) {
+    static_assert(!std::is_constructible_v<vapp_text::WideFormatValue, long double>);
+    static_assert(std::is_constructible_v<vapp_text::WideFormatValue, double>);
+    EXPECT_EQ(FormatWide("%g", static_cast<double>(1.5L)), u"1.5");
+}
+
 // Which sign stands between groups is the C library's to say: in one that puts "." for real numbers, integers
 // have ",".
 TEST(Formats, GroupsAreThoseOfTheNarrowPrintf) {
